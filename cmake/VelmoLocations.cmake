@@ -1,0 +1,16 @@
+# The places that a distribution, a test or the demonstration may want
+# elsewhere, written into one generated header.
+set(VELMO_INSTALLED_HELP_DIR "/Library/Application Support/Velmo/Help/"
+  CACHE STRING "The machine's installed help content")
+set(VELMO_FRAMEWORKS_DIR "/Library/Frameworks"
+  CACHE STRING "The last folder that is searched for bundles")
+set(VELMO_SYSCONF_DIR "/etc/velmo"
+  CACHE STRING "The folder of the administrator's preferences")
+set(VELMO_ONLINE_HELP_HOST "help.velmo.com"
+  CACHE STRING "The online help server's host name")
+
+# The client relies on the slash behind the content folder's name.
+string(REGEX REPLACE "([^/])$" "\\1/" VELMO_INSTALLED_HELP_DIR
+  "${VELMO_INSTALLED_HELP_DIR}")
+configure_file("${PROJECT_SOURCE_DIR}/cmake/locations.h.in"
+  "${PROJECT_BINARY_DIR}/generated/velmohelp_locations.h" @ONLY)

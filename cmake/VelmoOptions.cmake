@@ -1,0 +1,23 @@
+# What a build may leave out or turn on. Whoever embeds the project with
+# add_subdirectory gets the library alone.
+option(VELMO_BUILD_TESTS "Build the tests" ${PROJECT_IS_TOP_LEVEL})
+option(VELMO_WARNINGS_AS_ERRORS "Fail on a warning" ${PROJECT_IS_TOP_LEVEL})
+set(VELMO_SANITIZE "" CACHE STRING
+  "Sanitizers to build with, as for -fsanitize (address,undefined)")
+
+# The folder of platform/ that answers for this machine.
+if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
+  set(velmo_default_platform linux)
+else()
+  set(velmo_default_platform unsupported)
+endif()
+set(VELMO_PLATFORM "${velmo_default_platform}" CACHE STRING
+  "The folder of platform/ that answers for this machine")
+
+# The library and its helper programs lie together, in the build tree as in the
+# installed one: the library finds them by its own location.
+set(VELMO_LIBRARY_DIR "${PROJECT_BINARY_DIR}/lib")
+
+if(PROJECT_IS_TOP_LEVEL AND NOT CMAKE_BUILD_TYPE)
+  set(CMAKE_BUILD_TYPE Release CACHE STRING "Build type" FORCE)
+endif()

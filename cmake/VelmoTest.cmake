@@ -1,0 +1,8 @@
+# velmo_add_test(NAME SOURCE...): a GoogleTest program over the library's
+# objects, each of its tests one test of CTest.
+function(velmo_add_test name)
+  add_executable(${name} ${ARGN})
+  velmo_configure(${name})
+  target_link_libraries(${name} PRIVATE velmohelp_objects GTest::gmock_main)
+  gtest_discover_tests(${name} TEST_PREFIX "${name}." DISCOVERY_TIMEOUT 60)
+endfunction()

@@ -1,0 +1,86 @@
+// Help configuration files (".helpcfg") and the viewer's preferences.
+// Strings are byte strings. These functions throw what the standard library
+// throws (std::bad_alloc); they are not part of the C interface.
+#ifndef VELMOHELP_CONFIG_H_
+#define VELMOHELP_CONFIG_H_
+
+#include <velmohelp/export.h>
+
+#include <cstdint>
+#include <string>
+
+/// What a read of a help configuration answers.
+enum HelpConfigResult : std::uint32_t {
+  kConfigAccepted = 0,
+  kConfigUnreadable = 6,
+  kConfigInvalid = 7,
+};
+
+/// Answers for a key the quoted value that follows it in a text file, by plain
+/// text search: no elements, no entities, no comments, no word boundaries.
+class VELMOHELP_API XMLParser {
+ public:
+  XMLParser();
+
+  /// Replaces the buffer with the file's text. The file is taken in pieces of
+  /// 1023 bytes, and a zero byte drops the rest of its piece. False, with an
+  /// empty buffer, when the path is empty or the file cannot be read.
+  bool ReadFileToBuffer(std::string path);
+
+  /// The text between the first two double quotes after the first "=" after
+  /// the first occurrence of key; "" where one of these is missing. The values
+  /// of "accessibleMode" and "localHelp" come upper-cased.
+  ///
+  /// Never returns when the closing quote has a backslash before it: the
+  /// format has no escapes, and the scan looks at the same quote for ever.
+  std::string GetKey(std::string key) const;
+
+  /// A copy with each byte passed through the C library's toupper.
+  std::string StringToUpper(std::string text) const;
+
+  /// Fills the rows (content folder, upper-cased "contextSensitivity" value).
+  /// count: rows available on entry, flags found on return; unchanged, like
+  /// the table, when the text holds no "path". The first "path" is skipped.
+  /// A value without a closing quote ends its pass.
+  void PopulatePathArray(std::string (*table)[2], int& count) const;
+
+ private:
+  std::string buffer_;
+};
+
+/// A copy with each byte passed through the C library's toupper.
+VELMOHELP_API std::string StringToUpper(std::string text);
+
+/// Reads one configuration file into the client's state. kConfigInvalid leaves
+/// in the state what was assigned before the value that was rejected.
+VELMOHELP_API std::uint32_t ReadHelpcfg(std::string path);
+
+/// Finds and reads the configuration of the client's product in a locale: the
+/// downloaded file where there is a valid one, else the installed one.
+VELMOHELP_API std::uint32_t UpdateHelpConfigInfo(std::string locale);
+
+/// Whether the viewer's preference file allows the viewer: 2 when
+/// "accessibleMode" is "TRUE" in any letter case, else (no file too) 1.
+VELMOHELP_API int GetKLHFilePreferenceForHelpApp(std::string path);
+
+/// False when "localHelp" is "TRUE" in any letter case, else (no file too)
+/// true. No request asks this; it serves other modules.
+VELMOHELP_API bool GetPreferenceSettingsForNetwork(std::string path);
+
+namespace ITEMInternal {
+
+/// "<host resources>/help/<locale>/<product>.helpcfg".
+VELMOHELP_API std::string GetHelpConfigPath(std::string product,
+                                            std::string locale);
+
+/// "<user Preferences><kDownloadedHelpcfg>/<first>/<second>.helpcfg".
+VELMOHELP_API std::string GetDownloadedHelpConfigPath(std::string first,
+                                                      std::string second);
+
+/// The host preference "HelpcfgName" (any user, this host) of the domain
+/// "com.velmo.<a>.<b>", UTF-8; "" when a or b is empty or nothing is set.
+VELMOHELP_API std::string GetHelpConfigName(std::string a, std::string b);
+
+}  // namespace ITEMInternal
+
+#endif  // VELMOHELP_CONFIG_H_

@@ -1,0 +1,39 @@
+// Whether online help may be used: policy, then reachability.
+#ifndef VELMOHELP_ONLINE_H_
+#define VELMOHELP_ONLINE_H_
+
+#include <velmohelp/export.h>
+
+#include <string>
+
+/// Asks both preferences and, where neither is "0", the network, and keeps the
+/// answer in the client's state (GetVelmoHelpClientOnlineStatus reports it).
+VELMOHELP_API void GetNetworkStatus();
+
+namespace ITEMInternal {
+
+/// A scope of the preference that allows online help.
+enum NexletPreference {
+  kAdminPreference = 0,  ///< The administrator's: any user, this host.
+  kUserPreference = 1,   ///< The user's: this user, any host.
+};
+
+/// True when neither preference is "0". The user's is not read when the
+/// administrator's is "0".
+VELMOHELP_API bool GetOnlineDefault();
+
+/// False only when the scope's preference is exactly "0".
+VELMOHELP_API bool GetAdminOnlinePref();
+VELMOHELP_API bool GetUserOnlinePref();
+
+/// True when the URL's host can be reached without first establishing a
+/// connection. No packet is sent to the host.
+VELMOHELP_API bool GetOnlineStatus(const std::string& url);
+
+/// The preference's text, UTF-8; "" when nothing is set, it cannot be read, or
+/// which is none of the two scopes. Never throws.
+VELMOHELP_API std::string GetNexletPreference(NexletPreference which);
+
+}  // namespace ITEMInternal
+
+#endif  // VELMOHELP_ONLINE_H_

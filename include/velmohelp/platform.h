@@ -1,0 +1,99 @@
+// The machine as the client uses it: files, folders, the help viewer and the
+// browser, and texts in the platform's own form.
+#ifndef VELMOHELP_PLATFORM_H_
+#define VELMOHELP_PLATFORM_H_
+
+#include <velmohelp/export.h>
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <utility>
+
+namespace ITEMInternal {
+
+/// Names one existing file, however it is reached (POSIX st_dev, st_ino).
+struct FileReference {
+  std::uint64_t device = 0;
+  std::uint64_t inode = 0;
+};
+
+/// An immutable Unicode text. Where a function takes a pointer to one, null
+/// stands for a text that could not be made.
+class PlatformString {
+ public:
+  /// utf8: valid UTF-8.
+  explicit PlatformString(std::string utf8) : utf8_(std::move(utf8)) {}
+  const std::string& utf8() const { return utf8_; }
+
+ private:
+  std::string utf8_;
+};
+
+/// The numbers by which text encodings are known.
+enum TextEncoding : std::uint32_t {
+  kTextEncodingMacRoman = 0,
+  kTextEncodingAscii = 0x0600,
+  kTextEncodingUtf8 = 0x08000100,
+};
+
+/// True when a file or a directory exists at path (UTF-8).
+VELMOHELP_API bool FileExists(std::string path);
+
+/// True when the QTV tool says that the viewer's runtime is installed.
+VELMOHELP_API bool IsZAMRuntimePresent();
+
+/// The path of the viewer's executable as the QTV tool tells it, or "".
+VELMOHELP_API std::string GetHelpApplicationPath();
+
+/// Starts an executable with four arguments. 0: it was running at once after
+/// its start; 1: nothing exists at path, or it was not. It is not waited for.
+VELMOHELP_API int LaunchApplication(const std::string& path,
+                                    const std::string& mode,
+                                    const std::string& product,
+                                    const std::string& locale,
+                                    const std::string& request);
+
+/// Opens a URL in the user's default browser. 0: opened; 2: not.
+VELMOHELP_API int LaunchPlatformBrowser(const std::string& url);
+
+/// Finds a standard folder. domain: -32763, the user's; type: 'pref'
+/// (0x70726566), the Preferences folder; create: not 0 to make it when it is
+/// missing. False, with out untouched, when there is no such folder.
+VELMOHELP_API bool StdStringFindFolder(std::int16_t domain, std::uint32_t type,
+                                       std::uint8_t create, std::string& out);
+
+/// Preferences folder and kKLHPreferenceFile.
+VELMOHELP_API std::string GetKLHPreferenceFilePath();
+/// Preferences folder and kDownloadedOfflineContent.
+VELMOHELP_API std::string GetDownloadedContentPath();
+/// The machine's help content, with a final "/".
+VELMOHELP_API std::string GetInstalledContentPath();
+/// The machine's help content, joined with second, then with first.
+VELMOHELP_API std::string GetHelpContentDirectory(std::string first,
+                                                  std::string second);
+
+/// The reference of the file at a path that may be percent-encoded. Returns 0;
+/// -1403 when path is no UTF-8 or not to be made a URL; -43 when there is no
+/// such file; -1302 when it is a directory. out is written only on 0.
+VELMOHELP_API std::int16_t GetFSRefFromPath(std::string path,
+                                            FileReference& out);
+
+/// The text in an encoding; "" when it is null, not expressible, or longer
+/// than 1023 bytes.
+VELMOHELP_API std::string GetString(const PlatformString* text,
+                                    std::uint32_t encoding);
+
+/// The text as a new NUL-terminated UTF-8 string that the caller frees with
+/// free(), or null when it is null or memory runs out. Null also for an empty
+/// text and for one of three-byte characters alone: the room set aside is
+/// three bytes for each UTF-16 unit, with none for the NUL.
+VELMOHELP_API char* GetCharFromCFStringRef(const PlatformString* text);
+
+/// The text made from UTF-8; null when text is null or no UTF-8.
+VELMOHELP_API std::unique_ptr<const PlatformString> CstrToNSstr(
+    const char* text);
+
+}  // namespace ITEMInternal
+
+#endif  // VELMOHELP_PLATFORM_H_

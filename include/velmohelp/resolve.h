@@ -1,0 +1,90 @@
+// From a page id to the page: normalisation, help maps, validation, search
+// page. Strings are byte strings; no character set is assumed.
+#ifndef VELMOHELP_RESOLVE_H_
+#define VELMOHELP_RESOLVE_H_
+
+#include <velmohelp/export.h>
+
+#include <deque>
+#include <fstream>
+#include <map>
+#include <string>
+
+/// True when text begins with "http://", "https://" or "file://", in lower
+/// case.
+VELMOHELP_API bool isUrl(std::string text);
+
+/// True when name ends with ".html" or ".htm", in lower case.
+VELMOHELP_API bool isHTMLPage(std::string name);
+
+/// Makes a bare page id the name of an HTML file: every byte that is no ASCII
+/// letter, digit, "_", "-" or "." becomes "_", and ".html" is appended. URLs
+/// and names of HTML files stay as they are.
+VELMOHELP_API void NormalizePageID(std::string& id);
+
+/// Finds the target of a normalised page id in the client's content folders:
+/// downloaded before installed, then in table order.
+///
+/// online chooses between URLs below the base URL (true) and local paths.
+/// Returns 0 with the target in out (a path or a URL), or 3 with the page id
+/// in out. Leaves the help map read last in sHelpMap. Throws
+/// std::ios_base::failure when a help map breaks while it is read.
+VELMOHELP_API unsigned char ValidateID(std::string pageId, bool online,
+                                       std::string& out);
+
+/// Finds "search.html" in the client's content folders. False, with page
+/// emptied, when there is none. Neither locale nor paths is read: the rows
+/// searched always are the client's own.
+VELMOHELP_API bool GetSearchPage(std::string& page, std::string locale,
+                                 std::string paths[][2]);
+
+/// Joins two path components, always with one "/" put between them unless
+/// base ends with one ("" and "x" give "/x"). The name is spelled this way.
+VELMOHELP_API std::string AppentPath(std::string base, std::string leaf);
+
+namespace ITEMInternal {
+
+/// The same answer as ::isUrl for every input.
+VELMOHELP_API bool isUrl(std::string text);
+
+/// fetch false: something exists at the path target. fetch true: target is a
+/// valid URL and a text could be loaded from it, whole. Blocks meanwhile.
+VELMOHELP_API bool ValidateURL(std::string target, bool fetch);
+
+/// Reads a help map: one entry a line, key and value parted by TABs, the first
+/// entry of a key wins, lines without two fields are skipped. Empties map
+/// first. True when the file was read and map holds "VX_HOME". Throws
+/// std::ios_base::failure when an opened file cannot be read to its end.
+VELMOHELP_API bool LoadMapFile(const std::string& path,
+                               std::map<std::string, std::string>& map);
+
+/// The first line of a base URL file, with the zone separator "%" of a
+/// bracketed IPv6 host made "%25"; "" when there is none. Throws
+/// std::out_of_range for a line with "://[" but neither "]" nor "%", and
+/// std::ios_base::failure as LoadMapFile does.
+VELMOHELP_API std::string GetHelpMapBaseUrl(const std::string& path);
+
+/// AppendToPath of folder and "helpmap.txt" or "helpmapBaseUrl.txt".
+VELMOHELP_API std::string GetHelpMapPath(const std::string& folder);
+VELMOHELP_API std::string GetHelpMapBaseUrlPath(const std::string& folder);
+
+/// Reads a line that LF, CR or CR LF ends into line, without its end. False
+/// when the input was at its end. Sets no flag of the stream. A stream that is
+/// not good gives true and leaves line as it was.
+VELMOHELP_API bool GetLine(std::ifstream& stream, std::string& line);
+
+/// Splits text at runs of delimiter and appends the fields to out; returns how
+/// many. A text with no delimiter after its first field is one field, whole,
+/// leading and trailing delimiters included; an empty text is none.
+VELMOHELP_API int DelimitedStringToDeque(const char& delimiter,
+                                         const std::string& text,
+                                         std::deque<std::string>& out);
+
+/// Joins two path components with a "/" unless base ends with one; when one of
+/// them is empty, the result is the other.
+VELMOHELP_API std::string AppendToPath(const std::string& base,
+                                       const std::string& leaf);
+
+}  // namespace ITEMInternal
+
+#endif  // VELMOHELP_RESOLVE_H_

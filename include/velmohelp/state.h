@@ -1,0 +1,40 @@
+// The client's state as other modules may see it. Each variable has C linkage,
+// so that its symbol is its name and nothing more. All live as long as the
+// library is loaded; nothing guards them (velmohelp.h, convention 4).
+#ifndef VELMOHELP_STATE_H_
+#define VELMOHELP_STATE_H_
+
+#include <velmohelp/export.h>
+
+#include <map>
+#include <string>
+
+extern "C" {
+
+/// The viewer's application id: key "appId" of the help configuration, or the
+/// default. Empty at load.
+VELMOHELP_API extern std::string sAppID;
+/// The viewer's publisher id: key "pubId", or the default. Empty at load.
+VELMOHELP_API extern std::string sPublisherID;
+/// Page id to page: the help map loaded last. Empty at load.
+VELMOHELP_API extern std::map<std::string, std::string> sHelpMap;
+/// "klh", never changed after load.
+VELMOHELP_API extern std::string sDefaultAppID;
+/// Forty hexadecimal digits, a point and a version digit; never changed.
+VELMOHELP_API extern std::string sDefaultPublisherID;
+
+/// The next three are relative to the user's Preferences folder, begin with
+/// "/", and are empty until an initialisation has read a configuration.
+/// "/<app id>.<publisher id>/Local Store/klh-pref.xml"
+VELMOHELP_API extern std::string kKLHPreferenceFile;
+/// "/<app id>.<publisher id>/Local Store/Help/"
+VELMOHELP_API extern std::string kDownloadedOfflineContent;
+/// "/<app id>.<publisher id>/Local Store/"
+VELMOHELP_API extern std::string kDownloadedHelpcfg;
+
+/// "TRUE" and "FALSE", with which preference values are compared.
+VELMOHELP_API extern const char* kTrue;
+VELMOHELP_API extern const char* kFalse;
+}
+
+#endif  // VELMOHELP_STATE_H_

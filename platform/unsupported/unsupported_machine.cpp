@@ -1,0 +1,60 @@
+#include "platform/unsupported/unsupported_machine.h"
+
+namespace velmohelp {
+
+bool UnsupportedMachine::FileExists(const std::string&) { return false; }
+
+std::optional<FileEntry> UnsupportedMachine::FindFile(const std::string&) {
+  return std::nullopt;
+}
+
+std::optional<std::string> UnsupportedMachine::StandardFolder(std::int16_t,
+                                                              std::uint32_t,
+                                                              bool) {
+  return std::nullopt;
+}
+
+std::optional<std::string> UnsupportedMachine::ResourcesDirectory() {
+  return std::nullopt;
+}
+
+std::optional<std::string> UnsupportedMachine::BundleDirectory(
+    const std::string&) {
+  return std::nullopt;
+}
+
+std::optional<std::string> UnsupportedMachine::ApplicationExecutable(
+    const std::string&) {
+  return std::nullopt;
+}
+
+std::optional<int> UnsupportedMachine::RunToEnd(const std::string&,
+                                                const Arguments&) {
+  return std::nullopt;
+}
+
+std::optional<std::string> UnsupportedMachine::FirstOutput(const std::string&,
+                                                           const Arguments&) {
+  return std::nullopt;
+}
+
+bool UnsupportedMachine::StartProgram(const std::string&, const Arguments&) {
+  return false;
+}
+
+bool UnsupportedMachine::OpenInBrowser(const std::string&) { return false; }
+
+std::optional<Reachability> UnsupportedMachine::HostReachability(
+    const std::optional<std::string>&) {
+  return std::nullopt;
+}
+
+std::optional<std::string> UnsupportedMachine::Preference(const std::string&,
+                                                          const std::string&,
+                                                          PreferenceScope) {
+  return std::nullopt;
+}
+
+bool UnsupportedMachine::FetchText(const std::string&) { return false; }
+
+}  // namespace velmohelp
