@@ -9,10 +9,9 @@
 #include <cstdint>
 #include <string>
 
-namespace velmohelp {
+#include "config/help_config.h"
 
-/// How many content folders a help configuration may name.
-inline constexpr int kHelpPathCapacity = 100;
+namespace velmohelp {
 
 /// Code of the last configuration read (InitReturnCode), 1 at load; 0 means
 /// that the client is initialised. Written by every request.

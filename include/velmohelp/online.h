@@ -13,7 +13,7 @@ VELMOHELP_API void GetNetworkStatus();
 namespace ITEMInternal {
 
 /// A scope of the preference that allows online help.
-enum NexletPreference {
+enum NexletPreference : int {
   kAdminPreference = 0,  ///< The administrator's: any user, this host.
   kUserPreference = 1,   ///< The user's: this user, any host.
 };

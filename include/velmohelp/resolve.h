@@ -38,10 +38,6 @@ VELMOHELP_API unsigned char ValidateID(std::string pageId, bool online,
 VELMOHELP_API bool GetSearchPage(std::string& page, std::string locale,
                                  std::string paths[][2]);
 
-/// Joins two path components, always with one "/" put between them unless
-/// base ends with one ("" and "x" give "/x"). The name is spelled this way.
-VELMOHELP_API std::string AppentPath(std::string base, std::string leaf);
-
 namespace ITEMInternal {
 
 /// The same answer as ::isUrl for every input.
@@ -79,11 +75,6 @@ VELMOHELP_API bool GetLine(std::ifstream& stream, std::string& line);
 VELMOHELP_API int DelimitedStringToDeque(const char& delimiter,
                                          const std::string& text,
                                          std::deque<std::string>& out);
-
-/// Joins two path components with a "/" unless base ends with one; when one of
-/// them is empty, the result is the other.
-VELMOHELP_API std::string AppendToPath(const std::string& base,
-                                       const std::string& leaf);
 
 }  // namespace ITEMInternal
 

@@ -1,10 +1,14 @@
-// Percent-encoding and quotes. Strings are byte strings that hold UTF-8.
+// Paths, percent-encoding and quotes. Strings are byte strings that hold UTF-8.
 #ifndef VELMOHELP_TEXT_H_
 #define VELMOHELP_TEXT_H_
 
 #include <velmohelp/export.h>
 
 #include <string>
+
+/// Joins two path components, always with one "/" put between them unless
+/// base ends with one ("" and "x" give "/x"). The name is spelled this way.
+VELMOHELP_API std::string AppentPath(std::string base, std::string leaf);
 
 /// Percent-encodes a search term: every byte but ASCII letters, digits and
 /// ' ( ) * ! ~ becomes "%" and two lower-case hexadecimal digits; "-", "_" and
@@ -25,6 +29,11 @@ namespace ITEMInternal {
 /// becomes "%25". "" for a text that is no UTF-8 and for a result of more than
 /// 1023 bytes. text counts up to its first zero byte.
 VELMOHELP_API std::string VelmoHelpEncodeURIComponent(const std::string& text);
+
+/// Joins two path components with a "/" unless base ends with one; when one of
+/// them is empty, the result is the other.
+VELMOHELP_API std::string AppendToPath(const std::string& base,
+                                       const std::string& leaf);
 
 }  // namespace ITEMInternal
 

@@ -1,0 +1,23 @@
+// The border between the client and its callers.
+#ifndef CLIENT_GUARDED_H_
+#define CLIENT_GUARDED_H_
+
+#include <exception>
+
+namespace velmohelp {
+
+/// What request returns, or failure when it throws: no exception of the
+/// client's may unwind the host, whose frames may be C. (Only exceptions are
+/// caught: a thread that the host cancels unwinds by other means, and must.)
+template <typename Code, typename Request>
+Code Guarded(Code failure, Request request) {
+  try {
+    return request();
+  } catch (const std::exception&) {
+    return failure;
+  }
+}
+
+}  // namespace velmohelp
+
+#endif  // CLIENT_GUARDED_H_

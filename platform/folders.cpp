@@ -1,0 +1,70 @@
+#include "platform/folders.h"
+
+#include <velmohelp/platform.h>
+#include <velmohelp/text.h>
+#include <velmohelp_locations.h>
+
+#include "util/percent_encoding.h"
+#include "util/platform_string.h"
+#include "util/uri.h"
+
+namespace velmohelp {
+namespace {
+
+constexpr std::int16_t kFileNotFound = -43;
+constexpr std::int16_t kNotAFile = -1302;
+constexpr std::int16_t kNoSuchReference = -1403;
+
+/// The path of a URL in the file system. Escapes are taken off twice, first
+/// from the URL and then from the path: a path that was escaped before its
+/// caller escaped it again is found too.
+std::string FileSystemPathOf(const std::string& url) {
+  return Unescaped(Unescaped(PathOfUri(url)));
+}
+
+std::string WithoutFinalSlash(std::string path) {
+  if (path.ends_with('/')) path.pop_back();
+  return path;
+}
+
+}  // namespace
+
+bool StdStringFindFolder(Machine& machine, std::int16_t domain,
+                         std::uint32_t type, bool create, std::string& out) {
+  const auto folder = machine.StandardFolder(domain, type, create);
+  if (folder) out = *folder;
+  return folder.has_value();
+}
+
+std::string BelowPreferences(Machine& machine, const std::string& suffix) {
+  std::string folder;
+  StdStringFindFolder(machine, kUserDomain, kPreferencesFolderType, true,
+                      folder);
+  return folder + suffix;
+}
+
+std::int16_t GetFsRefFromPath(Machine& machine, const std::string& path,
+                              ITEMInternal::FileReference& out) {
+  const auto text = MakePlatformString(path, ITEMInternal::kTextEncodingUtf8);
+  if (!text) return kNoSuchReference;
+  const std::string escaped = EscapeForUri(text->utf8());
+  if (!IsUri(escaped)) return kNoSuchReference;
+  const auto entry = machine.FindFile(FileSystemPathOf(escaped));
+  if (!entry) return kFileNotFound;
+  if (entry->is_directory) return kNotAFile;
+  out = entry->reference;
+  return 0;
+}
+
+}  // namespace velmohelp
+
+std::string ITEMInternal::GetInstalledContentPath() {
+  return velmohelp::kInstalledHelpDir;
+}
+
+std::string ITEMInternal::GetHelpContentDirectory(std::string first,
+                                                  std::string second) {
+  const std::string base =
+      velmohelp::WithoutFinalSlash(velmohelp::kInstalledHelpDir);
+  return AppendToPath(AppendToPath(base, second), first);
+}

@@ -1,0 +1,19 @@
+// Preferences as the client takes them.
+#ifndef PLATFORM_PREFERENCE_H_
+#define PLATFORM_PREFERENCE_H_
+
+#include <string>
+
+#include "platform/machine.h"
+
+namespace velmohelp {
+
+/// The text of a preference, UTF-8; "" when nothing is set or the value has
+/// no text by the rule of ITEMInternal::GetCharFromCFStringRef. domain and key
+/// are taken as Mac Roman bytes, up to the first zero byte.
+std::string PreferenceText(Machine& machine, const std::string& domain,
+                           const std::string& key, PreferenceScope scope);
+
+}  // namespace velmohelp
+
+#endif  // PLATFORM_PREFERENCE_H_

@@ -1,0 +1,40 @@
+#include <velmohelp/resolve.h>
+
+#include "resolve/help_map.h"
+#include "util/input_file.h"
+
+namespace velmohelp {
+namespace {
+
+/// -1 where text is not found: the rule below counts with it.
+int PositionOf(const char* text, const std::string& in) {
+  return static_cast<int>(in.find(text));
+}
+
+}  // namespace
+
+std::string WithZoneSeparatorEncoded(std::string base_url) {
+  if (base_url.find("://[") == std::string::npos) return base_url;
+  const int bracket = PositionOf("]", base_url);
+  const int percent = PositionOf("%", base_url);
+  const int encoded = PositionOf("%25", base_url);
+  const bool first_is_bare = percent != -1 && encoded == -1;
+  const bool encoded_in_host = encoded <= bracket - 1;
+  if (first_is_bare || !encoded_in_host) {
+    // With neither "%" nor "]" the position is none at all, and replace throws
+    // std::out_of_range. Callers have come to expect it.
+    base_url.replace(static_cast<std::size_t>(percent), 1, "%25");
+  }
+  return base_url;
+}
+
+}  // namespace velmohelp
+
+std::string ITEMInternal::GetHelpMapBaseUrl(const std::string& path) {
+  std::string base_url;
+  std::ifstream file = velmohelp::OpenInputFile(path);
+  if (!file.is_open()) return base_url;
+  GetLine(file, base_url);
+  file.close();
+  return velmohelp::WithZoneSeparatorEncoded(std::move(base_url));
+}

@@ -1,0 +1,22 @@
+#include "util/input_file.h"
+
+#include <filesystem>
+
+namespace velmohelp {
+
+std::ifstream OpenInputFile(const std::string& path) {
+  std::ifstream file;
+  file.exceptions(std::ios_base::badbit);
+  std::error_code ignored;
+  if (!std::filesystem::is_other(path, ignored)) {
+    file.open(path, std::ios_base::in | std::ios_base::binary);
+  }
+  return file;
+}
+
+std::size_t ReadPiece(std::ifstream& file, char* buffer, std::size_t size) {
+  file.read(buffer, static_cast<std::streamsize>(size));
+  return static_cast<std::size_t>(file.gcount());
+}
+
+}  // namespace velmohelp

@@ -1,0 +1,79 @@
+#include "util/platform_string.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <cstring>
+#include <optional>
+
+#include "util/mac_roman.h"
+#include "util/text_buffer.h"
+#include "util/utf8.h"
+
+namespace velmohelp {
+namespace {
+
+bool IsAscii(std::string_view text) {
+  return std::all_of(text.begin(), text.end(), [](char byte) {
+    return static_cast<unsigned char>(byte) < 0x80;
+  });
+}
+
+std::optional<std::string> Decoded(const std::string& bytes,
+                                   std::uint32_t encoding) {
+  switch (encoding) {
+    case ITEMInternal::kTextEncodingMacRoman:
+      return MacRomanToUtf8(bytes);
+    case ITEMInternal::kTextEncodingAscii:
+      return IsAscii(bytes) ? std::optional(bytes) : std::nullopt;
+    case ITEMInternal::kTextEncodingUtf8:
+      return IsUtf8(bytes) ? std::optional(bytes) : std::nullopt;
+    default:
+      return std::nullopt;
+  }
+}
+
+std::optional<std::string> Encoded(const std::string& text,
+                                   std::uint32_t encoding) {
+  return encoding == ITEMInternal::kTextEncodingMacRoman
+             ? Utf8ToMacRoman(text)
+             : Decoded(text, encoding);
+}
+
+}  // namespace
+
+PlatformStringPtr MakePlatformString(const std::string& bytes,
+                                     std::uint32_t encoding) {
+  auto text = Decoded(bytes.c_str(), encoding);
+  if (!text) return nullptr;
+  return std::make_unique<const ITEMInternal::PlatformString>(std::move(*text));
+}
+
+}  // namespace velmohelp
+
+namespace ITEMInternal {
+
+std::string GetString(const PlatformString* text, std::uint32_t encoding) {
+  if (text == nullptr) return "";
+  auto bytes = velmohelp::Encoded(text->utf8(), encoding);
+  if (!bytes || !velmohelp::FitsTextBuffer(*bytes)) return "";
+  return bytes->c_str();
+}
+
+char* GetCharFromCFStringRef(const PlatformString* text) {
+  if (text == nullptr) return nullptr;
+  const std::string& utf8 = text->utf8();
+  const std::size_t room = 3 * velmohelp::Utf16Length(utf8);
+  // The NUL counts, although the buffer has a byte more than is offered: so it
+  // always has been, and a text that just fits is refused.
+  if (utf8.size() + 1 > room) return nullptr;
+  auto* buffer = static_cast<char*>(std::calloc(room + 1, 1));
+  if (buffer != nullptr) std::memcpy(buffer, utf8.data(), utf8.size());
+  return buffer;
+}
+
+std::unique_ptr<const PlatformString> CstrToNSstr(const char* text) {
+  if (text == nullptr) return nullptr;
+  return velmohelp::MakePlatformString(text, kTextEncodingUtf8);
+}
+
+}  // namespace ITEMInternal

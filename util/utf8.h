@@ -1,0 +1,17 @@
+// UTF-8 as RFC 3629 has it: surrogate code points are not part of it.
+#ifndef UTIL_UTF8_H_
+#define UTIL_UTF8_H_
+
+#include <cstddef>
+#include <string_view>
+
+namespace velmohelp {
+
+bool IsUtf8(std::string_view text);
+
+/// How many UTF-16 units the text takes. text: valid UTF-8.
+std::size_t Utf16Length(std::string_view text);
+
+}  // namespace velmohelp
+
+#endif  // UTIL_UTF8_H_
