@@ -1,0 +1,41 @@
+// The files of a scripted machine.
+#ifndef PLATFORM_SCRIPTED_SCRIPTED_FILES_H_
+#define PLATFORM_SCRIPTED_SCRIPTED_FILES_H_
+
+#include <cstdint>
+#include <map>
+#include <optional>
+#include <string>
+
+#include "platform/machine.h"
+
+namespace velmohelp {
+
+/// A tree of files and directories that exist, without contents. Paths read as
+/// a file system reads them: several slashes count as one, a final one asks for
+/// a directory, and nothing exists at an empty path or one that holds a NUL.
+class ScriptedFiles {
+ public:
+  /// Makes a file or a directory exist, with every directory above it.
+  void AddFile(const std::string& path) { Add(path, false); }
+  void AddDirectory(const std::string& path) { Add(path, true); }
+
+  /// Takes one entry away; what lies below it stays.
+  void Remove(const std::string& path);
+
+  std::optional<FileEntry> Find(const std::string& path) const;
+
+ private:
+  void Add(const std::string& path, bool is_directory);
+
+  std::map<std::string, FileEntry> entries_;
+  std::uint64_t last_inode_ = 0;
+};
+
+/// The path with each run of slashes made one and none at its end, except for
+/// the root.
+std::string WithSingleSlashes(const std::string& path);
+
+}  // namespace velmohelp
+
+#endif  // PLATFORM_SCRIPTED_SCRIPTED_FILES_H_

@@ -1,0 +1,179 @@
+#include "platform/scripted/scripted_machine.h"
+
+namespace velmohelp {
+namespace {
+
+constexpr std::int16_t kUserDomain = -32763;
+constexpr std::uint32_t kPreferencesFolder = 0x70726566;  // 'pref'
+
+std::string Quoted(const std::string& word) {
+  const bool plain =
+      !word.empty() && word.find_first_of(" \"") == std::string::npos;
+  return plain ? word : '"' + word + '"';
+}
+
+/// A four-character code as text: 0x70726566 is "pref".
+std::string FourCharacters(std::uint32_t code) {
+  std::string text;
+  for (int shift = 24; shift >= 0; shift -= 8) {
+    text += static_cast<char>((code >> shift) & 0xFFU);
+  }
+  return text;
+}
+
+Arguments Sentence(const char* verb, const std::string& program,
+                   const Arguments& arguments) {
+  Arguments words = {verb, program};
+  words.insert(words.end(), arguments.begin(), arguments.end());
+  return words;
+}
+
+template <typename Facts>
+std::optional<typename Facts::mapped_type> Lookup(
+    const Facts& facts, const typename Facts::key_type& key) {
+  const auto fact = facts.find(key);
+  if (fact == facts.end()) return std::nullopt;
+  return fact->second;
+}
+
+}  // namespace
+
+void ScriptedMachine::SetPreferencesFolder(const std::string& path) {
+  AddDirectory(path);
+  preferences_folder_ = path;
+}
+
+void ScriptedMachine::SetResourcesDirectory(const std::string& path) {
+  AddDirectory(path);
+  resources_directory_ = path;
+}
+
+void ScriptedMachine::SetBundle(const std::string& identifier,
+                                const std::string& directory) {
+  AddDirectory(directory);
+  bundles_[identifier] = directory;
+}
+
+void ScriptedMachine::SetExecutable(const std::string& directory,
+                                    const std::string& path) {
+  AddFile(path);
+  executables_[WithSingleSlashes(directory)] = path;
+}
+
+void ScriptedMachine::OnRun(const std::string& program,
+                            const Arguments& arguments, int exit_status) {
+  exit_statuses_[{WithSingleSlashes(program), arguments}] = exit_status;
+}
+
+void ScriptedMachine::OnOutput(const std::string& program,
+                               const Arguments& arguments,
+                               const std::string& text) {
+  outputs_[{WithSingleSlashes(program), arguments}] = text;
+}
+
+void ScriptedMachine::OnStart(const std::string& program) {
+  startable_.insert(WithSingleSlashes(program));
+}
+
+void ScriptedMachine::SetReachability(const std::string& host,
+                                      Reachability reachability) {
+  hosts_[host] = reachability;
+}
+
+void ScriptedMachine::SetPreference(const std::string& domain,
+                                    const std::string& key,
+                                    PreferenceScope scope,
+                                    const std::string& value) {
+  preferences_[{domain, key, scope}] = value;
+}
+
+void ScriptedMachine::Record(const Arguments& words) {
+  std::string question = words.front();
+  for (auto word = words.begin() + 1; word != words.end(); ++word) {
+    question += ' ' + Quoted(*word);
+  }
+  questions_.push_back(question);
+}
+
+bool ScriptedMachine::FileExists(const std::string& path) {
+  Record({"FileExists", path});
+  return files_.Find(path).has_value();
+}
+
+std::optional<FileEntry> ScriptedMachine::FindFile(const std::string& path) {
+  Record({"FindFile", path});
+  return files_.Find(path);
+}
+
+std::optional<std::string> ScriptedMachine::StandardFolder(std::int16_t domain,
+                                                           std::uint32_t type,
+                                                           bool create) {
+  Record({"StandardFolder", std::to_string(domain), FourCharacters(type),
+          create ? "create" : "find"});
+  if (domain != kUserDomain || type != kPreferencesFolder) return std::nullopt;
+  return preferences_folder_;
+}
+
+std::optional<std::string> ScriptedMachine::ResourcesDirectory() {
+  Record({"ResourcesDirectory"});
+  return resources_directory_;
+}
+
+std::optional<std::string> ScriptedMachine::BundleDirectory(
+    const std::string& identifier) {
+  Record({"BundleDirectory", identifier});
+  return Lookup(bundles_, identifier);
+}
+
+std::optional<std::string> ScriptedMachine::ApplicationExecutable(
+    const std::string& directory) {
+  Record({"ApplicationExecutable", directory});
+  return Lookup(executables_, WithSingleSlashes(directory));
+}
+
+std::optional<int> ScriptedMachine::RunToEnd(const std::string& program,
+                                             const Arguments& arguments) {
+  Record(Sentence("RunToEnd", program, arguments));
+  return Lookup(exit_statuses_, {WithSingleSlashes(program), arguments});
+}
+
+std::optional<std::string> ScriptedMachine::FirstOutput(
+    const std::string& program, const Arguments& arguments) {
+  Record(Sentence("FirstOutput", program, arguments));
+  return Lookup(outputs_, {WithSingleSlashes(program), arguments});
+}
+
+bool ScriptedMachine::StartProgram(const std::string& program,
+                                   const Arguments& arguments) {
+  Record(Sentence("StartProgram", program, arguments));
+  return startable_.contains(WithSingleSlashes(program));
+}
+
+bool ScriptedMachine::OpenInBrowser(const std::string& url) {
+  Record({"OpenInBrowser", url});
+  return browser_opens_;
+}
+
+std::optional<Reachability> ScriptedMachine::HostReachability(
+    const std::optional<std::string>& host) {
+  if (!host) {
+    Record({"HostReachability"});
+    return std::nullopt;
+  }
+  Record({"HostReachability", *host});
+  return Lookup(hosts_, *host);
+}
+
+std::optional<std::string> ScriptedMachine::Preference(
+    const std::string& domain, const std::string& key, PreferenceScope scope) {
+  const bool admin = scope == PreferenceScope::kAnyUserCurrentHost;
+  Record({"Preference", admin ? "admin" : "user", domain, key});
+  return Lookup(preferences_, {domain, key, scope});
+}
+
+bool ScriptedMachine::FetchText(const std::string& url) {
+  Record({"FetchText", url});
+  return texts_.contains(url);
+}
+
+}  // namespace velmohelp

@@ -1,0 +1,120 @@
+// A machine made of facts that a test states, and a record of what it was
+// asked.
+#ifndef PLATFORM_SCRIPTED_SCRIPTED_MACHINE_H_
+#define PLATFORM_SCRIPTED_SCRIPTED_MACHINE_H_
+
+#include <cstdint>
+#include <map>
+#include <optional>
+#include <set>
+#include <string>
+#include <tuple>
+#include <utility>
+#include <vector>
+
+#include "platform/machine.h"
+#include "platform/scripted/scripted_files.h"
+
+namespace velmohelp {
+
+/// Nothing is on it, and it can do nothing, until it is told. A fact stated
+/// twice is as it was stated last. Programs are known by path and arguments and
+/// need no file at that path.
+class ScriptedMachine : public Machine {
+ public:
+  void AddFile(const std::string& path) { files_.AddFile(path); }
+  void AddDirectory(const std::string& path) { files_.AddDirectory(path); }
+  void Remove(const std::string& path) { files_.Remove(path); }
+
+  /// The user's Preferences folder; it exists, created or not.
+  void SetPreferencesFolder(const std::string& path);
+  void SetResourcesDirectory(const std::string& path);
+  void SetBundle(const std::string& identifier, const std::string& directory);
+  /// The executable of an application directory.
+  void SetExecutable(const std::string& directory, const std::string& path);
+
+  /// A program that can be run to its end.
+  void OnRun(const std::string& program, const Arguments& arguments,
+             int exit_status);
+  /// A program whose standard output can be read.
+  void OnOutput(const std::string& program, const Arguments& arguments,
+                const std::string& text);
+  /// A program that is running right after its start, whatever its arguments.
+  void OnStart(const std::string& program);
+  /// Whether the browser opens what it is given.
+  void SetBrowserOpens(bool opens) { browser_opens_ = opens; }
+
+  void SetReachability(const std::string& host, Reachability reachability);
+  void SetPreference(const std::string& domain, const std::string& key,
+                     PreferenceScope scope, const std::string& value);
+  /// A URL at which there is a text.
+  void AddText(const std::string& url) { texts_.insert(url); }
+
+  /// Every question so far, first to last: the function's name, then what it
+  /// was asked, with one blank between. A word that is empty or holds a blank
+  /// or a double quote stands in double quotes:
+  ///
+  ///   FileExists /x/QTV
+  ///   FindFile /x
+  ///   StandardFolder -32763 pref create        (or: find)
+  ///   ResourcesDirectory
+  ///   BundleDirectory com.velmo.vxclientframework
+  ///   ApplicationExecutable /x/Viewer.app
+  ///   RunToEnd /x/QTV -isAppInstalled "" "a publisher"
+  ///   FirstOutput /x/QTV -appLocation klh id.1
+  ///   StartProgram /x/Viewer HELP product en_US page.html
+  ///   OpenInBrowser file:///x/page.html
+  ///   HostReachability localhost               (no host: no second word)
+  ///   Preference admin com.velmo.x HelpcfgName (or: user)
+  ///   FetchText http://localhost/page.html
+  const std::vector<std::string>& Questions() const { return questions_; }
+  void ForgetQuestions() { questions_.clear(); }
+
+  bool FileExists(const std::string& path) override;
+  std::optional<FileEntry> FindFile(const std::string& path) override;
+  std::optional<std::string> StandardFolder(std::int16_t domain,
+                                            std::uint32_t type,
+                                            bool create) override;
+  std::optional<std::string> ResourcesDirectory() override;
+  std::optional<std::string> BundleDirectory(
+      const std::string& identifier) override;
+  std::optional<std::string> ApplicationExecutable(
+      const std::string& directory) override;
+  std::optional<int> RunToEnd(const std::string& program,
+                              const Arguments& arguments) override;
+  std::optional<std::string> FirstOutput(const std::string& program,
+                                         const Arguments& arguments) override;
+  bool StartProgram(const std::string& program,
+                    const Arguments& arguments) override;
+  bool OpenInBrowser(const std::string& url) override;
+  std::optional<Reachability> HostReachability(
+      const std::optional<std::string>& host) override;
+  std::optional<std::string> Preference(const std::string& domain,
+                                        const std::string& key,
+                                        PreferenceScope scope) override;
+  bool FetchText(const std::string& url) override;
+
+ private:
+  using Command = std::pair<std::string, Arguments>;
+  using PreferenceName = std::tuple<std::string, std::string, PreferenceScope>;
+
+  void Record(const Arguments& words);
+
+  std::vector<std::string> questions_;
+  ScriptedFiles files_;
+  std::optional<std::string> preferences_folder_;
+  std::optional<std::string> resources_directory_;
+  std::map<std::string, std::string> bundles_;
+  std::map<std::string, std::string> executables_;
+  std::map<Command, int> exit_statuses_;
+  std::map<Command, std::string> outputs_;
+  std::set<std::string> startable_;
+  bool browser_opens_ = false;
+  std::map<std::string, Reachability> hosts_;
+  std::map<PreferenceName, std::string> preferences_;
+  std::set<std::string> texts_;
+};
+
+}  // namespace velmohelp
+
+#endif  // PLATFORM_SCRIPTED_SCRIPTED_MACHINE_H_
