@@ -55,7 +55,7 @@ std::string XMLParser::GetKey(std::string key) const {
   return is_setting ? StringToUpper(value) : value;
 }
 
-std::string XMLParser::StringToUpper(std::string text) const {
+std::string XMLParser::StringToUpper(std::string text) {
   return ::StringToUpper(std::move(text));
 }
 

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <cstring>
 #include <optional>
 
 #include "util/mac_roman.h"
@@ -11,6 +10,11 @@
 
 namespace velmohelp {
 namespace {
+
+/// Platform calls take C strings: what comes behind a zero byte is not seen.
+std::string UpToZero(const std::string& text) {
+  return text.substr(0, text.find('\0'));
+}
 
 bool IsAscii(std::string_view text) {
   return std::all_of(text.begin(), text.end(), [](char byte) {
@@ -43,7 +47,7 @@ std::optional<std::string> Encoded(const std::string& text,
 
 PlatformStringPtr MakePlatformString(const std::string& bytes,
                                      std::uint32_t encoding) {
-  auto text = Decoded(bytes.c_str(), encoding);
+  auto text = Decoded(UpToZero(bytes), encoding);
   if (!text) return nullptr;
   return std::make_unique<const ITEMInternal::PlatformString>(std::move(*text));
 }
@@ -56,7 +60,7 @@ std::string GetString(const PlatformString* text, std::uint32_t encoding) {
   if (text == nullptr) return "";
   auto bytes = velmohelp::Encoded(text->utf8(), encoding);
   if (!bytes || !velmohelp::FitsTextBuffer(*bytes)) return "";
-  return bytes->c_str();
+  return velmohelp::UpToZero(*bytes);
 }
 
 char* GetCharFromCFStringRef(const PlatformString* text) {
@@ -67,7 +71,7 @@ char* GetCharFromCFStringRef(const PlatformString* text) {
   // always has been, and a text that just fits is refused.
   if (utf8.size() + 1 > room) return nullptr;
   auto* buffer = static_cast<char*>(std::calloc(room + 1, 1));
-  if (buffer != nullptr) std::memcpy(buffer, utf8.data(), utf8.size());
+  if (buffer != nullptr) utf8.copy(buffer, utf8.size());
   return buffer;
 }
 

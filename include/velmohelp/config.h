@@ -36,7 +36,7 @@ class VELMOHELP_API XMLParser {
   std::string GetKey(std::string key) const;
 
   /// A copy with each byte passed through the C library's toupper.
-  std::string StringToUpper(std::string text) const;
+  static std::string StringToUpper(std::string text);
 
   /// Fills the rows (content folder, upper-cased "contextSensitivity" value).
   /// count: rows available on entry, flags found on return; unchanged, like
