@@ -3,6 +3,7 @@
 #define RESOLVE_HELP_MAP_H_
 
 #include <map>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -19,6 +20,43 @@ inline constexpr char kHelpMapBaseUrlName[] = "helpmapBaseUrl.txt";
 /// Puts the entries of a help map's text into an empty map. The first of
 /// several entries of a key stays.
 void InsertEntries(std::string_view text, HelpMap& map);
+
+/// The help maps that one search reads, of which the caller gets to see only
+/// the last: it alone is built as a map, the others are searched as text.
+class HelpMapsRead {
+ public:
+  /// last: what KeepLast fills.
+  explicit HelpMapsRead(HelpMap& last) : last_(last) {}
+
+  /// Reads the file at path in place of the one before. Throws
+  /// std::ios_base::failure when it breaks while it is read. False when it
+  /// cannot be opened.
+  bool Read(const std::string& path);
+
+  /// The value of a key in the file read last; nullopt also when that file
+  /// could not be opened or is not complete. Valid until the next Read.
+  std::optional<std::string_view> Find(std::string_view key) const;
+
+  /// What search returns. On the way out, an exception's too, the map becomes
+  /// what the file read last holds; it stays as it is when none was read.
+  template <typename Search>
+  auto KeepLast(Search search) {
+    try {
+      auto result = search();
+      Keep();
+      return result;
+    } catch (...) {
+      Keep();
+      throw;
+    }
+  }
+
+ private:
+  void Keep();
+
+  HelpMap& last_;
+  std::optional<std::string> text_;
+};
 
 /// A base URL with the zone separator of its IPv6 host percent-encoded, by the
 /// rule (and with the mistake) that ITEMInternal::GetHelpMapBaseUrl tells.

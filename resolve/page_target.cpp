@@ -16,7 +16,7 @@ struct Search {
   const HelpContent& content;
   const std::string& page_id;
   bool online;
-  HelpMap& help_map;
+  HelpMapsRead& maps;
   std::string& out;
 };
 
@@ -62,11 +62,9 @@ bool AcceptMapped(const Search& search, const std::string& folder,
 /// map does not know is not looked for beside it.
 bool AcceptFromMap(const Search& search, const std::string& folder,
                    const std::string& directory, const std::string& map_path) {
-  if (ITEMInternal::LoadMapFile(map_path, search.help_map)) {
-    const auto found = search.help_map.find(KeyOf(search.page_id));
-    if (found != search.help_map.end()) {
-      return AcceptMapped(search, folder, directory, found->second);
-    }
+  search.maps.Read(map_path);
+  if (const auto value = search.maps.Find(KeyOf(search.page_id))) {
+    return AcceptMapped(search, folder, directory, std::string(*value));
   }
   if (!search.online) search.out = AppentPath(directory, search.page_id);
   return false;
@@ -103,12 +101,14 @@ bool AcceptBelow(const Search& search, const std::string& root) {
 unsigned char ValidateId(Machine& machine, const HelpContent& content,
                          const std::string& page_id, bool online,
                          HelpMap& help_map, std::string& out) {
-  const Search search{machine, content, page_id, online, help_map, out};
-  if (AcceptBelow(search,
-                  BelowPreferences(machine, content.downloaded_suffix)) ||
-      AcceptBelow(search, ITEMInternal::GetInstalledContentPath() + "/")) {
-    return kTargetFound;
-  }
+  HelpMapsRead maps(help_map);
+  const Search search{machine, content, page_id, online, maps, out};
+  const bool found = maps.KeepLast([&] {
+    return AcceptBelow(search,
+                       BelowPreferences(machine, content.downloaded_suffix)) ||
+           AcceptBelow(search, ITEMInternal::GetInstalledContentPath() + "/");
+  });
+  if (found) return kTargetFound;
   out = page_id;
   return kTargetNotFound;
 }

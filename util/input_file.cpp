@@ -19,4 +19,10 @@ std::size_t ReadPiece(std::ifstream& file, char* buffer, std::size_t size) {
   return static_cast<std::size_t>(file.gcount());
 }
 
+void ReserveForFile(std::string& text, const std::string& path) {
+  std::error_code unknown;
+  const std::uintmax_t size = std::filesystem::file_size(path, unknown);
+  if (!unknown) text.reserve(size);
+}
+
 }  // namespace velmohelp

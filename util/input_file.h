@@ -1,7 +1,8 @@
-// Files of configuration and content, opened with standard C++ alone.
+// Files of configuration and content, read with standard C++ alone.
 #ifndef UTIL_INPUT_FILE_H_
 #define UTIL_INPUT_FILE_H_
 
+#include <cstddef>
 #include <fstream>
 #include <string>
 
@@ -15,6 +16,10 @@ std::ifstream OpenInputFile(const std::string& path);
 
 /// Reads up to size bytes; the number read is below size only at the end.
 std::size_t ReadPiece(std::ifstream& file, char* buffer, std::size_t size);
+
+/// Makes room in text for the whole file at path, where its size is known:
+/// text that grows as it is read is copied, and its memory touched, many times.
+void ReserveForFile(std::string& text, const std::string& path);
 
 }  // namespace velmohelp
 

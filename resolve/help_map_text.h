@@ -1,0 +1,47 @@
+// The text of a help map file: one entry a line, key and value parted by TABs.
+#ifndef RESOLVE_HELP_MAP_TEXT_H_
+#define RESOLVE_HELP_MAP_TEXT_H_
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace velmohelp {
+
+struct HelpMapEntry {
+  std::string_view key;
+  std::string_view value;
+};
+
+/// Walks through the entries of a text, which must outlive it.
+class HelpMapReader {
+ public:
+  explicit HelpMapReader(std::string_view text)
+      : at_(text.data()), end_(text.data() + text.size()) {}
+
+  /// The next line that has two fields; false at the end of the text.
+  bool Next(HelpMapEntry& entry);
+
+  /// Takes one line off the text; true when it has two fields.
+  bool TakeLine(HelpMapEntry& entry);
+
+ private:
+  std::string_view TakeField();
+  void SkipLine();
+
+  const char* at_;
+  const char* end_;
+};
+
+/// The value of the first entry of key, without walking through the others.
+std::optional<std::string_view> FindEntry(std::string_view text,
+                                          std::string_view key);
+
+/// Reads a help map file into text. False, with text empty, when it cannot be
+/// opened. Throws std::ios_base::failure on a hard read error; text then holds
+/// the complete lines before it.
+bool ReadHelpMapText(const std::string& path, std::string& text);
+
+}  // namespace velmohelp
+
+#endif  // RESOLVE_HELP_MAP_TEXT_H_
