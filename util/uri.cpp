@@ -1,7 +1,5 @@
 #include "util/uri.h"
 
-#include "util/ascii.h"
-
 namespace velmohelp {
 namespace {
 
@@ -30,11 +28,6 @@ std::string_view WithoutUserAndPort(std::string_view authority) {
 }
 
 }  // namespace
-
-bool IsUriCharacter(char byte) {
-  constexpr std::string_view kMarks = "-._~:/?#[]@!$&'()*+,;=";
-  return IsAsciiAlnum(byte) || kMarks.find(byte) != std::string_view::npos;
-}
 
 bool IsPercentEscape(std::string_view text) {
   return text.size() >= 3 && text[0] == '%' && HexValue(text[1]) >= 0 &&

@@ -6,10 +6,15 @@
 #include <string>
 #include <string_view>
 
+#include "util/ascii.h"
+
 namespace velmohelp {
 
 /// A reserved or unreserved character: one that may stand in a URI as it is.
-bool IsUriCharacter(char byte);
+constexpr bool IsUriCharacter(char byte) {
+  constexpr std::string_view kMarks = "-._~:/?#[]@!$&'()*+,;=";
+  return IsAsciiAlnum(byte) || kMarks.find(byte) != std::string_view::npos;
+}
 
 /// text begins with "%" and two hexadecimal digits.
 bool IsPercentEscape(std::string_view text);
