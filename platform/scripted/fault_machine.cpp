@@ -1,0 +1,76 @@
+#include "platform/scripted/fault_machine.h"
+
+namespace velmohelp {
+
+bool FaultMachine::FileExists(const std::string& path) {
+  return !Fails() && machine_.FileExists(path);
+}
+
+std::optional<FileEntry> FaultMachine::FindFile(const std::string& path) {
+  if (Fails()) return std::nullopt;
+  return machine_.FindFile(path);
+}
+
+std::optional<std::string> FaultMachine::StandardFolder(std::int16_t domain,
+                                                        std::uint32_t type,
+                                                        bool create) {
+  if (Fails()) return std::nullopt;
+  return machine_.StandardFolder(domain, type, create);
+}
+
+std::optional<std::string> FaultMachine::ResourcesDirectory() {
+  if (Fails()) return std::nullopt;
+  return machine_.ResourcesDirectory();
+}
+
+std::optional<std::string> FaultMachine::BundleDirectory(
+    const std::string& identifier) {
+  if (Fails()) return std::nullopt;
+  return machine_.BundleDirectory(identifier);
+}
+
+std::optional<std::string> FaultMachine::ApplicationExecutable(
+    const std::string& directory) {
+  if (Fails()) return std::nullopt;
+  return machine_.ApplicationExecutable(directory);
+}
+
+std::optional<int> FaultMachine::RunToEnd(const std::string& program,
+                                          const Arguments& arguments) {
+  if (Fails()) return std::nullopt;
+  return machine_.RunToEnd(program, arguments);
+}
+
+std::optional<std::string> FaultMachine::FirstOutput(
+    const std::string& program, const Arguments& arguments) {
+  if (Fails()) return std::nullopt;
+  return machine_.FirstOutput(program, arguments);
+}
+
+bool FaultMachine::StartProgram(const std::string& program,
+                                const Arguments& arguments) {
+  return !Fails() && machine_.StartProgram(program, arguments);
+}
+
+bool FaultMachine::OpenInBrowser(const std::string& url) {
+  return !Fails() && machine_.OpenInBrowser(url);
+}
+
+std::optional<Reachability> FaultMachine::HostReachability(
+    const std::optional<std::string>& host) {
+  if (Fails()) return std::nullopt;
+  return machine_.HostReachability(host);
+}
+
+std::optional<std::string> FaultMachine::Preference(const std::string& domain,
+                                                    const std::string& key,
+                                                    PreferenceScope scope) {
+  if (Fails()) return std::nullopt;
+  return machine_.Preference(domain, key, scope);
+}
+
+bool FaultMachine::FetchText(const std::string& url) {
+  return !Fails() && machine_.FetchText(url);
+}
+
+}  // namespace velmohelp
