@@ -1,0 +1,62 @@
+#include "platform/linux/bundles.h"
+
+#include <velmohelp_locations.h>
+
+#include <string_view>
+#include <vector>
+
+#include "platform/linux/files.h"
+#include "platform/linux/own_location.h"
+
+namespace velmohelp {
+namespace {
+
+std::string LastComponent(std::string_view path) {
+  while (path.ends_with('/')) path.remove_suffix(1);
+  return std::string(path.substr(path.rfind('/') + 1));
+}
+
+std::string ApplicationName(const std::string& directory) {
+  std::string name = LastComponent(directory);
+  if (name.ends_with(".app")) name.resize(name.size() - 4);
+  return name;
+}
+
+std::vector<std::string> BundleFolders() {
+  std::vector<std::string> folders;
+  if (const auto own = OwnFolder()) folders.push_back(*own);
+  if (const auto host = HostExecutable()) {
+    folders.push_back(FolderOf(*host) + "/../Frameworks");
+  }
+  folders.emplace_back(kFrameworksDir);
+  return folders;
+}
+
+}  // namespace
+
+std::optional<std::string> ResourcesOf(const std::string& executable) {
+  const std::string folder = FolderOf(executable);
+  const std::string name = LastComponent(executable) + ".resources";
+  return FirstDirectory({folder + "/" + name, folder + "/../share/" + name});
+}
+
+std::optional<std::string> FindBundle(const std::string& identifier) {
+  // A bundle is named, never a path to it.
+  if (identifier.find('/') != std::string::npos) return std::nullopt;
+  std::vector<std::string> paths = BundleFolders();
+  for (std::string& path : paths) path += "/" + identifier + ".framework";
+  return FirstDirectory(paths);
+}
+
+std::optional<std::string> ExecutableOf(const std::string& directory) {
+  if (directory.empty()) return std::nullopt;
+  const std::string name = ApplicationName(directory);
+  for (const std::string& path :
+       {directory + "/bin/" + name, directory + "/AppRun",
+        directory + "/" + name}) {
+    if (IsExecutable(path)) return path;
+  }
+  return std::nullopt;
+}
+
+}  // namespace velmohelp

@@ -1,0 +1,27 @@
+// Directories that belong together: the host's resources, bundles and
+// application directories.
+#ifndef PLATFORM_LINUX_BUNDLES_H_
+#define PLATFORM_LINUX_BUNDLES_H_
+
+#include <optional>
+#include <string>
+
+namespace velmohelp {
+
+/// For a host program <dir>/<name>: <dir>/<name>.resources, else
+/// <dir>/../share/<name>.resources; nullopt when neither is a directory.
+std::optional<std::string> ResourcesOf(const std::string& executable);
+
+/// The first directory <identifier>.framework in: the folder of the client's
+/// own file, Frameworks beside the host program's folder, the folder that the
+/// build was configured with.
+std::optional<std::string> FindBundle(const std::string& identifier);
+
+/// The executable of an application directory <app>: <app>/bin/<name>, else
+/// <app>/AppRun, else <app>/<name>, where <name> is the directory's own name
+/// without a final ".app".
+std::optional<std::string> ExecutableOf(const std::string& directory);
+
+}  // namespace velmohelp
+
+#endif  // PLATFORM_LINUX_BUNDLES_H_

@@ -1,0 +1,95 @@
+#include "platform/linux/linux_machine.h"
+
+#include "platform/linux/bundles.h"
+#include "platform/linux/files.h"
+#include "platform/linux/folders.h"
+#include "platform/linux/own_location.h"
+#include "platform/linux/preference_store.h"
+
+namespace velmohelp {
+namespace {
+
+constexpr std::int16_t kUserDomain = -32763;
+constexpr std::uint32_t kPreferencesFolderType = 0x70726566;  // 'pref'
+
+/// Beside the library, in the build tree, an installed tree and a package
+/// alike; never found by PATH, which anybody may have set.
+std::string HelperFolder() {
+  return OwnFolder().value_or("/nonexistent") + "/velmohelp";
+}
+
+}  // namespace
+
+LinuxMachine::LinuxMachine() : LinuxMachine(HelperFolder()) {}
+
+LinuxMachine::LinuxMachine(const std::string& helper_folder, Patience patience)
+    : programs_(helper_folder + "/velmohelp-run"),
+      helpers_(helper_folder, programs_, patience) {}
+
+bool LinuxMachine::FileExists(const std::string& path) {
+  return FindEntry(path).has_value();
+}
+
+std::optional<FileEntry> LinuxMachine::FindFile(const std::string& path) {
+  return FindEntry(path);
+}
+
+std::optional<std::string> LinuxMachine::StandardFolder(std::int16_t domain,
+                                                        std::uint32_t type,
+                                                        bool create) {
+  if (domain != kUserDomain || type != kPreferencesFolderType) {
+    return std::nullopt;
+  }
+  return PreferencesFolder(create);
+}
+
+std::optional<std::string> LinuxMachine::ResourcesDirectory() {
+  const auto executable = HostExecutable();
+  return executable ? ResourcesOf(*executable) : std::nullopt;
+}
+
+std::optional<std::string> LinuxMachine::BundleDirectory(
+    const std::string& identifier) {
+  return FindBundle(identifier);
+}
+
+std::optional<std::string> LinuxMachine::ApplicationExecutable(
+    const std::string& directory) {
+  return ExecutableOf(directory);
+}
+
+std::optional<int> LinuxMachine::RunToEnd(const std::string& program,
+                                          const Arguments& arguments) {
+  return programs_.RunToEnd(program, arguments);
+}
+
+std::optional<std::string> LinuxMachine::FirstOutput(
+    const std::string& program, const Arguments& arguments) {
+  return programs_.FirstOutput(program, arguments);
+}
+
+bool LinuxMachine::StartProgram(const std::string& program,
+                                const Arguments& arguments) {
+  return programs_.StartAndCheck(program, arguments);
+}
+
+bool LinuxMachine::OpenInBrowser(const std::string& url) {
+  return helpers_.OpenInBrowser(url);
+}
+
+std::optional<Reachability> LinuxMachine::HostReachability(
+    const std::optional<std::string>& host) {
+  return helpers_.HostReachability(host);
+}
+
+std::optional<std::string> LinuxMachine::Preference(const std::string& domain,
+                                                    const std::string& key,
+                                                    PreferenceScope scope) {
+  return ReadPreference(domain, key, scope);
+}
+
+bool LinuxMachine::FetchText(const std::string& url) {
+  return helpers_.FetchText(url);
+}
+
+}  // namespace velmohelp

@@ -1,0 +1,101 @@
+#include "platform/linux/own_location.h"
+
+#include <dlfcn.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <charconv>
+#include <cstdint>
+#include <cstdlib>
+#include <memory>
+
+#include "platform/linux/files.h"
+
+namespace velmohelp {
+namespace {
+
+/// A process with this many mappings has none of ours behind them.
+constexpr std::size_t kMapsLimit = 64U << 20U;
+
+/// The kernel's mark behind the path of a file that has been replaced, as an
+/// update does while its programs run. Its folder is the same still.
+std::string WithoutDeletedMark(std::string path) {
+  constexpr std::string_view kMark = " (deleted)";
+  if (path.ends_with(kMark) && !FindEntry(path)) {
+    path.resize(path.size() - kMark.size());
+  }
+  return path;
+}
+
+bool TakeHex(std::string_view& text, unsigned long& value) {
+  const auto end =
+      std::from_chars(text.data(), text.data() + text.size(), value, 16);
+  text.remove_prefix(static_cast<std::size_t>(end.ptr - text.data()));
+  return end.ec == std::errc();
+}
+
+/// One line is "from-to permissions offset device inode    path".
+bool Covers(std::string_view line, unsigned long address) {
+  unsigned long from = 0;
+  unsigned long to = 0;
+  if (!TakeHex(line, from) || !line.starts_with('-')) return false;
+  line.remove_prefix(1);
+  return TakeHex(line, to) && from <= address && address < to;
+}
+
+std::optional<std::string> FileMappedHere(unsigned long address) {
+  const Descriptor file = OpenRegularFile("/proc/self/maps");
+  const auto maps = file ? ReadAll(file, kMapsLimit) : std::nullopt;
+  return maps ? MappedFile(*maps, address) : std::nullopt;
+}
+
+/// path without links: helpers lie beside the file, not beside a link to it.
+std::string RealPath(const std::string& path) {
+  const std::unique_ptr<char, decltype(&std::free)> real(
+      realpath(path.c_str(), nullptr), &std::free);
+  return real ? real.get() : path;
+}
+
+}  // namespace
+
+std::optional<std::string> MappedFile(std::string_view maps,
+                                      unsigned long address) {
+  while (!maps.empty()) {
+    const std::string_view line = maps.substr(0, maps.find('\n'));
+    maps.remove_prefix(std::min(line.size() + 1, maps.size()));
+    const std::size_t path = line.find('/');
+    if (!Covers(line, address)) continue;
+    if (path == std::string_view::npos) return std::nullopt;
+    return WithoutDeletedMark(std::string(line.substr(path)));
+  }
+  return std::nullopt;
+}
+
+std::optional<std::string> OwnFolder() {
+  static const char here = 0;
+  Dl_info info = {};
+  if (dladdr(&here, &info) != 0 && info.dli_fname != nullptr &&
+      info.dli_fname[0] == '/') {
+    return FolderOf(RealPath(info.dli_fname));
+  }
+  // The host named the file by a relative path, and may have changed its
+  // directory since.
+  const auto file = FileMappedHere(reinterpret_cast<std::uintptr_t>(&here));
+  return file ? std::optional(FolderOf(*file)) : std::nullopt;
+}
+
+std::optional<std::string> HostExecutable() {
+  std::string path(256, '\0');
+  for (;;) {
+    const ssize_t length = readlink("/proc/self/exe", path.data(), path.size());
+    if (length <= 0 || path[0] != '/') return std::nullopt;
+    const auto size = static_cast<std::size_t>(length);
+    if (size < path.size()) {
+      path.resize(size);
+      return WithoutDeletedMark(path);
+    }
+    path.resize(path.size() * 2);
+  }
+}
+
+}  // namespace velmohelp

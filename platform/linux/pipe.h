@@ -1,0 +1,24 @@
+// A pipe that only this process holds.
+#ifndef PLATFORM_LINUX_PIPE_H_
+#define PLATFORM_LINUX_PIPE_H_
+
+#include <optional>
+
+#include "platform/linux/descriptor.h"
+
+namespace velmohelp {
+
+struct Pipe {
+  Descriptor read_end;
+  Descriptor write_end;
+};
+
+/// Both ends are closed in programs that the host starts meanwhile, and have
+/// numbers above those of the standard streams: a host may run with these
+/// closed, and its own start of a program would take such an end for one.
+/// nullopt when the descriptor table is full.
+std::optional<Pipe> MakePipe();
+
+}  // namespace velmohelp
+
+#endif  // PLATFORM_LINUX_PIPE_H_

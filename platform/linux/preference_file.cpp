@@ -1,0 +1,78 @@
+#include "platform/linux/preference_file.h"
+
+#include "util/utf8.h"
+
+namespace velmohelp {
+namespace {
+
+constexpr std::string_view kGroup = "[Preferences]";
+constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+
+std::string_view Trimmed(std::string_view text) {
+  constexpr std::string_view kBlanks = " \t\r\v\f";
+  const std::size_t first = text.find_first_not_of(kBlanks);
+  if (first == std::string_view::npos) return {};
+  return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
+}
+
+/// Takes the first line off the text.
+std::string_view TakeLine(std::string_view& text) {
+  const std::string_view line = text.substr(0, text.find('\n'));
+  text.remove_prefix(line.size() < text.size() ? line.size() + 1 : line.size());
+  return Trimmed(line);
+}
+
+/// The value in a line "key = value", when it is for this key.
+std::optional<std::string_view> ValueIn(std::string_view line,
+                                        std::string_view key) {
+  const std::size_t sign = line.find('=');
+  if (line.starts_with('#') || sign == std::string_view::npos) {
+    return std::nullopt;
+  }
+  if (Trimmed(line.substr(0, sign)) != key) return std::nullopt;
+  return Trimmed(line.substr(sign + 1));
+}
+
+bool IsText(std::string_view value) {
+  return value.find('\0') == std::string_view::npos && IsUtf8(value);
+}
+
+std::string Encoded(char byte) {
+  constexpr std::string_view kDigits = "0123456789ABCDEF";
+  const auto value = static_cast<unsigned char>(byte);
+  return {'%', kDigits[value / 16], kDigits[value % 16]};
+}
+
+}  // namespace
+
+std::optional<std::string> PreferenceInText(std::string_view text,
+                                            std::string_view key) {
+  // An editor's mark in front must not take the administrator's word away.
+  if (text.starts_with(kByteOrderMark)) {
+    text.remove_prefix(kByteOrderMark.size());
+  }
+  std::optional<std::string_view> value;
+  bool in_group = false;
+  while (!text.empty()) {
+    const std::string_view line = TakeLine(text);
+    if (line.starts_with('[')) {
+      in_group = line == kGroup;
+    } else if (const auto found = ValueIn(line, key); in_group && found) {
+      value = found;
+    }
+  }
+  if (!value || !IsText(*value)) return std::nullopt;
+  return std::string(*value);
+}
+
+std::string PreferenceFileName(std::string_view domain) {
+  std::string name;
+  for (const char byte : domain) {
+    const bool encode = byte == '/' || byte == '\0' || byte == '%' ||
+                        (byte == '.' && name.empty());
+    name += encode ? Encoded(byte) : std::string(1, byte);
+  }
+  return name + ".conf";
+}
+
+}  // namespace velmohelp

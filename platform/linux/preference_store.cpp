@@ -1,0 +1,39 @@
+#include "platform/linux/preference_store.h"
+
+#include <velmohelp_locations.h>
+
+#include "platform/linux/files.h"
+#include "platform/linux/folders.h"
+#include "platform/linux/preference_file.h"
+
+namespace velmohelp {
+namespace {
+
+constexpr std::size_t kFileLimit = 1U << 20U;
+
+std::optional<std::string> StoreFolder(PreferenceScope scope) {
+  if (scope == PreferenceScope::kAnyUserCurrentHost) return kSysconfDir;
+  const auto folder = PreferencesFolderPath();
+  if (!folder) return std::nullopt;
+  return *folder + "/velmo";
+}
+
+}  // namespace
+
+std::optional<std::string> ReadPreference(const std::string& domain,
+                                          const std::string& key,
+                                          PreferenceScope scope) {
+  const auto folder = StoreFolder(scope);
+  return folder ? ReadPreferenceIn(*folder, domain, key) : std::nullopt;
+}
+
+std::optional<std::string> ReadPreferenceIn(const std::string& folder,
+                                            const std::string& domain,
+                                            const std::string& key) {
+  const Descriptor file =
+      OpenRegularFile(folder + "/" + PreferenceFileName(domain));
+  const auto text = file ? ReadAll(file, kFileLimit) : std::nullopt;
+  return text ? PreferenceInText(*text, key) : std::nullopt;
+}
+
+}  // namespace velmohelp
