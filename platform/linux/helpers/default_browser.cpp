@@ -1,0 +1,57 @@
+#include "platform/linux/helpers/default_browser.h"
+
+#include <gio/gdesktopappinfo.h>
+#include <gio/gio.h>
+
+#include "platform/linux/helpers/exec_line.h"
+#include "platform/linux/helpers/gobject_ptr.h"
+#include "platform/linux/helpers/terminal.h"
+
+namespace velmohelp {
+namespace {
+
+using Words = std::vector<std::string>;
+
+ObjectPtr<GAppInfo> DefaultBrowser() {
+  for (const char* scheme : {"https", "http"}) {
+    ObjectPtr<GAppInfo> handler(g_app_info_get_default_for_uri_scheme(scheme));
+    if (handler && G_IS_DESKTOP_APP_INFO(handler.get())) return handler;
+  }
+  return nullptr;
+}
+
+std::string OrEmpty(const char* text) { return text == nullptr ? "" : text; }
+
+FieldValues ValuesFor(GAppInfo* browser, const std::string& url) {
+  GDesktopAppInfo* entry = G_DESKTOP_APP_INFO(browser);
+  const TextPtr icon(g_desktop_app_info_get_string(entry, "Icon"));
+  return {url, Text(icon), OrEmpty(g_app_info_get_name(browser)),
+          OrEmpty(g_desktop_app_info_get_filename(entry))};
+}
+
+bool RunsInTerminal(GAppInfo* browser) {
+  return g_desktop_app_info_get_boolean(G_DESKTOP_APP_INFO(browser),
+                                        "Terminal") != 0;
+}
+
+/// The library starts programs by absolute paths alone: the search is made
+/// here. Words without a program when it is nowhere.
+Words WithAbsoluteProgram(Words words) {
+  const TextPtr path(g_find_program_in_path(words.front().c_str()));
+  if (!path || g_path_is_absolute(path.get()) == 0) return {};
+  words.front() = path.get();
+  return words;
+}
+
+}  // namespace
+
+Words DefaultBrowserCommand(const std::string& url) {
+  const ObjectPtr<GAppInfo> browser = DefaultBrowser();
+  if (!browser) return {};
+  const std::string line = OrEmpty(g_app_info_get_commandline(browser.get()));
+  Words words = ExpandExecLine(line, ValuesFor(browser.get(), url));
+  if (RunsInTerminal(browser.get())) words = InTerminal(std::move(words));
+  return words.empty() ? words : WithAbsoluteProgram(std::move(words));
+}
+
+}  // namespace velmohelp

@@ -1,0 +1,105 @@
+#include "platform/linux/helpers/text_check.h"
+
+#include <strings.h>
+
+#include <algorithm>
+
+namespace velmohelp {
+namespace {
+
+using std::string_view_literals::operator""sv;
+
+struct ByteOrderMark {
+  std::string_view bytes;
+  const char* charset;
+};
+
+/// UTF-8's own mark is valid UTF-8 like any other character. The first bytes
+/// of a body may be the mark of two character sets; each gets its try.
+constexpr ByteOrderMark kMarks[] = {
+    {"\xFF\xFE\x00\x00"sv, "UTF-32LE"},
+    {"\x00\x00\xFE\xFF"sv, "UTF-32BE"},
+    {"\xFF\xFE"sv, "UTF-16LE"},
+    {"\xFE\xFF"sv, "UTF-16BE"},
+};
+constexpr std::size_t kLongestMark = 4;
+
+std::string_view Trimmed(std::string_view text) {
+  constexpr std::string_view kBlanks = " \t";
+  const std::size_t first = text.find_first_not_of(kBlanks);
+  if (first == std::string_view::npos) return {};
+  return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
+}
+
+bool EqualNames(std::string_view a, std::string_view b) {
+  return a.size() == b.size() && strncasecmp(a.data(), b.data(), a.size()) == 0;
+}
+
+std::string_view Unquoted(std::string_view value) {
+  if (value.size() < 2 || !value.starts_with('"')) return value;
+  return value.substr(1, value.find('"', 1) - 1);
+}
+
+/// Takes what stands before the first ";", and that, off the text.
+std::string_view TakeParameter(std::string_view& text) {
+  const std::string_view parameter = text.substr(0, text.find(';'));
+  text.remove_prefix(std::min(parameter.size() + 1, text.size()));
+  return parameter;
+}
+
+}  // namespace
+
+std::string CharsetOf(std::string_view content_type) {
+  TakeParameter(content_type);  // the media type itself
+  while (!content_type.empty()) {
+    const std::string_view parameter = TakeParameter(content_type);
+    const std::size_t sign = parameter.find('=');
+    if (sign == std::string_view::npos) continue;
+    if (EqualNames(Trimmed(parameter.substr(0, sign)), "charset")) {
+      return std::string(Unquoted(Trimmed(parameter.substr(sign + 1))));
+    }
+  }
+  return "";
+}
+
+TextCheck::TextCheck(const std::string& charset) {
+  decoders_.emplace_back("UTF-8");
+  decoders_.emplace_back(charset);
+}
+
+void TextCheck::Take(std::string_view piece) {
+  if (begun_) {
+    Decode(piece);
+    return;
+  }
+  start_ += piece;
+  if (start_.size() >= kLongestMark) Begin();
+}
+
+bool TextCheck::MayBeText() const {
+  return std::any_of(
+      decoders_.begin(), decoders_.end(),
+      [](const Decoder& decoder) { return decoder.DecodesSoFar(); });
+}
+
+bool TextCheck::IsText() {
+  if (!begun_) Begin();
+  return std::any_of(
+      decoders_.begin(), decoders_.end(),
+      [](const Decoder& decoder) { return decoder.DecodesWhole(); });
+}
+
+void TextCheck::Begin() {
+  begun_ = true;
+  for (const ByteOrderMark& mark : kMarks) {
+    if (start_.starts_with(mark.bytes)) decoders_.emplace_back(mark.charset);
+  }
+  Decode(start_);
+  start_.clear();
+}
+
+void TextCheck::Decode(std::string_view piece) {
+  for (Decoder& decoder : decoders_) decoder.Take(piece);
+}
+
+}  // namespace velmohelp
