@@ -2,11 +2,11 @@
 
 #include <curl/curl.h>
 
-#include <algorithm>
 #include <memory>
 #include <optional>
 #include <string_view>
 
+#include "platform/linux/helpers/resource_url.h"
 #include "platform/linux/helpers/text_check.h"
 
 namespace velmohelp {
@@ -17,19 +17,6 @@ constexpr long kTotalSeconds = 60;
 constexpr long kMaxRedirects = 20;
 
 using Handle = std::unique_ptr<CURL, decltype(&curl_easy_cleanup)>;
-using Url = std::unique_ptr<CURLU, decltype(&curl_url_cleanup)>;
-
-/// A URL that is no URI is refused, where the transfer library would guess: a
-/// missing scheme, a blank, bytes beyond ASCII.
-Url ParseUrl(const std::string& text) {
-  const bool plain = std::all_of(text.begin(), text.end(),
-                                 [](char c) { return c > ' ' && c < '\x7F'; });
-  Url url(plain ? curl_url() : nullptr, &curl_url_cleanup);
-  if (url && curl_url_set(url.get(), CURLUPART_URL, text.c_str(), 0) != 0) {
-    url.reset();
-  }
-  return url;
-}
 
 /// The response whose body comes; earlier ones were redirects.
 std::string DeclaredCharset(CURL* transfer) {
@@ -90,7 +77,7 @@ bool IsGoodStatus(CURL* transfer) {
 }  // namespace
 
 bool IsTextAt(const std::string& url) {
-  const Url parsed = ParseUrl(url);
+  const UrlPtr parsed = ParseResourceUrl(url);
   const Handle transfer(curl_easy_init(), &curl_easy_cleanup);
   if (!parsed || !transfer) return false;
   Body body(transfer.get());
