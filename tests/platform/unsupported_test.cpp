@@ -1,0 +1,27 @@
+#include <gtest/gtest.h>
+
+#include "platform/unsupported/unsupported_machine.h"
+
+namespace velmohelp {
+namespace {
+
+TEST(UnsupportedMachine, AnswersNoToEverything) {
+  UnsupportedMachine machine;
+  EXPECT_FALSE(machine.FileExists("/"));
+  EXPECT_FALSE(machine.FindFile("/"));
+  EXPECT_FALSE(machine.StandardFolder(-32763, 0x70726566, true));
+  EXPECT_FALSE(machine.ResourcesDirectory());
+  EXPECT_FALSE(machine.BundleDirectory("com.example.x"));
+  EXPECT_FALSE(machine.ApplicationExecutable("/"));
+  EXPECT_FALSE(machine.RunToEnd("/bin/true", {}));
+  EXPECT_FALSE(machine.FirstOutput("/bin/echo", {}));
+  EXPECT_FALSE(machine.StartProgram("/bin/true", {}));
+  EXPECT_FALSE(machine.OpenInBrowser("http://localhost/"));
+  EXPECT_FALSE(machine.HostReachability("localhost"));
+  EXPECT_FALSE(
+      machine.Preference("x", "y", PreferenceScope::kCurrentUserAnyHost));
+  EXPECT_FALSE(machine.FetchText("file:///etc/passwd"));
+}
+
+}  // namespace
+}  // namespace velmohelp
