@@ -68,7 +68,7 @@ TEST_F(Running, ReadsAtLeastWhatFitsAPath) {
   EXPECT_EQ(*output, std::string(1024, '0'));
 }
 
-TEST_F(Running, SeesThatAViewerHasEndedAtOnceOnlyWhenItHas) {
+TEST_F(Running, LeavesAViewerRunning) {
   const std::string viewer = directory().WriteScript("viewer", "exec sleep 99");
   EXPECT_TRUE(machine().StartProgram(viewer, {}));
   EXPECT_EQ(testing::Children().size(), 1U);
