@@ -57,7 +57,7 @@ TEST_F(Running, ReadsOutputOnceAndWaitsForNoEnd) {
   const std::string pipe = directory() / "pipe";
   ASSERT_EQ(mkfifo(pipe.c_str(), S_IRWXU), 0);
   const std::string tool =
-      directory().WriteScript("tool", "printf one; cat '" + pipe + "'");
+      directory().WriteScript("tool", "printf one; exec cat '" + pipe + "'");
   EXPECT_EQ(machine().FirstOutput(tool, {}), "one");
 }
 
