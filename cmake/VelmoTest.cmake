@@ -4,5 +4,6 @@ function(velmo_add_test name)
   add_executable(${name} ${ARGN})
   velmo_configure(${name})
   target_link_libraries(${name} PRIVATE velmohelp_objects GTest::gmock_main)
-  gtest_discover_tests(${name} TEST_PREFIX "${name}." DISCOVERY_TIMEOUT 60)
+  gtest_discover_tests(${name} TEST_PREFIX "${name}." NO_PRETTY_VALUES
+    DISCOVERY_TIMEOUT 60)
 endfunction()
