@@ -51,9 +51,10 @@ std::optional<std::string> FindBundle(const std::string& identifier) {
 std::optional<std::string> ExecutableOf(const std::string& directory) {
   if (directory.empty()) return std::nullopt;
   const std::string name = ApplicationName(directory);
-  for (const std::string& path :
-       {directory + "/bin/" + name, directory + "/AppRun",
-        directory + "/" + name}) {
+  const std::vector<std::string> candidates = {directory + "/bin/" + name,
+                                               directory + "/AppRun",
+                                               directory + "/" + name};
+  for (const std::string& path : candidates) {
     if (IsExecutable(path)) return path;
   }
   return std::nullopt;

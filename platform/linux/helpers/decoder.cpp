@@ -1,12 +1,10 @@
 #include "platform/linux/helpers/decoder.h"
 
 #include <cerrno>
-#include <utility>
+#include <cstdint>
 
 namespace velmohelp {
 namespace {
-
-const iconv_t kNoState = reinterpret_cast<iconv_t>(-1);
 
 /// More bytes than this cannot be the beginning of one character.
 constexpr std::size_t kLongestRest = 32;
@@ -18,21 +16,16 @@ bool IsPlainName(const std::string& charset) {
          charset.find(',') == std::string::npos;
 }
 
+iconv_t Open(const std::string& charset) {
+  if (!IsPlainName(charset)) return nullptr;
+  iconv_t state = iconv_open("UTF-32LE", charset.c_str());
+  return reinterpret_cast<std::intptr_t>(state) == -1 ? nullptr : state;
+}
+
 }  // namespace
 
 Decoder::Decoder(const std::string& charset)
-    : state_(IsPlainName(charset) ? iconv_open("UTF-32LE", charset.c_str())
-                                  : kNoState),
-      decodes_(state_ != kNoState) {}
-
-Decoder::Decoder(Decoder&& other) noexcept
-    : state_(std::exchange(other.state_, kNoState)),
-      decodes_(other.decodes_),
-      rest_(std::move(other.rest_)) {}
-
-Decoder::~Decoder() {
-  if (state_ != kNoState) iconv_close(state_);
-}
+    : state_(Open(charset), &iconv_close), decodes_(state_ != nullptr) {}
 
 void Decoder::Take(std::string_view piece) {
   if (!decodes_) return;
@@ -44,7 +37,7 @@ void Decoder::Take(std::string_view piece) {
     char discarded[8192];
     char* out = discarded;
     std::size_t out_left = sizeof discarded;
-    const auto done = iconv(state_, &in, &in_left, &out, &out_left);
+    const auto done = iconv(state_.get(), &in, &in_left, &out, &out_left);
     error = done == static_cast<std::size_t>(-1) ? errno : 0;
   }
   rest_.assign(in, in_left);

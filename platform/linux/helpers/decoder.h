@@ -4,6 +4,7 @@
 
 #include <iconv.h>
 
+#include <memory>
 #include <string>
 #include <string_view>
 
@@ -16,11 +17,6 @@ class Decoder {
   /// charset: a name as the C library's iconv knows it. No stream decodes in a
   /// character set that it does not know.
   explicit Decoder(const std::string& charset);
-  Decoder(Decoder&& other) noexcept;
-  Decoder& operator=(Decoder&&) = delete;
-  Decoder(const Decoder&) = delete;
-  Decoder& operator=(const Decoder&) = delete;
-  ~Decoder();
 
   void Take(std::string_view piece);
 
@@ -30,7 +26,8 @@ class Decoder {
   bool DecodesWhole() const { return decodes_ && rest_.empty(); }
 
  private:
-  iconv_t state_;
+  /// iconv's state; null when it does not know the character set.
+  std::unique_ptr<void, decltype(&iconv_close)> state_;
   bool decodes_;
   std::string rest_;
 };

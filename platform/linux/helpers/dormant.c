@@ -6,7 +6,6 @@
 #include <netinet/in.h>
 #include <stddef.h>
 #include <stdint.h>
-#include <string.h>
 #include <sys/socket.h>
 #include <unistd.h>
 
@@ -23,7 +22,11 @@ union reply {
 struct route_question {
   struct nlmsghdr header;
   struct rtmsg route;
-  char attributes[RTA_SPACE(sizeof(struct in6_addr))];
+  struct rtattr destination;
+  union {
+    struct in_addr in;
+    struct in6_addr in6;
+  } address;
 };
 
 struct link_question {
@@ -31,10 +34,10 @@ struct link_question {
   struct ifinfomsg link;
 };
 
-/* Sends a question and reads the reply to it; the reply's length, 0 when it is
- * not of the wanted type. */
-static size_t ask(const struct nlmsghdr* question, uint16_t wanted,
-                  union reply* reply) {
+/* Sends a question and reads the reply to it; true when it is of the wanted
+ * type. */
+static int ask(const struct nlmsghdr* question, uint16_t wanted,
+               union reply* reply) {
   const int kernel = socket(AF_NETLINK, SOCK_RAW | SOCK_CLOEXEC, NETLINK_ROUTE);
   if (kernel < 0) return 0;
   ssize_t got = -1;
@@ -43,76 +46,74 @@ static size_t ask(const struct nlmsghdr* question, uint16_t wanted,
   }
   close(kernel);
   if (got <= 0 || !NLMSG_OK(&reply->header, (size_t)got)) return 0;
-  return reply->header.nlmsg_type == wanted ? reply->header.nlmsg_len : 0;
+  return reply->header.nlmsg_type == wanted;
 }
 
-/* Finds an attribute behind a reply's fixed part and copies its value; true
- * when it is there in that size. */
-static int attribute(union reply* reply, size_t fixed_part, unsigned short type,
-                     void* value, size_t size) {
+/* The value of an attribute behind a reply's fixed part, of at least that size;
+ * NULL when it is not there. */
+static const void* attribute(const union reply* reply, size_t fixed_part,
+                             unsigned short type, size_t size) {
   const size_t start = NLMSG_SPACE(fixed_part);
-  if (reply->header.nlmsg_len < start) return 0;
+  if (reply->header.nlmsg_len < start) return NULL;
   size_t left = reply->header.nlmsg_len - start;
   const struct rtattr* at = (const struct rtattr*)(reply->bytes + start);
   for (; RTA_OK(at, left); at = RTA_NEXT(at, left)) {
-    if (at->rta_type == type && RTA_PAYLOAD(at) >= size) {
-      memcpy(value, RTA_DATA(at), size);
-      return 1;
-    }
+    if (at->rta_type == type && RTA_PAYLOAD(at) >= size) return RTA_DATA(at);
   }
-  return 0;
+  return NULL;
 }
 
-static void set_destination(struct route_question* question, int family,
-                            const void* address, size_t size) {
-  struct rtattr* destination = (struct rtattr*)question->attributes;
-  question->header.nlmsg_type = RTM_GETROUTE;
-  question->header.nlmsg_flags = NLM_F_REQUEST;
+static void set_lengths(struct route_question* question, size_t address_size) {
   question->header.nlmsg_len =
-      (uint32_t)(offsetof(struct route_question, attributes) + RTA_SPACE(size));
-  question->route.rtm_family = (unsigned char)family;
-  question->route.rtm_dst_len = (unsigned char)(size * 8);
-  destination->rta_type = RTA_DST;
-  destination->rta_len = (unsigned short)RTA_LENGTH(size);
-  memcpy(RTA_DATA(destination), address, size);
+      (uint32_t)(offsetof(struct route_question, address) + address_size);
+  question->destination.rta_len = (unsigned short)RTA_LENGTH(address_size);
+  question->route.rtm_dst_len = (unsigned char)(address_size * 8);
 }
 
-/* The number of the interface to an address, 0 for none. */
+static void set_address(struct route_question* question,
+                        const struct sockaddr* address) {
+  if (address->sa_family == AF_INET) {
+    question->address.in = ((const struct sockaddr_in*)address)->sin_addr;
+    set_lengths(question, sizeof question->address.in);
+  } else {
+    question->address.in6 = ((const struct sockaddr_in6*)address)->sin6_addr;
+    set_lengths(question, sizeof question->address.in6);
+  }
+}
+
+/* An address that is good on one link alone says which; 0 for any other. */
+static int own_interface(const struct sockaddr* address) {
+  if (address->sa_family != AF_INET6) return 0;
+  return (int)((const struct sockaddr_in6*)address)->sin6_scope_id;
+}
+
+/* The number of the interface to an IPv4 or IPv6 address, 0 for none. */
 static int interface_to(const struct sockaddr* address) {
   struct route_question question = {0};
   union reply reply;
-  int interface = 0;
-  if (address->sa_family == AF_INET) {
-    const struct sockaddr_in* in = (const struct sockaddr_in*)address;
-    set_destination(&question, AF_INET, &in->sin_addr, sizeof in->sin_addr);
-  } else if (address->sa_family == AF_INET6) {
-    const struct sockaddr_in6* in6 = (const struct sockaddr_in6*)address;
-    if (in6->sin6_scope_id != 0) return (int)in6->sin6_scope_id;
-    set_destination(&question, AF_INET6, &in6->sin6_addr,
-                    sizeof in6->sin6_addr);
-  } else {
-    return 0;
-  }
-  if (ask(&question.header, RTM_NEWROUTE, &reply) == 0) return 0;
-  if (!attribute(&reply, sizeof(struct rtmsg), RTA_OIF, &interface,
-                 sizeof interface)) {
-    return 0;
-  }
-  return interface;
+  if (own_interface(address) != 0) return own_interface(address);
+  question.header.nlmsg_type = RTM_GETROUTE;
+  question.header.nlmsg_flags = NLM_F_REQUEST;
+  question.route.rtm_family = (unsigned char)address->sa_family;
+  question.destination.rta_type = RTA_DST;
+  set_address(&question, address);
+  if (!ask(&question.header, RTM_NEWROUTE, &reply)) return 0;
+  const int* interface =
+      attribute(&reply, sizeof(struct rtmsg), RTA_OIF, sizeof *interface);
+  return interface == NULL ? 0 : *interface;
 }
 
 static int is_dormant(int interface) {
   struct link_question question = {0};
   union reply reply;
-  uint8_t state = 0;
   question.header.nlmsg_type = RTM_GETLINK;
   question.header.nlmsg_flags = NLM_F_REQUEST;
   question.header.nlmsg_len = sizeof question;
   question.link.ifi_index = interface;
-  return ask(&question.header, RTM_NEWLINK, &reply) != 0 &&
-         attribute(&reply, sizeof(struct ifinfomsg), IFLA_OPERSTATE, &state,
-                   sizeof state) &&
-         state == IF_OPER_DORMANT;
+  if (!ask(&question.header, RTM_NEWLINK, &reply)) return 0;
+  const uint8_t* state = attribute(&reply, sizeof(struct ifinfomsg),
+                                   IFLA_OPERSTATE, sizeof *state);
+  return state != NULL && *state == IF_OPER_DORMANT;
 }
 
 int velmo_leaves_through_dormant(const struct sockaddr* address) {

@@ -7,8 +7,6 @@
 namespace velmohelp {
 namespace {
 
-using std::string_view_literals::operator""sv;
-
 struct ByteOrderMark {
   std::string_view bytes;
   const char* charset;
@@ -17,10 +15,10 @@ struct ByteOrderMark {
 /// UTF-8's own mark is valid UTF-8 like any other character. The first bytes
 /// of a body may be the mark of two character sets; each gets its try.
 constexpr ByteOrderMark kMarks[] = {
-    {"\xFF\xFE\x00\x00"sv, "UTF-32LE"},
-    {"\x00\x00\xFE\xFF"sv, "UTF-32BE"},
-    {"\xFF\xFE"sv, "UTF-16LE"},
-    {"\xFE\xFF"sv, "UTF-16BE"},
+    {{"\xFF\xFE\x00\x00", 4}, "UTF-32LE"},
+    {{"\x00\x00\xFE\xFF", 4}, "UTF-32BE"},
+    {"\xFF\xFE", "UTF-16LE"},
+    {"\xFE\xFF", "UTF-16BE"},
 };
 constexpr std::size_t kLongestMark = 4;
 
