@@ -29,7 +29,7 @@ class ResultCode : public ::testing::TestWithParam<Row> {
                       " return r, r.name, r.value, r.type");
   }
 
-  std::string Expected(const std::string& type) {
+  static std::string Expected(const std::string& type) {
     return GetParam().name + " " + GetParam().name + " " +
            std::to_string(GetParam().answer) + " " + type;
   }
