@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/host/process.h"
-#include "tests/host/script_file.h"
+#include "tests/platform/support/temporary_directory.h"
 
 namespace velmohelp::testing {
 namespace {
@@ -13,8 +13,8 @@ using ::testing::HasSubstr;
 using ::testing::StartsWith;
 
 Outcome RunScript(const std::string& script, const Words& arguments = {}) {
-  const ScriptFile file(script);
-  Words command = {VELMO_LXHOST, file.Path()};
+  const TemporaryDirectory folder;
+  Words command = {VELMO_LXHOST, folder.Write("script.lua", script)};
   command.insert(command.end(), arguments.begin(), arguments.end());
   return RunProgram(command);
 }
@@ -144,14 +144,28 @@ TEST(Lxhost, DropsAStatementThatEndsInTheMiddleAndPromptsAgain) {
   EXPECT_EQ(outcome.status, 0);
 }
 
-TEST(Lxhost, SaysThatThePlugInCannotBeLoaded) {
-  const ScriptFile script("print 'reached'");
-  const std::filesystem::path folder =
-      std::filesystem::path(script.Path()).parent_path();
-  std::ofstream(folder / "libvelmohelp.so.1") << "no library";
+TEST(Lxhost, InitialisesFromTheResourcesBesideIt) {
+  const TemporaryDirectory folder;
+  std::filesystem::copy_file(VELMO_LXHOST, folder / "app");
+  folder.Write("app.resources/help/en_US/Product.helpcfg",
+               R"(<help id="en_US_Product" path="content" appId="NULL"
+                  baseUrl="http://localhost/"/>)");
   const Outcome outcome =
-      RunProgram({VELMO_LXHOST_ELSEWHERE, script.Path()}, "",
-                 {"LD_LIBRARY_PATH=" + folder.string()});
+      RunProgram({folder / "app"},
+                 "print(LxHelp.displayClientPage(''), "
+                 "LxHelpWorker.initializeClient('Product', 'en_US'), "
+                 "LxHelp.displayClientPage(''))",
+                 {"XDG_CONFIG_HOME=" + folder.MakeDirectory("config")});
+  EXPECT_EQ(outcome.out, "invalidInitialization\tsuccess\tinvalidArgument\n")
+      << outcome.error;
+}
+
+TEST(Lxhost, SaysThatThePlugInCannotBeLoaded) {
+  const TemporaryDirectory folder;
+  folder.Write("libvelmohelp.so.1", "no library");
+  const Outcome outcome =
+      RunProgram({VELMO_LXHOST_ELSEWHERE}, "print 'reached'",
+                 {"LD_LIBRARY_PATH=" + folder.path()});
   EXPECT_EQ(outcome.status, 1);
   EXPECT_EQ(outcome.out, "");
   EXPECT_THAT(outcome.error,

@@ -2,13 +2,10 @@
 #include <gtest/gtest.h>
 #include <velmohelp/script_host.h>
 
-#include <cstdlib>
-#include <filesystem>
-#include <fstream>
-
 #include "client/this_machine.h"
 #include "platform/scripted/scripted_machine.h"
 #include "tests/host/lua_state.h"
+#include "tests/platform/support/temporary_directory.h"
 
 namespace velmohelp::testing {
 namespace {
@@ -21,27 +18,21 @@ constexpr char kConfiguration[] =
 class ScriptOverClient : public ::testing::Test {
  protected:
   ScriptOverClient() {
-    std::string folder = ::testing::TempDir() + "velmohelp-XXXXXX";
-    resources_ = mkdtemp(folder.data());
-    std::filesystem::create_directories(resources_ / "help/en_US");
-    std::ofstream(resources_ / "help/en_US/Product.helpcfg") << kConfiguration;
-    machine_.SetResourcesDirectory(resources_);
+    resources_.Write("help/en_US/Product.helpcfg", kConfiguration);
+    machine_.SetResourcesDirectory(resources_.path());
     UseMachine(&machine_);
     private_load_LxHelp(script_);
     private_load_LxHelpWorker(script_);
   }
 
-  ~ScriptOverClient() override {
-    UseMachine(nullptr);
-    std::filesystem::remove_all(resources_);
-  }
+  ~ScriptOverClient() override { UseMachine(nullptr); }
 
   /// A call's result as type, value and name.
   std::string Call(const std::string& call) {
     return script_.Run("local r = " + call + " return r.type, r.value, r.name");
   }
 
-  std::filesystem::path resources_;
+  TemporaryDirectory resources_;
   ScriptedMachine machine_;
   LuaState script_;
 };
@@ -73,9 +64,9 @@ TEST_F(ScriptOverClient, AnEmptyPageIsAnInvalidArgumentOnceInitialised) {
 }
 
 TEST_F(ScriptOverClient, AProductKeepsItsPathSeparators) {
-  std::filesystem::create_directories(resources_ / "help/en_US/a");
-  std::ofstream(resources_ / "help/en_US/a/b.helpcfg")
-      << R"(<help id="en_US_a/b" path="content" baseUrl="http://x/"/>)";
+  resources_.Write(
+      "help/en_US/a/b.helpcfg",
+      R"(<help id="en_US_a/b" path="content" baseUrl="http://x/"/>)");
   EXPECT_EQ(Call("LxHelpWorker.initializeClient('a/b', 'en_US')"),
             "Init Return Code 0 success");
 }
