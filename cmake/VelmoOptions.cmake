@@ -3,6 +3,8 @@
 option(VELMO_BUILD_TESTS "Build the tests" ${PROJECT_IS_TOP_LEVEL})
 option(VELMO_BUILD_HOST "Build the script host over Lua 5.4"
   ${PROJECT_IS_TOP_LEVEL})
+option(VELMO_BUILD_EXAMPLES "Build the example programs"
+  ${PROJECT_IS_TOP_LEVEL})
 option(VELMO_WARNINGS_AS_ERRORS "Fail on a warning" ${PROJECT_IS_TOP_LEVEL})
 set(VELMO_SANITIZE "" CACHE STRING
   "Sanitizers to build with, as for -fsanitize (address,undefined)")
