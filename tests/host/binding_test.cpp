@@ -73,7 +73,10 @@ void LxLua_pushNamedInteger(LxState* state, int64_t value,
 namespace velmohelp::testing {
 namespace {
 
-class Binding : public ::testing::Test {};
+class Binding : public ::testing::Test {
+ protected:
+  Binding() { calls.clear(); }
+};
 
 TEST_F(Binding, LoadsOneFunctionInTheNamespaceLxHelp) {
   const auto* table = Load(private_load_LxHelp);
