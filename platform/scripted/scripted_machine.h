@@ -94,11 +94,13 @@ class ScriptedMachine : public Machine {
                                         PreferenceScope scope) override;
   bool FetchText(const std::string& url) override;
 
+ protected:
+  /// Hears every question, in its words, before it is answered.
+  virtual void Record(const Arguments& words);
+
  private:
   using Command = std::pair<std::string, Arguments>;
   using PreferenceName = std::tuple<std::string, std::string, PreferenceScope>;
-
-  void Record(const Arguments& words);
 
   std::vector<std::string> questions_;
   ScriptedFiles files_;
