@@ -111,8 +111,9 @@ VELMOHELP_API uint32_t SearchHelp(const char* productId, const char* locale,
 /* SearchHelp for the product that the host preference "HelpcfgName" of the
  * domain "com.velmo.<a>.<b>" names, with the text passed on unencoded.
  *
- * Returns 8 when no such name is set (the next SearchHelp then passes its text
- * on unencoded), else what SearchHelp returns. */
+ * Returns 8 when no such name is set, and for a or b null or empty (the next
+ * SearchHelp then passes its text on unencoded), else what SearchHelp
+ * returns. */
 VELMOHELP_API uint32_t Search(const char* a, const char* b, const char* locale,
                               const char* searchText);
 
