@@ -1,0 +1,177 @@
+// From a page id to the URL that is shown.
+#include <gtest/gtest.h>
+#include <velmohelp/velmohelp.h>
+
+#include "client/state.h"
+#include "tests/support/client_world.h"
+#include "tests/support/sentence.h"
+
+namespace velmohelp {
+namespace {
+
+using testing::ClientWorld;
+
+struct Target {
+  const char* sentence;
+  void (*given)(ClientWorld&);
+  const char* page_id;
+  /// What the browser opens; "" for nothing.
+  const char* url;
+};
+
+class DisplayTarget : public ::testing::TestWithParam<Target> {};
+
+TEST_P(DisplayTarget, IsWhatTheBrowserOpens) {
+  ClientWorld world;
+  world.Install();
+  world.StartBrowsers();
+  GetParam().given(world);
+  world.Initialise();
+  DisplayVelmoHelpClientPage(GetParam().page_id);
+  std::vector<std::string> expected;
+  if (*GetParam().url != '\0') {
+    expected.push_back(std::string("OpenInBrowser ") + GetParam().url);
+  }
+  EXPECT_EQ(world.Shown(), expected);
+}
+
+void AddInstalledPage(ClientWorld& world, const char* name) {
+  world.AddFile(world.InstalledManual() + "/" + name);
+}
+
+void AddInstalledMap(ClientWorld& world, const char* text) {
+  world.AddFile(world.InstalledManual() + "/helpmap.txt", text);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Offline, DisplayTarget,
+    ::testing::Values(
+        Target{"the downloaded page before the installed one",
+               [](ClientWorld& world) {
+                 AddInstalledPage(world, "page.html");
+                 world.AddFile(world.DownloadedManual() + "/page.html");
+               },
+               "page",
+               "file://~/Preferences/reader.VELMO.1/Local%20Store/Help/manual/"
+               "page.html"},
+        Target{"the installed page behind a doubled slash",
+               [](ClientWorld& world) { AddInstalledPage(world, "page.html"); },
+               "page", "file:///Help//manual/page.html"},
+        Target{
+            "a leading blank is part of the page id",
+            [](ClientWorld& world) { AddInstalledPage(world, "_help.html"); },
+            " help", "file:///Help//manual/_help.html"},
+        Target{"a leading blank keeps a URL from being one",
+               [](ClientWorld& world) {
+                 AddInstalledPage(world, "_http___x.html");
+               },
+               " http://x", "file:///Help//manual/_http___x.html"},
+        Target{"dots do not lead out of the folder",
+               [](ClientWorld& world) {
+                 AddInstalledPage(world, ".._.._etc_passwd.html");
+               },
+               "../../etc/passwd",
+               "file:///Help//manual/.._.._etc_passwd.html"},
+        Target{
+            "an unknown page gives the home page",
+            [](ClientWorld& world) { AddInstalledPage(world, "VX_HOME.html"); },
+            "page", "file:///Help//manual/VX_HOME.html"},
+        Target{
+            "the home page by its own id",
+            [](ClientWorld& world) { AddInstalledPage(world, "VX_HOME.html"); },
+            "VX_HOME", "file:///Help//manual/VX_HOME.html"},
+        Target{"an anchor in the map becomes a query",
+               [](ClientWorld& world) {
+                 AddInstalledMap(world,
+                                 "VX_HOME\thome.html\nintro\tv2.html#top\n");
+               },
+               "intro", "file:///Help//manual/v2.html?nameAnchor=top"},
+        Target{"a blank in the map is escaped",
+               [](ClientWorld& world) {
+                 AddInstalledMap(world, "VX_HOME\tmy home.html\n");
+               },
+               "page", "file:///Help//manual/my%20home.html"},
+        Target{"a URL in the map is no file",
+               [](ClientWorld& world) {
+                 AddInstalledMap(world, "VX_HOME\thttp://x/y\n");
+                 world.machine().AddText("http://x/y");
+               },
+               "page", ""},
+        Target{"a URL in the map that exists as a path is shown as it is",
+               [](ClientWorld& world) {
+                 AddInstalledMap(world, "VX_HOME\tfile:///x\n");
+                 world.machine().AddFile("file:///x");
+               },
+               "page", "file:///x"},
+        Target{"a map without the home page hides its folder",
+               [](ClientWorld& world) {
+                 AddInstalledMap(world, "page\tpage.html\n");
+                 AddInstalledPage(world, "page.html");
+               },
+               "page", ""},
+        Target{"a folder whose flag is not YES is passed over",
+               [](ClientWorld& world) {
+                 AddInstalledPage(world, "page.html");
+                 world.Install({.folders = {{.flag = "no"}}});
+               },
+               "page", ""}),
+    testing::SentenceOf());
+
+INSTANTIATE_TEST_SUITE_P(
+    Online, DisplayTarget,
+    ::testing::Values(
+        Target{"a page that can be fetched",
+               [](ClientWorld& world) {
+                 world.GoOnline();
+                 world.machine().AddText("http://localhost/help/" +
+                                         testing::OwnName("manual") +
+                                         "/page.html");
+               },
+               "page", "http://localhost/help/manual/page.html"},
+        Target{"an unknown page gives the home page",
+               [](ClientWorld& world) {
+                 world.GoOnline();
+                 world.machine().AddText("http://localhost/help/" +
+                                         testing::OwnName("manual") +
+                                         "/VX_HOME.html");
+               },
+               "page", "http://localhost/help/manual/VX_HOME.html"},
+        Target{"a mapped page with its anchor as it stands",
+               [](ClientWorld& world) {
+                 world.GoOnline();
+                 AddInstalledMap(world, "VX_HOME\thome.html#top\n");
+               },
+               "page", "http://localhost/help/manual/home.html#top"},
+        Target{"a mapped URL that can be fetched",
+               [](ClientWorld& world) {
+                 world.GoOnline();
+                 AddInstalledMap(world, "VX_HOME\thttps://x/y\n");
+                 world.machine().AddText("https://x/y");
+               },
+               "page", "https://x/y"},
+        Target{"nothing for a mapped URL that cannot be fetched",
+               [](ClientWorld& world) {
+                 world.GoOnline();
+                 AddInstalledMap(world, "VX_HOME\thttps://x/y\n");
+               },
+               "page", ""},
+        Target{"a local page is not looked for",
+               [](ClientWorld& world) {
+                 world.GoOnline();
+                 AddInstalledPage(world, "page.html");
+               },
+               "page", ""}),
+    testing::SentenceOf());
+
+TEST(DisplayedMap, StaysInTheState) {
+  ClientWorld world;
+  world.Install();
+  AddInstalledMap(world, "foo\tbar.html\n");
+  world.Initialise();
+  DisplayVelmoHelpClientPage("page");
+  EXPECT_EQ(sHelpMap,
+            (std::map<std::string, std::string>{{"foo", "bar.html"}}));
+}
+
+}  // namespace
+}  // namespace velmohelp

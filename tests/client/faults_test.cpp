@@ -1,0 +1,134 @@
+// Memory runs out at each question that a request asks the machine, one run a
+// question: no exception reaches the host, and the code is a defined one.
+#include <gtest/gtest.h>
+#include <velmohelp/velmohelp.h>
+
+#include <new>
+
+#include "client/state.h"
+#include "tests/support/client_world.h"
+#include "tests/support/sentence.h"
+
+namespace velmohelp {
+namespace {
+
+using testing::ClientWorld;
+
+/// Throws at a question, counted from 1 after Arm; never for 0.
+class ExhaustedMachine : public ScriptedMachine {
+ public:
+  void Arm(std::size_t question) { left_ = question; }
+
+ private:
+  void Record(const Arguments& words) override {
+    ScriptedMachine::Record(words);
+    if (left_ > 0 && --left_ == 0) throw std::bad_alloc();
+  }
+
+  std::size_t left_ = 0;
+};
+
+struct Request {
+  const char* sentence;
+  std::uint32_t (*run)();
+  bool initialised;
+  std::uint32_t code;
+  std::uint32_t code_of_fault;
+};
+
+class MemoryRunsOut : public ::testing::TestWithParam<Request> {
+ protected:
+  /// The question asked at the fault is the world's last but for what a caught
+  /// fault lets follow; `fault` is its number, 0 for a run without one.
+  static std::uint32_t Run(std::size_t fault, std::vector<std::string>& asked) {
+    ExhaustedMachine machine;
+    ClientWorld world(machine);
+    world.Install();
+    world.InstallWorkingViewer();
+    world.GoOnline();
+    world.machine().SetPreference("com.velmo.a.b", "HelpcfgName",
+                                  PreferenceScope::kAnyUserCurrentHost, "Foo");
+    if (GetParam().initialised) world.Initialise();
+    machine.Arm(fault);
+    const std::uint32_t code = GetParam().run();
+    asked = world.Questions();
+    return code;
+  }
+};
+
+/// What is thrown while a preference is read leaves online help on.
+bool IsOnlinePreference(const std::string& question) {
+  return question.ends_with(" VelmoOnlineDefault");
+}
+
+TEST_P(MemoryRunsOut, AtAnyQuestion) {
+  std::vector<std::string> all;
+  ASSERT_EQ(Run(0, all), GetParam().code);
+  ASSERT_FALSE(all.empty());
+  for (std::size_t fault = 1; fault <= all.size(); ++fault) {
+    std::vector<std::string> asked;
+    const std::uint32_t code = Run(fault, asked);
+    const std::string& question = all[fault - 1];
+    if (IsOnlinePreference(question)) {
+      EXPECT_EQ(code, GetParam().code) << question;
+    } else {
+      EXPECT_EQ(code, GetParam().code_of_fault) << question;
+      EXPECT_EQ(asked.size(), fault) << question;
+    }
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    , MemoryRunsOut,
+    ::testing::Values(
+        Request{"in an initialisation",
+                [] { return InitializeVelmoHelpClient("Foo", "en_US", 0); },
+                false, 0, 6},
+        Request{"in the online status", GetVelmoHelpClientOnlineStatus, true, 0,
+                1},
+        Request{"in a page display",
+                [] { return DisplayVelmoHelpClientPage("page"); }, true, 0, 11},
+        Request{"in the display of a URL",
+                [] { return DisplayVelmoHelpClientPage("http://x"); }, true, 0,
+                11},
+        Request{"in the opening of a URL", [] { return OpenURL("http://x"); },
+                true, 0, 7},
+        Request{"in a search", [] { return SearchHelp("Foo", "en_US", "x"); },
+                true, 0, 1},
+        Request{"in a search by names",
+                [] { return Search("a", "b", "en_US", "x"); }, true, 0, 1}),
+    testing::SentenceOf());
+
+TEST(MemoryRanOut, LeavesAnInitialisationUndone) {
+  ExhaustedMachine machine;
+  ClientWorld world(machine);
+  world.Install();
+  world.Initialise();
+  machine.Arm(1);
+  EXPECT_EQ(InitializeVelmoHelpClient("Bar", "en_US", 0), 6U);
+  EXPECT_EQ(sInitStatus, 6);
+}
+
+/// The search goes on from what the initialisation has answered.
+TEST(MemoryRanOut, InTheInitialisationOfASearchIsAMissingConfiguration) {
+  ExhaustedMachine machine;
+  ClientWorld world(machine);
+  world.Install();
+  machine.Arm(1);
+  EXPECT_EQ(SearchHelp("Foo", "en_US", "x"), 4U);
+}
+
+TEST(MemoryRanOut, LeavesTheClientOffline) {
+  ExhaustedMachine machine;
+  ClientWorld world(machine);
+  world.Install();
+  world.GoOnline();
+  world.Initialise();
+  EXPECT_TRUE(sIsOnline);
+  machine.Arm(3);
+  EXPECT_EQ(GetVelmoHelpClientOnlineStatus(), 1U);
+  EXPECT_FALSE(sIsOnline);
+}
+
+}  // namespace
+}  // namespace velmohelp

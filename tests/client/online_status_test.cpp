@@ -1,0 +1,109 @@
+// GetVelmoHelpClientOnlineStatus, which probes at each call.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <velmohelp/velmohelp.h>
+
+#include "client/state.h"
+#include "tests/support/client_world.h"
+#include "tests/support/sentence.h"
+
+namespace velmohelp {
+namespace {
+
+using testing::ClientWorld;
+using ::testing::ElementsAre;
+
+constexpr char kDomain[] = "com.velmo.VelmoOnlineHelp";
+constexpr char kKey[] = "VelmoOnlineDefault";
+
+void SetPreference(ClientWorld& world, PreferenceScope scope,
+                   const char* value) {
+  world.machine().SetPreference(kDomain, kKey, scope, value);
+}
+
+struct Network {
+  const char* sentence;
+  void (*given)(ClientWorld&);
+  std::uint32_t code;
+};
+
+class OnlineStatusCode : public ::testing::TestWithParam<Network> {};
+
+TEST_P(OnlineStatusCode, OfAnInitialisedClient) {
+  ClientWorld world;
+  world.Install();
+  GetParam().given(world);
+  world.Initialise();
+  EXPECT_EQ(GetVelmoHelpClientOnlineStatus(), GetParam().code);
+  EXPECT_EQ(sIsOnline, GetParam().code == 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    , OnlineStatusCode,
+    ::testing::Values(
+        Network{"a server that can be reached",
+                [](ClientWorld& world) { world.GoOnline(); }, 0},
+        Network{"a user who did not say no",
+                [](ClientWorld& world) {
+                  world.GoOnline();
+                  SetPreference(world, PreferenceScope::kCurrentUserAnyHost,
+                                "1");
+                },
+                0},
+        Network{"a server that nothing is known of", [](ClientWorld&) {}, 1},
+        Network{"a user who said no",
+                [](ClientWorld& world) {
+                  world.GoOnline();
+                  SetPreference(world, PreferenceScope::kCurrentUserAnyHost,
+                                "0");
+                },
+                1},
+        Network{
+            "an administrator who said no to a user who said yes",
+            [](ClientWorld& world) {
+              world.GoOnline();
+              SetPreference(world, PreferenceScope::kAnyUserCurrentHost, "0");
+              SetPreference(world, PreferenceScope::kCurrentUserAnyHost, "1");
+            },
+            1}),
+    testing::SentenceOf());
+
+TEST(OnlineStatus, IsTwoBeforeAnyInitialisationWhateverTheNetwork) {
+  ClientWorld world;
+  world.GoOnline();
+  EXPECT_EQ(GetVelmoHelpClientOnlineStatus(), 2U);
+  EXPECT_TRUE(world.Questions().empty());
+  EXPECT_FALSE(sIsOnline);
+}
+
+TEST(OnlineStatus, IsTwoAfterAFailedInitialisation) {
+  ClientWorld world;
+  world.GoOnline();
+  InitializeVelmoHelpClient("Foo", "en_US", 0);
+  EXPECT_EQ(GetVelmoHelpClientOnlineStatus(), 2U);
+}
+
+TEST(OnlineStatus, IsProbedAfreshAtEachCall) {
+  ClientWorld world;
+  world.Install();
+  world.GoOnline();
+  world.Initialise();
+  EXPECT_EQ(GetVelmoHelpClientOnlineStatus(), 0U);
+  world.machine().SetReachability("localhost", {});
+  EXPECT_EQ(GetVelmoHelpClientOnlineStatus(), 1U);
+  EXPECT_FALSE(sIsOnline);
+}
+
+TEST(OnlineStatus, AsksPolicyBeforeTheNetwork) {
+  ClientWorld world;
+  world.Install();
+  world.Initialise();
+  SetPreference(world, PreferenceScope::kAnyUserCurrentHost, "0");
+  GetVelmoHelpClientOnlineStatus();
+  EXPECT_THAT(world.Questions(),
+              ElementsAre("Preference admin com.velmo.VelmoOnlineHelp "
+                          "VelmoOnlineDefault"));
+}
+
+}  // namespace
+}  // namespace velmohelp

@@ -1,0 +1,123 @@
+// What OpenURL asks the machine, in which order, and what it leaves behind.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <velmohelp/velmohelp.h>
+
+#include "client/state.h"
+#include "tests/client/steps.h"
+#include "tests/support/client_world.h"
+
+namespace velmohelp {
+namespace {
+
+using testing::ClientWorld;
+using ::testing::ElementsAreArray;
+using ::testing::IsEmpty;
+using testing::Joined;
+using testing::Steps;
+
+TEST(OpenUrlOrder, InTheViewer) {
+  ClientWorld world;
+  world.Install();
+  world.InstallWorkingViewer();
+  world.Initialise();
+  OpenURL("http://x");
+  EXPECT_THAT(
+      world.Questions(),
+      ElementsAreArray(Joined(
+          {testing::kConfigurationIsRead, testing::kViewerIsLookedUp,
+           Steps{"StandardFolder -32763 pref create"},
+           testing::kPreferenceFileIsLookedFor, testing::kViewerIsTried,
+           Steps{"FileExists ~/Viewer",
+                 "StartProgram ~/Viewer URL Foo en_US \"\"http://x\"\""}})));
+}
+
+TEST(OpenUrlOrder, InAccessibleModeLooksForNoViewer) {
+  ClientWorld world;
+  world.Install();
+  world.InstallWorkingViewer();
+  world.SetAccessibleMode("TRUE");
+  world.Initialise();
+  OpenURL("http://x");
+  EXPECT_THAT(world.Questions(),
+              ElementsAreArray(Joined(
+                  {testing::kConfigurationIsRead, testing::kViewerIsLookedUp,
+                   Steps{"StandardFolder -32763 pref create"},
+                   testing::kPreferenceFileIsLookedFor,
+                   Steps{"OpenInBrowser http://x"}})));
+}
+
+TEST(OpenUrlOrder, WithoutTheViewersFileAsksForNoRuntime) {
+  ClientWorld world;
+  world.Install();
+  world.InstallWorkingViewer();
+  world.Initialise();
+  world.RemoveViewer();
+  OpenURL("http://x");
+  EXPECT_THAT(world.Questions(),
+              ElementsAreArray(Joined(
+                  {testing::kConfigurationIsRead, testing::kViewerIsLookedUp,
+                   Steps{"StandardFolder -32763 pref create"},
+                   testing::kPreferenceFileIsLookedFor,
+                   Steps{"FileExists ~/Viewer", "OpenInBrowser http://x"}})));
+}
+
+TEST(OpenUrlOrder, AsksForNoPreferenceFileWhenNoViewerIsNamed) {
+  ClientWorld world;
+  world.Install({.app_id = "NULL"});
+  world.Initialise();
+  OpenURL("http://x");
+  for (const std::string& question : world.Questions()) {
+    EXPECT_EQ(question.find("klh-pref.xml"), std::string::npos) << question;
+  }
+}
+
+TEST(OpenUrlOrder, AsksNothingForABadArgument) {
+  ClientWorld world;
+  world.Install();
+  world.Initialise();
+  for (const char* url : {static_cast<const char*>(nullptr), "", "  ", "x"}) {
+    EXPECT_EQ(OpenURL(url), 3U);
+  }
+  EXPECT_THAT(world.Questions(), IsEmpty());
+}
+
+/// The default viewer is taken and looked up whatever the configuration read
+/// has answered.
+TEST(OpenUrlOrder, LooksForTheViewerThoughTheConfigurationIsGone) {
+  ClientWorld world;
+  world.Install();
+  world.InstallWorkingViewer();
+  world.Initialise();
+  sHelpAppPath = "stale";
+  world.RemoveFile(world.InstalledConfig());
+  EXPECT_EQ(OpenURL("http://x"), 4U);
+  EXPECT_THAT(world.Questions(),
+              ElementsAreArray(Joined(
+                  {Steps{"ResourcesDirectory"}, testing::kViewerIsLookedUp})));
+  EXPECT_NE(sHelpAppPath, "stale");
+}
+
+TEST(OpenUrlOrder, TakesTheDefaultViewerThoughTheConfigurationIsRejected) {
+  ClientWorld world;
+  world.Install();
+  world.Initialise();
+  world.Install({.id = "en_US_Bar", .app_id = "null"});
+  EXPECT_EQ(OpenURL("http://x"), 5U);
+  EXPECT_EQ(sAppID, sDefaultAppID);
+  EXPECT_EQ(sPublisherID, sDefaultPublisherID);
+  EXPECT_EQ(sHelpAppPath, "");
+}
+
+TEST(OpenUrlOrder, LeavesOneIdAlone) {
+  ClientWorld world;
+  world.Install();
+  world.Initialise();
+  world.Install({.app_id = ""});
+  OpenURL("http://x");
+  EXPECT_EQ(sAppID, "");
+  EXPECT_EQ(sPublisherID, "VELMO.1");
+}
+
+}  // namespace
+}  // namespace velmohelp
