@@ -1,0 +1,13 @@
+#!/bin/sh
+# usage: exports_test.sh NM LIBRARY LIST
+# Fails when the names that the library exports are not those of the list, in
+# C order. A name that disappears breaks programs already built; one that
+# appears is kept for ever.
+set -eu
+nm=$1 library=$2 list=$3
+
+names=$("$nm" -D --defined-only "$library")
+printf '%s\n' "$names" | sed 's/.* //' | LC_ALL=C sort | diff -u "$list" - || {
+  echo "exports differ: - is missing, + is not in $list" >&2
+  exit 1
+}
