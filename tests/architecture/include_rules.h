@@ -1,0 +1,16 @@
+// Which file may include which: layers never look up, and only the folder that
+// answers for Linux knows Linux.
+#ifndef TESTS_ARCHITECTURE_INCLUDE_RULES_H_
+#define TESTS_ARCHITECTURE_INCLUDE_RULES_H_
+
+#include <string>
+
+namespace velmohelp::testing {
+
+/// file: path below the source tree ("config/key_scanner.cpp"); header: as it
+/// stands behind #include, with its quotes or angle brackets.
+bool MayInclude(const std::string& file, const std::string& header);
+
+}  // namespace velmohelp::testing
+
+#endif  // TESTS_ARCHITECTURE_INCLUDE_RULES_H_
