@@ -14,18 +14,21 @@ namespace {
 
 using testing::ClientWorld;
 
-/// Throws at a question, counted from 1 after Arm; never for 0.
+/// Throws at a question that was counted from 1 or named; never for 0 and "".
 class ExhaustedMachine : public ScriptedMachine {
  public:
   void Arm(std::size_t question) { left_ = question; }
+  void ArmAt(const std::string& verb) { verb_ = verb; }
 
  private:
   void Record(const Arguments& words) override {
     ScriptedMachine::Record(words);
     if (left_ > 0 && --left_ == 0) throw std::bad_alloc();
+    if (words.front() == verb_) throw std::bad_alloc();
   }
 
   std::size_t left_ = 0;
+  std::string verb_;
 };
 
 struct Request {
@@ -118,16 +121,22 @@ TEST(MemoryRanOut, InTheInitialisationOfASearchIsAMissingConfiguration) {
   EXPECT_EQ(SearchHelp("Foo", "en_US", "x"), 4U);
 }
 
+/// What was true at the last probe must not outlive one that failed.
 TEST(MemoryRanOut, LeavesTheClientOffline) {
-  ExhaustedMachine machine;
-  ClientWorld world(machine);
-  world.Install();
-  world.GoOnline();
-  world.Initialise();
-  EXPECT_TRUE(sIsOnline);
-  machine.Arm(3);
-  EXPECT_EQ(GetVelmoHelpClientOnlineStatus(), 1U);
-  EXPECT_FALSE(sIsOnline);
+  const auto requests = {+[] { return GetVelmoHelpClientOnlineStatus(); },
+                         +[] { return DisplayVelmoHelpClientPage("page"); },
+                         +[] { return SearchHelp("Foo", "en_US", "x"); }};
+  for (const auto request : requests) {
+    ExhaustedMachine machine;
+    ClientWorld world(machine);
+    world.Install();
+    world.GoOnline();
+    world.Initialise();
+    EXPECT_TRUE(sIsOnline);
+    machine.ArmAt("HostReachability");
+    EXPECT_NE(request(), 0U);
+    EXPECT_FALSE(sIsOnline);
+  }
 }
 
 }  // namespace
