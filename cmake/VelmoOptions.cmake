@@ -5,7 +5,9 @@ option(VELMO_BUILD_HOST "Build the script host over Lua 5.4"
   ${PROJECT_IS_TOP_LEVEL})
 option(VELMO_BUILD_EXAMPLES "Build the example programs"
   ${PROJECT_IS_TOP_LEVEL})
-option(VELMO_WARNINGS_AS_ERRORS "Fail on a warning" ${PROJECT_IS_TOP_LEVEL})
+# The presets set it: elsewhere a newer compiler's new warning must not break a
+# distribution's build.
+option(VELMO_WARNINGS_AS_ERRORS "Fail on a warning" OFF)
 set(VELMO_SANITIZE "" CACHE STRING
   "Sanitizers to build with, as for -fsanitize (address,undefined)")
 
@@ -21,6 +23,9 @@ set(VELMO_PLATFORM "${velmo_default_platform}" CACHE STRING
 # The library and its helper programs lie together, in the build tree as in the
 # installed one: the library finds them by its own location.
 set(VELMO_LIBRARY_DIR "${PROJECT_BINARY_DIR}/lib")
+
+option(VELMO_INSTALL "Install the library and what belongs to it"
+  ${PROJECT_IS_TOP_LEVEL})
 
 if(PROJECT_IS_TOP_LEVEL AND NOT CMAKE_BUILD_TYPE)
   set(CMAKE_BUILD_TYPE Release CACHE STRING "Build type" FORCE)

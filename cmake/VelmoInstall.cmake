@@ -1,0 +1,47 @@
+# What an installation holds. Two components, as distributions split them:
+# "runtime" is what a program that uses the library needs to run, "development"
+# what it needs to be built.
+include(CMakePackageConfigHelpers)
+
+install(TARGETS velmohelp EXPORT velmohelp
+  LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}"
+    COMPONENT runtime NAMELINK_COMPONENT development)
+install(FILES LICENSE DESTINATION "${CMAKE_INSTALL_DOCDIR}" COMPONENT runtime)
+install(DIRECTORY include/velmohelp
+  DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}" COMPONENT development
+  FILES_MATCHING PATTERN "*.h")
+
+# find_package(velmohelp)
+set(velmo_package_dir "${CMAKE_INSTALL_LIBDIR}/cmake/velmohelp")
+write_basic_package_version_file(
+  "${PROJECT_BINARY_DIR}/package/velmohelpConfigVersion.cmake"
+  COMPATIBILITY SameMajorVersion)
+install(EXPORT velmohelp NAMESPACE velmohelp:: FILE velmohelpTargets.cmake
+  DESTINATION "${velmo_package_dir}" COMPONENT development)
+install(FILES
+  cmake/velmohelpConfig.cmake
+  "${PROJECT_BINARY_DIR}/package/velmohelpConfigVersion.cmake"
+  DESTINATION "${velmo_package_dir}" COMPONENT development)
+
+# pkg-config. The prefix is told from the file's own place, so that a tree that
+# was unpacked elsewhere still names its own headers.
+function(velmo_below_prefix out folder)
+  if(IS_ABSOLUTE "${folder}")
+    set(${out} "${folder}" PARENT_SCOPE)
+  else()
+    set(${out} "\${prefix}/${folder}" PARENT_SCOPE)
+  endif()
+endfunction()
+if(IS_ABSOLUTE "${CMAKE_INSTALL_LIBDIR}")
+  set(VELMO_PC_PREFIX "${CMAKE_INSTALL_PREFIX}")
+else()
+  file(RELATIVE_PATH velmo_up "/${CMAKE_INSTALL_LIBDIR}/pkgconfig" "/")
+  string(REGEX REPLACE "/$" "" velmo_up "${velmo_up}")
+  set(VELMO_PC_PREFIX "\${pcfiledir}/${velmo_up}")
+endif()
+velmo_below_prefix(VELMO_PC_LIBDIR "${CMAKE_INSTALL_LIBDIR}")
+velmo_below_prefix(VELMO_PC_INCLUDEDIR "${CMAKE_INSTALL_INCLUDEDIR}")
+configure_file(cmake/velmohelp.pc.in
+  "${PROJECT_BINARY_DIR}/package/velmohelp.pc" @ONLY)
+install(FILES "${PROJECT_BINARY_DIR}/package/velmohelp.pc"
+  DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig" COMPONENT development)

@@ -1,0 +1,8 @@
+#!/bin/sh
+# pkg_config.sh SOURCE PROGRAM: builds and runs a C program with nothing but
+# the compiler and pkg-config, as a makefile does.
+set -eu
+# shellcheck disable=SC2046,SC2086 # both are lists of arguments
+"$CC" -std=c11 -Wall -Wextra -Wpedantic -Werror $CFLAGS "$1" \
+  $(pkg-config --cflags --libs velmohelp) -o "$2"
+LD_LIBRARY_PATH=$(pkg-config --variable=libdir velmohelp) "$2"
