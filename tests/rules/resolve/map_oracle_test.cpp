@@ -1,0 +1,70 @@
+// The map loader works on the whole text at once. It must give what the plain
+// way gives: line by line, field by field, entry by entry.
+#include <gtest/gtest.h>
+#include <velmohelp/resolve.h>
+
+#include "tests/rules/support/random_text.h"
+#include "tests/rules/support/temp_folder.h"
+
+namespace velmohelp::testing {
+namespace {
+
+using Map = std::map<std::string, std::string>;
+
+bool SlowlyLoad(const std::string& path, Map& map) {
+  map.clear();
+  if (path.empty()) return false;
+  std::ifstream file(path, std::ios_base::binary);
+  if (!file.is_open()) return false;
+  std::string line;
+  while (ITEMInternal::GetLine(file, line)) {
+    std::deque<std::string> fields;
+    ITEMInternal::DelimitedStringToDeque('\t', line, fields);
+    if (fields.size() >= 2) map.insert({fields[0], fields[1]});
+  }
+  return map.find("VX_HOME") != map.end();
+}
+
+void ExpectAsTheSlowLoader(const std::string& path) {
+  Map map;
+  Map expected;
+  const bool complete = SlowlyLoad(path, expected);
+  ASSERT_EQ(ITEMInternal::LoadMapFile(path, map), complete);
+  ASSERT_EQ(map, expected);
+}
+
+TEST(MapOfRandomBytes, IsAsTheSlowLoaderHasIt) {
+  const TempFolder folder;
+  RandomText random(std::string("\t\t\t\n\n\r\r ab") + '\0');
+  for (int i = 0; i < 1500; ++i) {
+    ExpectAsTheSlowLoader(folder.Write("x", random.Next(random.Below(60))));
+  }
+}
+
+TEST(MapOfRandomLines, IsAsTheSlowLoaderHasIt) {
+  const TempFolder folder;
+  RandomText random("abc");
+  const std::string ends[] = {"\n", "\r", "\r\n", "\n\n", "\t\n", "x\n"};
+  for (int i = 0; i < 100; ++i) {
+    std::string text;
+    for (std::size_t lines = random.Below(200); lines > 0; --lines) {
+      const bool home = random.Below(100) == 0;
+      text += home ? "VX_HOME" : random.Next(1 + random.Below(3));
+      text += '\t' + random.Next(random.Below(3)) + ends[random.Below(6)];
+    }
+    ExpectAsTheSlowLoader(folder.Write("x", text));
+  }
+}
+
+TEST(MapOfALargeRandomFile, IsAsTheSlowLoaderHasItAcrossThePiecesItIsReadIn) {
+  const TempFolder folder;
+  RandomText random("\t\t\n\rabcdefghijklmnop");
+  for (const std::size_t size : {65535, 65536, 65537, 131072, 200'000}) {
+    ExpectAsTheSlowLoader(folder.Write("x", random.Next(size)));
+  }
+  ExpectAsTheSlowLoader(
+      folder.Write("x", std::string(65533, 'a') + "\tb\r\nc\td"));
+}
+
+}  // namespace
+}  // namespace velmohelp::testing
