@@ -11,8 +11,8 @@ int LaunchApplication(Machine& machine, const std::string& path,
 }
 
 int LaunchPlatformBrowser(Machine& machine, const std::string& url) {
-  if (!IsUri(url)) return kBrowserNotLaunched;
-  return machine.OpenInBrowser(url) ? kLaunched : kBrowserNotLaunched;
+  const auto uri = UriOf(url);
+  return uri && machine.OpenInBrowser(*uri) ? kLaunched : kBrowserNotLaunched;
 }
 
 }  // namespace velmohelp

@@ -6,7 +6,8 @@ namespace velmohelp {
 
 bool ValidateUrl(Machine& machine, const std::string& target, bool fetch) {
   if (!fetch) return machine.FileExists(target);
-  return IsUri(target) && machine.FetchText(target);
+  const auto uri = UriOf(target);
+  return uri && machine.FetchText(*uri);
 }
 
 }  // namespace velmohelp

@@ -48,6 +48,12 @@ bool IsUri(std::string_view text) {
   return true;
 }
 
+std::optional<std::string> UriOf(const std::string& text) {
+  std::string uri = text.substr(0, text.find('\0'));
+  if (!IsUri(uri)) return std::nullopt;
+  return uri;
+}
+
 std::string Unescaped(std::string_view text) {
   std::string result;
   for (; !text.empty(); text.remove_prefix(1)) {

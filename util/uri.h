@@ -22,6 +22,10 @@ bool IsPercentEscape(std::string_view text);
 /// text is not empty and made of URI characters and percent escapes alone.
 bool IsUri(std::string_view text);
 
+/// The URI that text is up to its first zero byte, which is where platform
+/// calls see it end; nullopt when that is none.
+std::optional<std::string> UriOf(const std::string& text);
+
 /// The path of a URI, as it stands there.
 std::string_view PathOfUri(std::string_view uri);
 

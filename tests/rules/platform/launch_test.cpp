@@ -58,6 +58,13 @@ TEST_F(Launch, OpensAUrlInTheBrowserAsItStands) {
               ElementsAre("OpenInBrowser file:///a%20b?x=[1]&y='(2)'#z"));
 }
 
+TEST_F(Launch, OpensAUrlUpToItsFirstZeroByte) {
+  machine.SetBrowserOpens(true);
+  EXPECT_EQ(LaunchPlatformBrowser("http://h/\0 x"s), 0);
+  EXPECT_EQ(LaunchPlatformBrowser("\0http://h/"s), 2);
+  EXPECT_THAT(machine.Questions(), ElementsAre("OpenInBrowser http://h/"));
+}
+
 TEST_F(Launch, IsTwoWhenTheBrowserDoesNotOpenTheUrl) {
   EXPECT_EQ(LaunchPlatformBrowser("http://h/"), 2);
   EXPECT_THAT(machine.Questions(), ElementsAre("OpenInBrowser http://h/"));

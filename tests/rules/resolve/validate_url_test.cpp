@@ -41,6 +41,12 @@ TEST_F(ValidUrl, WithAFetchIsOneThatGivesAText) {
                           "FetchText http://localhost/y", "FetchText /x"));
 }
 
+TEST_F(ValidUrl, WithAFetchEndsAtItsFirstZeroByte) {
+  machine.AddText("http://localhost/x");
+  EXPECT_TRUE(ValidateURL(std::string("http://localhost/x\0 y", 21), true));
+  EXPECT_THAT(machine.Questions(), ElementsAre("FetchText http://localhost/x"));
+}
+
 TEST_F(ValidUrl, WithAFetchIsNeverTextThatIsNoUrl) {
   for (const char* text :
        {"", "http://a b/", "http://a/\xC3\xA4", "http://a/\"", "http://a/%",
