@@ -69,6 +69,9 @@ const Row kNoHosts[] = {
     {"a scheme without a host", "mailto:x@h", "HostReachability"},
     {"a path", "/x//h", "HostReachability"},
     {"a word", "h", "HostReachability"},
+    {"a host that is no UTF-8 once unescaped", "http://%FF.de",
+     "HostReachability"},
+    {"a host with an escaped zero byte", "http://h%00.de", "HostReachability"},
 };
 
 const Row kNoUrls[] = {
