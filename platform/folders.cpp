@@ -15,11 +15,22 @@ constexpr std::int16_t kFileNotFound = -43;
 constexpr std::int16_t kNotAFile = -1302;
 constexpr std::int16_t kNoSuchReference = -1403;
 
+/// Null when what the escapes stand for is no text.
+PlatformStringPtr WithoutEscapes(std::string_view text) {
+  return MakePlatformString(Unescaped(text), ITEMInternal::kTextEncodingUtf8);
+}
+
 /// The path of a URL in the file system. Escapes are taken off twice, first
 /// from the URL and then from the path: a path that was escaped before its
-/// caller escaped it again is found too.
-std::string FileSystemPathOf(const std::string& url) {
-  return Unescaped(Unescaped(PathOfUri(url)));
+/// caller escaped it again is found too. nullopt when the URL's path is no
+/// text; "", where no file is, when only the second time gives none or the path
+/// is longer than GetString takes.
+std::optional<std::string> FileSystemPathOf(const std::string& url) {
+  const auto path = WithoutEscapes(PathOfUri(url));
+  if (!path) return std::nullopt;
+  const auto file_path = WithoutEscapes(path->utf8());
+  return ITEMInternal::GetString(file_path.get(),
+                                 ITEMInternal::kTextEncodingUtf8);
 }
 
 std::string WithoutFinalSlash(std::string path) {
@@ -49,7 +60,9 @@ std::int16_t GetFsRefFromPath(Machine& machine, const std::string& path,
   if (!text) return kNoSuchReference;
   const std::string escaped = EscapeForUri(text->utf8());
   if (!IsUri(escaped)) return kNoSuchReference;
-  const auto entry = machine.FindFile(FileSystemPathOf(escaped));
+  const auto file_path = FileSystemPathOf(escaped);
+  if (!file_path) return kNoSuchReference;
+  const auto entry = machine.FindFile(*file_path);
   if (!entry) return kFileNotFound;
   if (entry->is_directory) return kNotAFile;
   out = entry->reference;

@@ -49,6 +49,7 @@ const Row kPaths[] = {
     {"a fragment is no part of the path", "/x#y", "/x"},
     {"a colon inside a path", "/a:b/c", "/a:b/c"},
     {"a path up to its first zero byte", "/x\0/y"s, "/x"},
+    {"a path up to an escaped zero byte", "/x%00/y", "/x"},
     {"a path of 1023 bytes", "/" + std::string(1022, 'a'),
      "/" + std::string(1022, 'a')},
 };
@@ -73,6 +74,12 @@ TEST_F(NoReference, ComesFromATextThatIsNotToBeMadeAUrl) {
   EXPECT_THAT(machine.Questions(), IsEmpty());
 }
 
+TEST_F(NoReference, ComesFromEscapesThatAreNoUtf8) {
+  ExpectStatus("/%FF", -1403);
+  ExpectStatus("/\xC3\xA4%C3", -1403);
+  EXPECT_THAT(machine.Questions(), IsEmpty());
+}
+
 TEST_F(NoReference, ComesFromAMissingFile) {
   ExpectStatus("/x", -43);
   ExpectStatus("mailto:x", -43);
@@ -84,6 +91,17 @@ TEST_F(NoReference, ComesFromADirectoryThoughItExists) {
   ExpectStatus("/x y", -1302);
   ExpectStatus("/x%20y/", -1302);
   ExpectStatus("file:///x%20y", -1302);
+}
+
+TEST_F(NoReference, ComesFromAPathOf1024Bytes) {
+  const std::string path = "/" + std::string(1023, 'a');
+  machine.AddFile(path);
+  ExpectStatus(path, -43);
+}
+
+TEST_F(NoReference, ComesFromEscapesOfEscapesThatAreNoUtf8) {
+  machine.AddFile("/\xFF");
+  ExpectStatus("/%25FF", -43);
 }
 
 TEST_F(NoReference, ComesFromMegabytes) {
