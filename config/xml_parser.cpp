@@ -1,7 +1,7 @@
 #include <velmohelp/config.h>
 
+#include <algorithm>
 #include <array>
-#include <cstring>
 
 #include "config/key_scanner.h"
 #include "util/input_file.h"
@@ -14,7 +14,8 @@ constexpr std::size_t kPieceSize = 1023;
 constexpr std::size_t kPiecesAtOnce = 64;
 
 void AppendUpToZero(std::string& text, const char* piece, std::size_t size) {
-  text.append(piece, strnlen(piece, size));
+  const std::string_view bytes(piece, size);
+  text += bytes.substr(0, bytes.find('\0'));
 }
 
 void AppendPieces(std::string& text, const char* bytes, std::size_t size) {
