@@ -41,7 +41,9 @@ class VELMOHELP_API XMLParser {
   /// Fills the rows (content folder, upper-cased "contextSensitivity" value).
   /// count: rows available on entry, flags found on return; unchanged, like
   /// the table, when the text holds no "path". The first "path" is skipped.
-  /// A value without a closing quote ends its pass.
+  /// A value begins two bytes behind its key, whatever they are; an empty one
+  /// runs on to the next quote, and a quote behind a backslash is part of it. A
+  /// value without a closing quote ends its pass. What is not filled stays.
   void PopulatePathArray(std::string (*table)[2], int& count) const;
 
  private:
@@ -59,7 +61,7 @@ VELMOHELP_API std::uint32_t ReadHelpcfg(std::string path);
 /// downloaded file where there is a valid one, else the installed one.
 VELMOHELP_API std::uint32_t UpdateHelpConfigInfo(std::string locale);
 
-/// Whether the viewer's preference file allows the viewer: 2 when
+/// Whether the viewer's preference file allows the viewer: 2 (it does not) when
 /// "accessibleMode" is "TRUE" in any letter case, else (no file too) 1.
 VELMOHELP_API int GetKLHFilePreferenceForHelpApp(std::string path);
 

@@ -27,7 +27,8 @@ VELMOHELP_API bool GetAdminOnlinePref();
 VELMOHELP_API bool GetUserOnlinePref();
 
 /// True when the URL's host can be reached without first establishing a
-/// connection. No packet is sent to the host.
+/// connection. No packet is sent to the host. False also when url is no URI,
+/// has no host, or one of more than 254 bytes.
 VELMOHELP_API bool GetOnlineStatus(const std::string& url);
 
 /// The preference's text, UTF-8; "" when nothing is set, it cannot be read, or

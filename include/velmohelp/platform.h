@@ -43,7 +43,8 @@ VELMOHELP_API bool FileExists(std::string path);
 /// True when the QTV tool says that the viewer's runtime is installed.
 VELMOHELP_API bool IsZAMRuntimePresent();
 
-/// The path of the viewer's executable as the QTV tool tells it, or "".
+/// The path of the viewer's executable, in the application that the QTV tool
+/// names for sAppID and sPublisherID; "" when there is none.
 VELMOHELP_API std::string GetHelpApplicationPath();
 
 /// Starts an executable with four arguments. 0: it was running at once after
@@ -54,7 +55,8 @@ VELMOHELP_API int LaunchApplication(const std::string& path,
                                     const std::string& locale,
                                     const std::string& request);
 
-/// Opens a URL in the user's default browser. 0: opened; 2: not.
+/// Opens a URL in the user's default browser, exactly as it stands. 0: opened;
+/// 2: not, or url is no URI (a blank, a quote or a letter beyond ASCII).
 VELMOHELP_API int LaunchPlatformBrowser(const std::string& url);
 
 /// Finds a standard folder. domain: -32763, the user's; type: 'pref'
@@ -73,14 +75,16 @@ VELMOHELP_API std::string GetInstalledContentPath();
 VELMOHELP_API std::string GetHelpContentDirectory(std::string first,
                                                   std::string second);
 
-/// The reference of the file at a path that may be percent-encoded. Returns 0;
-/// -1403 when path is no UTF-8 or not to be made a URL; -43 when there is no
-/// such file; -1302 when it is a directory. out is written only on 0.
+/// The reference of the file at a path that may be percent-encoded, once or
+/// twice, or the path of a URL; what follows "?" or "#" is not looked at.
+/// Returns 0; -1403 when path is empty or no UTF-8, or its escapes are for
+/// none; -43 when there is no such file or its path has more than 1023 bytes;
+/// -1302 when it is a directory. out is written only on 0.
 VELMOHELP_API std::int16_t GetFSRefFromPath(std::string path,
                                             FileReference& out);
 
-/// The text in an encoding; "" when it is null, not expressible, or longer
-/// than 1023 bytes.
+/// The text in an encoding (a TextEncoding), up to its first zero byte; "" when
+/// it is null, not expressible, or longer than 1023 bytes.
 VELMOHELP_API std::string GetString(const PlatformString* text,
                                     std::uint32_t encoding);
 

@@ -23,7 +23,9 @@ VELMOHELP_API bool isHTMLPage(std::string name);
 VELMOHELP_API void NormalizePageID(std::string& id);
 
 /// Finds the target of a normalised page id in the client's content folders:
-/// downloaded before installed, then in table order.
+/// downloaded before installed, then in table order. A page that a folder's
+/// help map names is not checked, a URL that it names is; a folder with a help
+/// map has no other pages.
 ///
 /// online chooses between URLs below the base URL (true) and local paths.
 /// Returns 0 with the target in out (a path or a URL), or 3 with the page id
@@ -44,18 +46,21 @@ namespace ITEMInternal {
 VELMOHELP_API bool isUrl(std::string text);
 
 /// fetch false: something exists at the path target. fetch true: target is a
-/// valid URL and a text could be loaded from it, whole. Blocks meanwhile.
+/// URI and a text could be loaded from it, whole. Blocks meanwhile.
 VELMOHELP_API bool ValidateURL(std::string target, bool fetch);
 
 /// Reads a help map: one entry a line, key and value parted by TABs, the first
 /// entry of a key wins, lines without two fields are skipped. Empties map
-/// first. True when the file was read and map holds "VX_HOME". Throws
-/// std::ios_base::failure when an opened file cannot be read to its end.
+/// first. True when the file was read and map holds "VX_HOME"; false with the
+/// entries in map when it does not, and with an empty map when nothing, or a
+/// pipe or a device, can be opened. Throws std::ios_base::failure when an
+/// opened file cannot be read to its end; a directory is such a file.
 VELMOHELP_API bool LoadMapFile(const std::string& path,
                                std::map<std::string, std::string>& map);
 
-/// The first line of a base URL file, with the zone separator "%" of a
-/// bracketed IPv6 host made "%25"; "" when there is none. Throws
+/// The first line of a base URL file; "" when there is none. In a line with
+/// "://[" (an IPv6 host, whose zone follows a "%") the first "%", wherever it
+/// stands, becomes "%25", unless a "%25" stands before the first "]". Throws
 /// std::out_of_range for a line with "://[" but neither "]" nor "%", and
 /// std::ios_base::failure as LoadMapFile does.
 VELMOHELP_API std::string GetHelpMapBaseUrl(const std::string& path);
@@ -64,9 +69,10 @@ VELMOHELP_API std::string GetHelpMapBaseUrl(const std::string& path);
 VELMOHELP_API std::string GetHelpMapPath(const std::string& folder);
 VELMOHELP_API std::string GetHelpMapBaseUrlPath(const std::string& folder);
 
-/// Reads a line that LF, CR or CR LF ends into line, without its end. False
-/// when the input was at its end. Sets no flag of the stream. A stream that is
-/// not good gives true and leaves line as it was.
+/// Reads a line that LF, CR or CR LF ends into line, without its end. False,
+/// with line emptied, when the input was at its end; a good stream stays good
+/// then too. A stream that is not good gives true, leaves line as it was and
+/// gets its fail flag set.
 VELMOHELP_API bool GetLine(std::ifstream& stream, std::string& line);
 
 /// Splits text at runs of delimiter and appends the fields to out; returns how
