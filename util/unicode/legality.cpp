@@ -1,0 +1,35 @@
+#include "util/unicode/legality.h"
+
+#include "util/unicode/code_points.h"
+#include "util/unicode/cursor.h"
+#include "util/unicode/take.h"
+
+namespace velmohelp::unicode {
+namespace {
+
+bool AreLegal(Cursor<const ITEMUTF8> source) {
+  while (!source.empty()) {
+    const Taken character = TakeUtf8(source);
+    if (character.result != kConversionComplete) return false;
+    source.Advance(character.units);
+  }
+  return true;
+}
+
+}  // namespace
+}  // namespace velmohelp::unicode
+
+using velmohelp::unicode::AreLegal;
+using velmohelp::unicode::Cursor;
+using velmohelp::unicode::TakeUtf8;
+
+bool ITEMisLegalUTF8Sequence(const ITEMUTF8* source,
+                             const ITEMUTF8* sourceEnd) {
+  const Cursor<const ITEMUTF8> range(source, sourceEnd);
+  return !range.empty() && TakeUtf8(range).result == kConversionComplete;
+}
+
+bool ITEMisLegalUTF8String(const ITEMUTF8* source, const ITEMUTF8* sourceEnd) {
+  const Cursor<const ITEMUTF8> range(source, sourceEnd);
+  return range.empty() ? source == sourceEnd : AreLegal(range);
+}
