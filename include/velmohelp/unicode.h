@@ -121,7 +121,7 @@ VELMOHELP_API bool ITEMisLegalUTF8String(const ITEMUTF8* source,
                                          const ITEMUTF8* sourceEnd);
 
 #ifdef __cplusplus
-}  /* extern "C" */
+} /* extern "C" */
 
 namespace ITEMInternal::velmo::gen {
 
@@ -148,9 +148,11 @@ class VELMOHELP_API illegal_utf_sequence : public std::runtime_error {
 // the source is not, and for an illegal sequence, however much before it has
 // been converted. A range whose start lies behind its end is empty.
 
-VELMOHELP_API std::pair<const wchar_t*, char*> convert_utf(
-    const wchar_t* first, const wchar_t* last, char* dfirst, char* dlast,
-    bool lenient);
+VELMOHELP_API std::pair<const wchar_t*, char*> convert_utf(const wchar_t* first,
+                                                           const wchar_t* last,
+                                                           char* dfirst,
+                                                           char* dlast,
+                                                           bool lenient);
 
 VELMOHELP_API std::pair<const char*, wchar_t*> convert_utf(const char* first,
                                                            const char* last,

@@ -69,10 +69,10 @@ std::pair<const char*, wchar_t*> convert_utf(const char* first,
   const Utf16Buffer units(static_cast<std::size_t>(dlast - dfirst));
   const auto* source = reinterpret_cast<const ITEMUTF8*>(first);
   ITEMUTF16* target = units.begin();
-  RequireLegal(ITEMConvertUTF8toUTF16(&source,
-                                      reinterpret_cast<const ITEMUTF8*>(last),
-                                      &target, units.end(), lenient),
-               "Bad UTF-8 sequence.");
+  RequireLegal(
+      ITEMConvertUTF8toUTF16(&source, reinterpret_cast<const ITEMUTF8*>(last),
+                             &target, units.end(), lenient),
+      "Bad UTF-8 sequence.");
   for (const ITEMUTF16* unit = units.begin(); unit != target; ++unit) {
     *dfirst++ = static_cast<wchar_t>(*unit);
   }
@@ -86,8 +86,8 @@ Result convert_utf(const Source& source, bool lenient) {
   const auto* const end = position + source.size();
   while (position != end) {
     typename Result::value_type piece[256];
-    const auto [reached, written] = convert_utf(
-        position, end, std::begin(piece), std::end(piece), lenient);
+    const auto [reached, written] =
+        convert_utf(position, end, std::begin(piece), std::end(piece), lenient);
     result.append(piece, written);
     if (reached == position) {
       throw illegal_utf_sequence("UTF-8 seqence is not complete.");
