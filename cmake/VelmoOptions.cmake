@@ -8,6 +8,8 @@ option(VELMO_BUILD_EXAMPLES "Build the example programs"
 # The presets set it: elsewhere a newer compiler's new warning must not break a
 # distribution's build.
 option(VELMO_WARNINGS_AS_ERRORS "Fail on a warning" OFF)
+option(VELMO_BUILD_BENCH "Build the benchmarks" OFF)
+option(VELMO_BUILD_FUZZERS "Build the fuzz targets (needs Clang)" OFF)
 set(VELMO_SANITIZE "" CACHE STRING
   "Sanitizers to build with, as for -fsanitize (address,undefined)")
 
