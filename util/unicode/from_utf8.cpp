@@ -1,13 +1,100 @@
 #include "util/unicode/put.h"
+#include "util/unicode/squeeze.h"
 #include "util/unicode/take.h"
+#include "util/unicode/utf8_block.h"
 
 namespace velmohelp::unicode {
 namespace {
 
+#ifdef VELMO_UNICODE_LANES
+
+VELMO_INLINE void StoreAscii(ITEMUTF16* to, Bytes bytes) {
+  Store(to, FirstHalf(bytes, Bytes{}));
+  Store(to + kUnitLanes, SecondHalf(bytes, Bytes{}));
+}
+
+VELMO_INLINE void StoreAscii(ITEMUTF32* to, Bytes bytes) {
+  StoreWidened(to, FirstHalf(bytes, Bytes{}));
+  StoreWidened(to + kUnitLanes, SecondHalf(bytes, Bytes{}));
+}
+
+/// ASCII, block by block.
+template <typename Unit>
+VELMO_INLINE void CopyAscii(Cursor<const ITEMUTF8>& source,
+                            Cursor<Unit>& target) {
+  while (source.left() >= kByteLanes && target.left() >= kByteLanes) {
+    const auto bytes = Load<Bytes>(source.at());
+    if (Any(bytes)) return;
+    StoreAscii(target.at(), bytes);
+    source.Advance(kByteLanes);
+    target.Advance(kByteLanes);
+  }
+}
+
+VELMO_WIDE VELMO_INLINE void SqueezeBlock(const Utf8Values& v, ITEMUTF16* to) {
+  Squeeze(FirstHalf(v.low, v.middle), FirstHalf(v.kept, v.kept), to);
+  Squeeze(SecondHalf(v.low, v.middle), SecondHalf(v.kept, v.kept), to);
+}
+
+VELMO_WIDE VELMO_INLINE void SqueezeBlock(const Utf8Values& v, ITEMUTF32* to) {
+  SqueezeWide(FirstHalf(v.low, v.middle), FirstHalf(v.high, Bytes{}),
+              FirstHalf(v.kept, v.kept), to);
+  SqueezeWide(SecondHalf(v.low, v.middle), SecondHalf(v.high, Bytes{}),
+              SecondHalf(v.kept, v.kept), to);
+}
+
+/// All of the text but what only single steps can judge.
+template <typename Direction, typename Unit>
+VELMO_WIDE void CopyBlocks(Direction direction, Cursor<const ITEMUTF8>& source,
+                           Cursor<Unit>& target) {
+  while (true) {
+    CopyAscii(source, target);
+    if (source.left() < kByteLanes ||
+        target.left() < kByteLanes + kBeyond<Unit>) {
+      return;
+    }
+    const Utf8Block block(Load<Bytes>(source.at()));
+    if (!IsLegal(block) || !direction.Takes(block)) return;
+    const Utf8Values values = direction.Values(block);
+    const std::size_t units = KeptIn<ITEMUTF8>(values.kept);
+    const Beyond<Unit> beyond(target.at() + units);
+    SqueezeBlock(values, target.at());
+    beyond.PutBack();
+    source.Advance(WholeCharacters(source.at()));
+    target.Advance(units);
+  }
+}
+
+#endif
+
+template <typename Direction, typename Unit>
+void CopyMany([[maybe_unused]] Direction direction,
+              [[maybe_unused]] Cursor<const ITEMUTF8>& source,
+              [[maybe_unused]] Cursor<Unit>& target) {
+#ifdef VELMO_UNICODE_LANES
+  if (HasWideInstructions()) {
+    CopyBlocks(direction, source, target);
+  } else {
+    CopyAscii(source, target);
+  }
+#endif
+}
+
 struct Utf8ToUtf16 {
   bool lenient;
 
-  void Blocks(Cursor<const ITEMUTF8>&, Cursor<ITEMUTF16>&) const {}
+  void Blocks(Cursor<const ITEMUTF8>& source, Cursor<ITEMUTF16>& target) const {
+    CopyMany(*this, source, target);
+  }
+
+#ifdef VELMO_UNICODE_LANES
+  VELMO_INLINE bool Takes(const Utf8Block& block) const {
+    return lenient || !HasSurrogates(block);
+  }
+  VELMO_INLINE Utf8Values Values(const Utf8Block& block) const {
+    return Utf16Units(block);
+  }
+#endif
 
   ITEMConversionResult Step(Cursor<const ITEMUTF8>& source,
                             Cursor<ITEMUTF16>& target) const {
@@ -20,7 +107,16 @@ struct Utf8ToUtf16 {
 };
 
 struct Utf8ToUtf32 {
-  void Blocks(Cursor<const ITEMUTF8>&, Cursor<ITEMUTF32>&) const {}
+  void Blocks(Cursor<const ITEMUTF8>& source, Cursor<ITEMUTF32>& target) const {
+    CopyMany(*this, source, target);
+  }
+
+#ifdef VELMO_UNICODE_LANES
+  VELMO_INLINE bool Takes(const Utf8Block& /*block*/) const { return true; }
+  VELMO_INLINE Utf8Values Values(const Utf8Block& block) const {
+    return CodePoints(block);
+  }
+#endif
 
   ITEMConversionResult Step(Cursor<const ITEMUTF8>& source,
                             Cursor<ITEMUTF32>& target) const {

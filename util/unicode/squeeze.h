@@ -1,0 +1,83 @@
+// Writing the lanes that hold something, one behind the other.
+#ifndef UTIL_UNICODE_SQUEEZE_H_
+#define UTIL_UNICODE_SQUEEZE_H_
+
+#include <velmohelp/unicode.h>
+
+#include "util/unicode/lanes.h"
+
+#ifdef VELMO_UNICODE_LANES
+
+namespace velmohelp::unicode {
+
+/// Whether the instructions of VELMO_WIDE are there, and quick: AMD's family
+/// 17h takes hundreds of cycles for the one that Squeeze is built on.
+inline bool HasWideInstructions() {
+  return __builtin_cpu_supports("avx2") && __builtin_cpu_supports("bmi2") &&
+         !__builtin_cpu_is("amdfam17h");
+}
+
+/// The most that one write reaches beyond the units that it is for. Squeezing
+/// needs room for all lanes and this.
+template <typename Unit>
+inline constexpr std::size_t kBeyond = sizeof(Unit) == 8 ? 4 : 8 / sizeof(Unit);
+
+/// Target units that the writes of a block reach, but that are not its own.
+template <typename Unit>
+class Beyond {
+ public:
+  VELMO_INLINE explicit Beyond(Unit* end) : end_(end) {
+    std::memcpy(units_, end, sizeof units_);
+  }
+  VELMO_INLINE void PutBack() const {
+    std::memcpy(end_, units_, sizeof units_);
+  }
+
+ private:
+  Unit* end_;
+  Unit units_[kBeyond<Unit>];
+};
+
+/// How many units of this width a mask keeps.
+template <typename Unit>
+VELMO_WIDE VELMO_INLINE std::size_t Kept(std::uint64_t mask) {
+  return static_cast<std::size_t>(_mm_popcnt_u64(mask)) / (8 * sizeof(Unit));
+}
+
+/// Writes the units of both halves where kept has ones, and returns how many
+/// these are. Each half is one number, out of which one instruction takes the
+/// bits that a mask has.
+template <typename Unit, typename Lanes>
+VELMO_WIDE VELMO_INLINE void Squeeze(Lanes lanes, Lanes kept, Unit*& to) {
+  for (int half = 0; half < 2; ++half) {
+    const std::uint64_t mask = ((Longs)kept)[half];
+    const std::uint64_t units = _pext_u64(((Longs)lanes)[half], mask);
+    std::memcpy(to, &units, sizeof units);
+    to += Kept<Unit>(mask);
+  }
+}
+
+/// The same for code points, in their low and high 16 bits.
+VELMO_WIDE VELMO_INLINE void SqueezeWide(Units low, Units high, Units kept,
+                                         ITEMUTF32*& to) {
+  for (int half = 0; half < 2; ++half) {
+    const std::uint64_t mask = ((Longs)kept)[half];
+    const Longs lows = {_pext_u64(((Longs)low)[half], mask), 0};
+    const Longs highs = {_pext_u64(((Longs)high)[half], mask), 0};
+    const __m256i four =
+        _mm256_cvtepu32_epi64((__m128i)FirstHalf((Units)lows, (Units)highs));
+    std::memcpy(to, &four, sizeof four);
+    to += Kept<ITEMUTF16>(mask);
+  }
+}
+
+/// How many lanes are kept.
+template <typename Unit, typename Lanes>
+VELMO_WIDE VELMO_INLINE std::size_t KeptIn(Lanes kept) {
+  return Kept<Unit>(((Longs)kept)[0]) + Kept<Unit>(((Longs)kept)[1]);
+}
+
+}  // namespace velmohelp::unicode
+
+#endif
+#endif  // UTIL_UNICODE_SQUEEZE_H_
