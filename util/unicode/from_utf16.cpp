@@ -1,13 +1,101 @@
+#include "util/unicode/code_point_block.h"
 #include "util/unicode/put.h"
+#include "util/unicode/squeeze.h"
 #include "util/unicode/take.h"
+#include "util/unicode/utf16_block.h"
 
 namespace velmohelp::unicode {
 namespace {
 
+#ifdef VELMO_UNICODE_LANES
+
+/// ASCII, two blocks at a time.
+VELMO_INLINE void CopyPlain(Cursor<const ITEMUTF16>& source,
+                            Cursor<ITEMUTF8>& target) {
+  while (source.left() >= kByteLanes && target.left() >= kByteLanes) {
+    const auto first = Load<Units>(source.at());
+    const auto second = Load<Units>(source.at() + kUnitLanes);
+    if (Any(((first | second) & 0xFF80) != 0)) return;
+    Store(target.at(), Narrowed(first, second));
+    source.Advance(kByteLanes);
+    target.Advance(kByteLanes);
+  }
+}
+
+/// All but surrogates.
+VELMO_INLINE void CopyPlain(Cursor<const ITEMUTF16>& source,
+                            Cursor<ITEMUTF32>& target) {
+  while (source.left() >= kUnitLanes && target.left() >= kUnitLanes) {
+    const auto units = Load<Units>(source.at());
+    if (HasSurrogates(units)) return;
+    StoreWidened(target.at(), units);
+    source.Advance(kUnitLanes);
+    target.Advance(kUnitLanes);
+  }
+}
+
+VELMO_WIDE VELMO_INLINE std::size_t CopyBlock(const Utf16Values& v,
+                                              ITEMUTF8* to) {
+  Encoded encoded = ToUtf8(Joined(v.low, v.high));
+  encoded.kept &= Joined(v.kept, v.kept);
+  const std::size_t units = KeptIn<ITEMUTF8>(encoded.kept);
+  const Beyond beyond(to + units);
+  Squeeze(encoded.units, encoded.kept, to);
+  beyond.PutBack();
+  return units;
+}
+
+VELMO_WIDE VELMO_INLINE std::size_t CopyBlock(const Utf16Values& v,
+                                              ITEMUTF32* to) {
+  const std::size_t units = KeptIn<ITEMUTF16>(v.kept);
+  const Beyond beyond(to + units);
+  SqueezeWide(v.low, v.high, v.kept, to);
+  beyond.PutBack();
+  return units;
+}
+
+/// The most units that a block becomes.
+template <typename Unit>
+inline constexpr std::size_t kMost = kUnitLanes*(sizeof(Unit) == 1 ? 3 : 1);
+
+/// All of the text but what only single steps can judge.
+template <typename Unit>
+VELMO_WIDE void CopyBlocks(Cursor<const ITEMUTF16>& source,
+                           Cursor<Unit>& target) {
+  while (true) {
+    CopyPlain(source, target);
+    if (source.left() < kUnitLanes ||
+        target.left() < kMost<Unit> + kBeyond<Unit>) {
+      return;
+    }
+    const Utf16Block block(Load<Units>(source.at()));
+    if (!IsPaired(block)) return;
+    const Utf16Values values = CodePoints(block);
+    target.Advance(CopyBlock(values, target.at()));
+    source.Advance(values.whole);
+  }
+}
+
+#endif
+
+template <typename Unit>
+void CopyMany([[maybe_unused]] Cursor<const ITEMUTF16>& source,
+              [[maybe_unused]] Cursor<Unit>& target) {
+#ifdef VELMO_UNICODE_LANES
+  if (HasWideInstructions()) {
+    CopyBlocks(source, target);
+  } else {
+    CopyPlain(source, target);
+  }
+#endif
+}
+
 struct Utf16ToUtf8 {
   bool lenient;
 
-  void Blocks(Cursor<const ITEMUTF16>&, Cursor<ITEMUTF8>&) const {}
+  void Blocks(Cursor<const ITEMUTF16>& source, Cursor<ITEMUTF8>& target) const {
+    CopyMany(source, target);
+  }
 
   ITEMConversionResult Step(Cursor<const ITEMUTF16>& source,
                             Cursor<ITEMUTF8>& target) const {
@@ -22,7 +110,10 @@ struct Utf16ToUtf8 {
 struct Utf16ToUtf32 {
   bool lenient;
 
-  void Blocks(Cursor<const ITEMUTF16>&, Cursor<ITEMUTF32>&) const {}
+  void Blocks(Cursor<const ITEMUTF16>& source,
+              Cursor<ITEMUTF32>& target) const {
+    CopyMany(source, target);
+  }
 
   ITEMConversionResult Step(Cursor<const ITEMUTF16>& source,
                             Cursor<ITEMUTF32>& target) const {

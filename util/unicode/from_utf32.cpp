@@ -1,15 +1,121 @@
+#include "util/unicode/code_point_block.h"
 #include "util/unicode/put.h"
-#include "util/unicode/take.h"
+#include "util/unicode/squeeze.h"
+#include "util/unicode/utf16_block.h"
 
 namespace velmohelp::unicode {
 namespace {
+
+#ifdef VELMO_UNICODE_LANES
+
+/// Eight values.
+struct Values {
+  VELMO_INLINE explicit Values(const ITEMUTF32* from)
+      : pair{Load<Longs>(from), Load<Longs>(from + 2), Load<Longs>(from + 4),
+             Load<Longs>(from + 6)} {}
+
+  /// Whether a value has any of these bits.
+  VELMO_INLINE bool Have(ITEMUTF32 bits) const {
+    const Longs found = (pair[0] | pair[1] | pair[2] | pair[3]) & bits;
+    return (found[0] | found[1]) != 0;
+  }
+
+  VELMO_INLINE Words First() const { return Narrowed(pair[0], pair[1]); }
+  VELMO_INLINE Words Second() const { return Narrowed(pair[2], pair[3]); }
+  VELMO_INLINE Units AsUnits() const { return Narrowed(First(), Second()); }
+
+  Longs pair[4];
+};
+
+/// All but surrogates and what needs two units.
+VELMO_INLINE void CopyPlain(Cursor<const ITEMUTF32>& source,
+                            Cursor<ITEMUTF16>& target) {
+  while (source.left() >= kUnitLanes && target.left() >= kUnitLanes) {
+    const Values values(source.at());
+    if (values.Have(~0xFFFFUL)) return;
+    const Units units = values.AsUnits();
+    if (HasSurrogates(units)) return;
+    Store(target.at(), units);
+    source.Advance(kUnitLanes);
+    target.Advance(kUnitLanes);
+  }
+}
+
+/// ASCII, two blocks at a time.
+VELMO_INLINE void CopyPlain(Cursor<const ITEMUTF32>& source,
+                            Cursor<ITEMUTF8>& target) {
+  while (source.left() >= kByteLanes && target.left() >= kByteLanes) {
+    const Values first(source.at());
+    const Values second(source.at() + kUnitLanes);
+    if (first.Have(~0x7FUL) || second.Have(~0x7FUL)) return;
+    Store(target.at(), Narrowed(first.AsUnits(), second.AsUnits()));
+    source.Advance(kByteLanes);
+    target.Advance(kByteLanes);
+  }
+}
+
+VELMO_WIDE VELMO_INLINE bool HasForm(WideWords code_points, ITEMUTF16* /*to*/) {
+  return !AnyOf(From(code_points, 0x110000));
+}
+VELMO_WIDE VELMO_INLINE bool HasForm(WideWords /*any*/, ITEMUTF8* /*to*/) {
+  return true;
+}
+VELMO_WIDE VELMO_INLINE Encoded Encode(WideWords code_points, ITEMUTF16*) {
+  return ToUtf16(code_points);
+}
+VELMO_WIDE VELMO_INLINE Encoded Encode(WideWords code_points, ITEMUTF8*) {
+  return ToUtf8(code_points);
+}
+
+/// All of the text but what only single steps can judge.
+template <typename Unit>
+VELMO_WIDE void CopyBlocks(Cursor<const ITEMUTF32>& source,
+                           Cursor<Unit>& target) {
+  constexpr std::size_t kMost = kUnitLanes * 4 / sizeof(Unit);
+  while (true) {
+    CopyPlain(source, target);
+    if (source.left() < kUnitLanes || target.left() < kMost + kBeyond<Unit>) {
+      return;
+    }
+    const Values values(source.at());
+    if (values.Have(~0x1FFFFFUL)) return;
+    const WideWords code_points = (WideWords)_mm256_set_m128i(
+        (__m128i)values.Second(), (__m128i)values.First());
+    Unit* to = target.at();
+    if (HasSurrogates(code_points) || !HasForm(code_points, to)) return;
+    const Encoded encoded = Encode(code_points, to);
+    const std::size_t units = KeptIn<Unit>(encoded.kept);
+    const Beyond beyond(to + units);
+    Squeeze(encoded.units, encoded.kept, to);
+    beyond.PutBack();
+    source.Advance(kUnitLanes);
+    target.Advance(units);
+  }
+}
+
+#endif
+
+template <typename Unit>
+void CopyMany([[maybe_unused]] Cursor<const ITEMUTF32>& source,
+              [[maybe_unused]] Cursor<Unit>& target) {
+#ifdef VELMO_UNICODE_LANES
+  if (HasWideInstructions()) {
+    CopyBlocks(source, target);
+  } else {
+    CopyPlain(source, target);
+  }
+#endif
+}
 
 struct Utf32ToUtf16 {
   bool lenient;
   /// Set when strict mode has skipped a value that is no code point.
   bool* skipped;
 
-  void Blocks(Cursor<const ITEMUTF32>&, Cursor<ITEMUTF16>&) const {}
+  void Blocks(Cursor<const ITEMUTF32>& source,
+              Cursor<ITEMUTF16>& target) const {
+    CopyMany(source, target);
+  }
 
   ITEMConversionResult Step(Cursor<const ITEMUTF32>& source,
                             Cursor<ITEMUTF16>& target) const {
@@ -26,7 +132,9 @@ struct Utf32ToUtf16 {
 struct Utf32ToUtf8 {
   bool lenient;
 
-  void Blocks(Cursor<const ITEMUTF32>&, Cursor<ITEMUTF8>&) const {}
+  void Blocks(Cursor<const ITEMUTF32>& source, Cursor<ITEMUTF8>& target) const {
+    CopyMany(source, target);
+  }
 
   ITEMConversionResult Step(Cursor<const ITEMUTF32>& source,
                             Cursor<ITEMUTF8>& target) const {

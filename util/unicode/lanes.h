@@ -28,6 +28,10 @@ using Units = std::uint16_t __attribute__((vector_size(16)));
 using Words = std::uint32_t __attribute__((vector_size(16)));
 using Longs = std::uint64_t __attribute__((vector_size(16)));
 
+/// Twice as wide, for loops under VELMO_WIDE only.
+using WideWords = std::uint32_t __attribute__((vector_size(32)));
+using WideSigned = std::int32_t __attribute__((vector_size(32)));
+
 inline constexpr std::size_t kByteLanes = 16;
 inline constexpr std::size_t kUnitLanes = 8;
 
@@ -112,6 +116,12 @@ VELMO_INLINE Units Narrowed(Words first, Words second) {
 }
 VELMO_INLINE Words Narrowed(Longs first, Longs second) {
   return (Words)_mm_shuffle_ps((__m128)first, (__m128)second, 0x88);
+}
+
+/// Eight code points out of their low and high 16 bits.
+VELMO_WIDE VELMO_INLINE WideWords Joined(Units low, Units high) {
+  return (WideWords)_mm256_cvtepu16_epi32((__m128i)low) |
+         (WideWords)_mm256_cvtepu16_epi32((__m128i)high) << 16;
 }
 
 /// Writes eight units as UTF-32.

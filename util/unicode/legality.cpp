@@ -3,11 +3,29 @@
 #include "util/unicode/code_points.h"
 #include "util/unicode/cursor.h"
 #include "util/unicode/take.h"
+#include "util/unicode/utf8_block.h"
 
 namespace velmohelp::unicode {
 namespace {
 
+/// Moves over legal text, as far as whole blocks go. Text that is not legal
+/// stops it before or in the block.
+void SkipBlocks([[maybe_unused]] Cursor<const ITEMUTF8>& source) {
+#ifdef VELMO_UNICODE_LANES
+  while (source.left() >= kByteLanes) {
+    const auto bytes = Load<Bytes>(source.at());
+    if (!Any(bytes)) {
+      source.Advance(kByteLanes);
+      continue;
+    }
+    if (!IsLegal(Utf8Block(bytes))) return;
+    source.Advance(WholeCharacters(source.at()));
+  }
+#endif
+}
+
 bool AreLegal(Cursor<const ITEMUTF8> source) {
+  SkipBlocks(source);
   while (!source.empty()) {
     const Taken character = TakeUtf8(source);
     if (character.result != kConversionComplete) return false;

@@ -44,16 +44,35 @@ VELMO_WIDE VELMO_INLINE std::size_t Kept(std::uint64_t mask) {
   return static_cast<std::size_t>(_mm_popcnt_u64(mask)) / (8 * sizeof(Unit));
 }
 
-/// Writes the units of both halves where kept has ones, and returns how many
-/// these are. Each half is one number, out of which one instruction takes the
-/// bits that a mask has.
+/// The lanes as numbers of 64 bits, out of which one instruction takes the bits
+/// that a mask has.
+template <typename Lanes>
+struct Numbers {
+  VELMO_WIDE VELMO_INLINE explicit Numbers(Lanes lanes) {
+    std::memcpy(number, &lanes, sizeof lanes);
+  }
+  static constexpr std::size_t kCount = sizeof(Lanes) / 8;
+  std::uint64_t number[kCount];
+};
+
+/// How many lanes are kept.
+template <typename Unit, typename Lanes>
+VELMO_WIDE VELMO_INLINE std::size_t KeptIn(Lanes kept) {
+  const Numbers masks(kept);
+  std::size_t count = 0;
+  for (const std::uint64_t mask : masks.number) count += Kept<Unit>(mask);
+  return count;
+}
+
+/// Writes the units of the lanes where kept has ones.
 template <typename Unit, typename Lanes>
 VELMO_WIDE VELMO_INLINE void Squeeze(Lanes lanes, Lanes kept, Unit*& to) {
-  for (int half = 0; half < 2; ++half) {
-    const std::uint64_t mask = ((Longs)kept)[half];
-    const std::uint64_t units = _pext_u64(((Longs)lanes)[half], mask);
-    std::memcpy(to, &units, sizeof units);
-    to += Kept<Unit>(mask);
+  const Numbers units(lanes);
+  const Numbers masks(kept);
+  for (std::size_t i = 0; i < units.kCount; ++i) {
+    const std::uint64_t taken = _pext_u64(units.number[i], masks.number[i]);
+    std::memcpy(to, &taken, sizeof taken);
+    to += Kept<Unit>(masks.number[i]);
   }
 }
 
@@ -69,12 +88,6 @@ VELMO_WIDE VELMO_INLINE void SqueezeWide(Units low, Units high, Units kept,
     std::memcpy(to, &four, sizeof four);
     to += Kept<ITEMUTF16>(mask);
   }
-}
-
-/// How many lanes are kept.
-template <typename Unit, typename Lanes>
-VELMO_WIDE VELMO_INLINE std::size_t KeptIn(Lanes kept) {
-  return Kept<Unit>(((Longs)kept)[0]) + Kept<Unit>(((Longs)kept)[1]);
 }
 
 }  // namespace velmohelp::unicode
