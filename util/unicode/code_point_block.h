@@ -1,4 +1,4 @@
-// Eight code points at once, on their way into UTF-8 or UTF-16.
+// Four code points at once, on their way into UTF-8 or UTF-16.
 #ifndef UTIL_UNICODE_CODE_POINT_BLOCK_H_
 #define UTIL_UNICODE_CODE_POINT_BLOCK_H_
 
@@ -12,44 +12,39 @@ namespace velmohelp::unicode {
 /// of the memory, the last unit last; where a form is shorter, its first lanes
 /// are not kept.
 struct Encoded {
-  WideWords units;
-  WideWords kept;
+  Words units;
+  Words kept;
 };
 
 /// The code points are below 0x80000000.
-VELMO_WIDE VELMO_INLINE WideWords From(WideWords code_points,
-                                       std::int32_t bound) {
-  return (WideWords)((WideSigned)code_points >= bound);
+VELMO_INLINE Words From(Words code_points, std::int32_t bound) {
+  return (Words)((Signed)code_points >= bound);
 }
 
-VELMO_WIDE VELMO_INLINE bool AnyOf(WideWords mask) {
-  return _mm256_movemask_epi8((__m256i)mask) != 0;
-}
-
-VELMO_WIDE VELMO_INLINE bool HasSurrogates(WideWords code_points) {
-  return AnyOf((code_points & 0xFFFFF800) == 0xD800);
+VELMO_INLINE bool HasSurrogates(Words code_points) {
+  return Any((code_points & 0xFFFFF800) == 0xD800);
 }
 
 /// Four bytes in each lane, up to 0x1FFFFF. Six bits go into each, all marked
 /// as trailing ones; the first then gets the rest of a lead byte's mark.
-VELMO_WIDE VELMO_INLINE Encoded ToUtf8(WideWords c) {
-  const WideWords two = From(c, 0x80);
-  const WideWords three = From(c, 0x800);
-  const WideWords four = From(c, 0x10000);
-  const WideWords bytes = (c >> 18) | ((c >> 4) & 0x3F00) |
-                          ((c << 10) & 0x3F0000) | ((c << 24) & 0x3F000000);
-  const WideWords lead =
+VELMO_INLINE Encoded ToUtf8(Words c) {
+  const Words two = From(c, 0x80);
+  const Words three = From(c, 0x800);
+  const Words four = From(c, 0x10000);
+  const Words bytes = (c >> 18) | ((c >> 4) & 0x3F00) | ((c << 10) & 0x3F0000) |
+                      ((c << 24) & 0x3F000000);
+  const Words lead =
       (four & 0x70) | (three & ~four & 0x6000) | (two & ~three & 0x400000);
-  const WideWords longer = bytes | lead | 0x80808080;
+  const Words longer = bytes | lead | 0x80808080;
   return {(two & longer) | (~two & (c << 24)),
           (four & 0xFF) | (three & 0xFF00) | (two & 0xFF0000) | 0xFF000000};
 }
 
 /// Two units in each lane, up to 0x10FFFF.
-VELMO_WIDE VELMO_INLINE Encoded ToUtf16(WideWords c) {
-  const WideWords two = From(c, 0x10000);
-  const WideWords first = (c >> 10) + (0xD800 - (0x10000 >> 10));
-  const WideWords second = (c & 0x03FF) | 0xDC00;
+VELMO_INLINE Encoded ToUtf16(Words c) {
+  const Words two = From(c, 0x10000);
+  const Words first = (c >> 10) + (0xD800 - (0x10000 >> 10));
+  const Words second = (c & 0x03FF) | 0xDC00;
   return {(two & (first | (second << 16))) | (~two & (c << 16)),
           (two & 0xFFFF) | 0xFFFF0000};
 }

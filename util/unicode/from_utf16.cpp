@@ -1,6 +1,5 @@
-#include "util/unicode/code_point_block.h"
 #include "util/unicode/put.h"
-#include "util/unicode/squeeze.h"
+#include "util/unicode/squeeze_utf8.h"
 #include "util/unicode/take.h"
 #include "util/unicode/utf16_block.h"
 
@@ -34,19 +33,15 @@ VELMO_INLINE void CopyPlain(Cursor<const ITEMUTF16>& source,
   }
 }
 
-VELMO_WIDE VELMO_INLINE std::size_t CopyBlock(const Utf16Values& v,
+VELMO_WIDE VELMO_INLINE std::size_t CopyBlock(const Utf16Block& block,
                                               ITEMUTF8* to) {
-  Encoded encoded = ToUtf8(Joined(v.low, v.high));
-  encoded.kept &= Joined(v.kept, v.kept);
-  const std::size_t units = KeptIn<ITEMUTF8>(encoded.kept);
-  const Beyond beyond(to + units);
-  Squeeze(encoded.units, encoded.kept, to);
-  beyond.PutBack();
-  return units;
+  return CopyForms(
+      HasSurrogates(block.unit) ? ToUtf8(block) : ToUtf8(block.unit), to);
 }
 
-VELMO_WIDE VELMO_INLINE std::size_t CopyBlock(const Utf16Values& v,
+VELMO_WIDE VELMO_INLINE std::size_t CopyBlock(const Utf16Block& block,
                                               ITEMUTF32* to) {
+  const Utf16Values v = CodePoints(block);
   const std::size_t units = KeptIn<ITEMUTF16>(v.kept);
   const Beyond beyond(to + units);
   SqueezeWide(v.low, v.high, v.kept, to);
@@ -60,8 +55,8 @@ inline constexpr std::size_t kMost = kUnitLanes*(sizeof(Unit) == 1 ? 3 : 1);
 
 /// All of the text but what only single steps can judge.
 template <typename Unit>
-VELMO_WIDE void CopyBlocks(Cursor<const ITEMUTF16>& source,
-                           Cursor<Unit>& target) {
+VELMO_WIDE VELMO_INLINE void CopyBlocks(Cursor<const ITEMUTF16>& source,
+                                        Cursor<Unit>& target) {
   while (true) {
     CopyPlain(source, target);
     if (source.left() < kUnitLanes ||
@@ -70,31 +65,34 @@ VELMO_WIDE void CopyBlocks(Cursor<const ITEMUTF16>& source,
     }
     const Utf16Block block(Load<Units>(source.at()));
     if (!IsPaired(block)) return;
-    const Utf16Values values = CodePoints(block);
-    target.Advance(CopyBlock(values, target.at()));
-    source.Advance(values.whole);
+    target.Advance(CopyBlock(block, target.at()));
+    source.Advance(WholeCharacters(block));
   }
 }
 
 #endif
 
-template <typename Unit>
-void CopyMany([[maybe_unused]] Cursor<const ITEMUTF16>& source,
-              [[maybe_unused]] Cursor<Unit>& target) {
+/// The blocks of both directions.
+struct Kernel {
 #ifdef VELMO_UNICODE_LANES
-  if (HasWideInstructions()) {
-    CopyBlocks(source, target);
-  } else {
+  template <typename Unit>
+  VELMO_INLINE void Plain(Cursor<const ITEMUTF16>& source,
+                          Cursor<Unit>& target) const {
     CopyPlain(source, target);
   }
+  template <typename Unit>
+  VELMO_WIDE VELMO_INLINE void Wide(Cursor<const ITEMUTF16>& source,
+                                    Cursor<Unit>& target) const {
+    CopyBlocks(source, target);
+  }
 #endif
-}
+};
 
 struct Utf16ToUtf8 {
   bool lenient;
 
   void Blocks(Cursor<const ITEMUTF16>& source, Cursor<ITEMUTF8>& target) const {
-    CopyMany(source, target);
+    RunKernel(Kernel(), source, target);
   }
 
   ITEMConversionResult Step(Cursor<const ITEMUTF16>& source,
@@ -112,7 +110,7 @@ struct Utf16ToUtf32 {
 
   void Blocks(Cursor<const ITEMUTF16>& source,
               Cursor<ITEMUTF32>& target) const {
-    CopyMany(source, target);
+    RunKernel(Kernel(), source, target);
   }
 
   ITEMConversionResult Step(Cursor<const ITEMUTF16>& source,

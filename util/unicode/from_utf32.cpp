@@ -1,7 +1,6 @@
 #include "util/unicode/code_point_block.h"
 #include "util/unicode/put.h"
-#include "util/unicode/squeeze.h"
-#include "util/unicode/utf16_block.h"
+#include "util/unicode/squeeze_utf8.h"
 
 namespace velmohelp::unicode {
 namespace {
@@ -54,23 +53,23 @@ VELMO_INLINE void CopyPlain(Cursor<const ITEMUTF32>& source,
   }
 }
 
-VELMO_WIDE VELMO_INLINE bool HasForm(WideWords code_points, ITEMUTF16* /*to*/) {
-  return !AnyOf(From(code_points, 0x110000));
+VELMO_WIDE VELMO_INLINE bool HasForm(Words code_points, ITEMUTF16* /*to*/) {
+  return !Any(From(code_points, 0x110000));
 }
-VELMO_WIDE VELMO_INLINE bool HasForm(WideWords /*any*/, ITEMUTF8* /*to*/) {
+VELMO_WIDE VELMO_INLINE bool HasForm(Words /*any*/, ITEMUTF8* /*to*/) {
   return true;
 }
-VELMO_WIDE VELMO_INLINE Encoded Encode(WideWords code_points, ITEMUTF16*) {
+VELMO_WIDE VELMO_INLINE Encoded Encode(Words code_points, ITEMUTF16*) {
   return ToUtf16(code_points);
 }
-VELMO_WIDE VELMO_INLINE Encoded Encode(WideWords code_points, ITEMUTF8*) {
+VELMO_WIDE VELMO_INLINE Encoded Encode(Words code_points, ITEMUTF8*) {
   return ToUtf8(code_points);
 }
 
 /// All of the text but what only single steps can judge.
 template <typename Unit>
-VELMO_WIDE void CopyBlocks(Cursor<const ITEMUTF32>& source,
-                           Cursor<Unit>& target) {
+VELMO_WIDE VELMO_INLINE void CopyBlocks(Cursor<const ITEMUTF32>& source,
+                                        Cursor<Unit>& target) {
   constexpr std::size_t kMost = kUnitLanes * 4 / sizeof(Unit);
   while (true) {
     CopyPlain(source, target);
@@ -79,14 +78,25 @@ VELMO_WIDE void CopyBlocks(Cursor<const ITEMUTF32>& source,
     }
     const Values values(source.at());
     if (values.Have(~0x1FFFFFUL)) return;
-    const WideWords code_points = (WideWords)_mm256_set_m128i(
-        (__m128i)values.Second(), (__m128i)values.First());
+    const Words low = values.First();
+    const Words high = values.Second();
     Unit* to = target.at();
-    if (HasSurrogates(code_points) || !HasForm(code_points, to)) return;
-    const Encoded encoded = Encode(code_points, to);
-    const std::size_t units = KeptIn<Unit>(encoded.kept);
+    if constexpr (sizeof(Unit) == 1) {
+      if (!values.Have(~0xFFFFUL) && !HasSurrogates(values.AsUnits())) {
+        target.Advance(CopyForms(ToUtf8(values.AsUnits()), to));
+        source.Advance(kUnitLanes);
+        continue;
+      }
+    }
+    if (HasSurrogates(low) || HasSurrogates(high)) return;
+    if (!HasForm(low, to) || !HasForm(high, to)) return;
+    const Encoded first = Encode(low, to);
+    const Encoded second = Encode(high, to);
+    const std::size_t units =
+        KeptIn<Unit>(first.kept) + KeptIn<Unit>(second.kept);
     const Beyond beyond(to + units);
-    Squeeze(encoded.units, encoded.kept, to);
+    Squeeze(first.units, first.kept, to);
+    Squeeze(second.units, second.kept, to);
     beyond.PutBack();
     source.Advance(kUnitLanes);
     target.Advance(units);
@@ -95,17 +105,21 @@ VELMO_WIDE void CopyBlocks(Cursor<const ITEMUTF32>& source,
 
 #endif
 
-template <typename Unit>
-void CopyMany([[maybe_unused]] Cursor<const ITEMUTF32>& source,
-              [[maybe_unused]] Cursor<Unit>& target) {
+/// The blocks of both directions.
+struct Kernel {
 #ifdef VELMO_UNICODE_LANES
-  if (HasWideInstructions()) {
-    CopyBlocks(source, target);
-  } else {
+  template <typename Unit>
+  VELMO_INLINE void Plain(Cursor<const ITEMUTF32>& source,
+                          Cursor<Unit>& target) const {
     CopyPlain(source, target);
   }
+  template <typename Unit>
+  VELMO_WIDE VELMO_INLINE void Wide(Cursor<const ITEMUTF32>& source,
+                                    Cursor<Unit>& target) const {
+    CopyBlocks(source, target);
+  }
 #endif
-}
+};
 
 struct Utf32ToUtf16 {
   bool lenient;
@@ -114,7 +128,7 @@ struct Utf32ToUtf16 {
 
   void Blocks(Cursor<const ITEMUTF32>& source,
               Cursor<ITEMUTF16>& target) const {
-    CopyMany(source, target);
+    RunKernel(Kernel(), source, target);
   }
 
   ITEMConversionResult Step(Cursor<const ITEMUTF32>& source,
@@ -133,7 +147,7 @@ struct Utf32ToUtf8 {
   bool lenient;
 
   void Blocks(Cursor<const ITEMUTF32>& source, Cursor<ITEMUTF8>& target) const {
-    CopyMany(source, target);
+    RunKernel(Kernel(), source, target);
   }
 
   ITEMConversionResult Step(Cursor<const ITEMUTF32>& source,

@@ -45,8 +45,9 @@ VELMO_WIDE VELMO_INLINE void SqueezeBlock(const Utf8Values& v, ITEMUTF32* to) {
 
 /// All of the text but what only single steps can judge.
 template <typename Direction, typename Unit>
-VELMO_WIDE void CopyBlocks(Direction direction, Cursor<const ITEMUTF8>& source,
-                           Cursor<Unit>& target) {
+VELMO_WIDE VELMO_INLINE void CopyBlocks(Direction direction,
+                                        Cursor<const ITEMUTF8>& source,
+                                        Cursor<Unit>& target) {
   while (true) {
     CopyAscii(source, target);
     if (source.left() < kByteLanes ||
@@ -67,27 +68,22 @@ VELMO_WIDE void CopyBlocks(Direction direction, Cursor<const ITEMUTF8>& source,
 
 #endif
 
-template <typename Direction, typename Unit>
-void CopyMany([[maybe_unused]] Direction direction,
-              [[maybe_unused]] Cursor<const ITEMUTF8>& source,
-              [[maybe_unused]] Cursor<Unit>& target) {
-#ifdef VELMO_UNICODE_LANES
-  if (HasWideInstructions()) {
-    CopyBlocks(direction, source, target);
-  } else {
-    CopyAscii(source, target);
-  }
-#endif
-}
-
 struct Utf8ToUtf16 {
   bool lenient;
 
   void Blocks(Cursor<const ITEMUTF8>& source, Cursor<ITEMUTF16>& target) const {
-    CopyMany(*this, source, target);
+    RunKernel(*this, source, target);
   }
 
 #ifdef VELMO_UNICODE_LANES
+  VELMO_INLINE void Plain(Cursor<const ITEMUTF8>& source,
+                          Cursor<ITEMUTF16>& target) const {
+    CopyAscii(source, target);
+  }
+  VELMO_WIDE VELMO_INLINE void Wide(Cursor<const ITEMUTF8>& source,
+                                    Cursor<ITEMUTF16>& target) const {
+    CopyBlocks(*this, source, target);
+  }
   VELMO_INLINE bool Takes(const Utf8Block& block) const {
     return lenient || !HasSurrogates(block);
   }
@@ -108,10 +104,18 @@ struct Utf8ToUtf16 {
 
 struct Utf8ToUtf32 {
   void Blocks(Cursor<const ITEMUTF8>& source, Cursor<ITEMUTF32>& target) const {
-    CopyMany(*this, source, target);
+    RunKernel(*this, source, target);
   }
 
 #ifdef VELMO_UNICODE_LANES
+  VELMO_INLINE void Plain(Cursor<const ITEMUTF8>& source,
+                          Cursor<ITEMUTF32>& target) const {
+    CopyAscii(source, target);
+  }
+  VELMO_WIDE VELMO_INLINE void Wide(Cursor<const ITEMUTF8>& source,
+                                    Cursor<ITEMUTF32>& target) const {
+    CopyBlocks(*this, source, target);
+  }
   VELMO_INLINE bool Takes(const Utf8Block& /*block*/) const { return true; }
   VELMO_INLINE Utf8Values Values(const Utf8Block& block) const {
     return CodePoints(block);

@@ -16,8 +16,10 @@
 /// instructions that the loop may use.
 #define VELMO_INLINE [[gnu::always_inline]] inline
 
-/// For loops that are entered only where HasWideInstructions() is true.
-#define VELMO_WIDE [[gnu::target("avx2,bmi,bmi2,popcnt")]]
+/// For loops that are entered only where HasWideInstructions() is true. Not for
+/// AVX2, though it is there: GCC would then make every constant anew for every
+/// block, with three instructions where a memory operand does.
+#define VELMO_WIDE [[gnu::target("avx,bmi,bmi2,popcnt")]]
 
 namespace velmohelp::unicode {
 
@@ -28,9 +30,7 @@ using Units = std::uint16_t __attribute__((vector_size(16)));
 using Words = std::uint32_t __attribute__((vector_size(16)));
 using Longs = std::uint64_t __attribute__((vector_size(16)));
 
-/// Twice as wide, for loops under VELMO_WIDE only.
-using WideWords = std::uint32_t __attribute__((vector_size(32)));
-using WideSigned = std::int32_t __attribute__((vector_size(32)));
+using Signed = std::int32_t __attribute__((vector_size(16)));
 
 inline constexpr std::size_t kByteLanes = 16;
 inline constexpr std::size_t kUnitLanes = 8;
@@ -116,12 +116,6 @@ VELMO_INLINE Units Narrowed(Words first, Words second) {
 }
 VELMO_INLINE Words Narrowed(Longs first, Longs second) {
   return (Words)_mm_shuffle_ps((__m128)first, (__m128)second, 0x88);
-}
-
-/// Eight code points out of their low and high 16 bits.
-VELMO_WIDE VELMO_INLINE WideWords Joined(Units low, Units high) {
-  return (WideWords)_mm256_cvtepu16_epi32((__m128i)low) |
-         (WideWords)_mm256_cvtepu16_epi32((__m128i)high) << 16;
 }
 
 /// Writes eight units as UTF-32.

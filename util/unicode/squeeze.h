@@ -4,16 +4,21 @@
 
 #include <velmohelp/unicode.h>
 
+#include "util/unicode/cursor.h"
 #include "util/unicode/lanes.h"
 
-#ifdef VELMO_UNICODE_LANES
-
 namespace velmohelp::unicode {
+
+// A kernel converts as many whole blocks as it can:
+//   Plain(source, target): those that every x86-64 can;
+//   Wide(source, target): all, with VELMO_WIDE.
+
+#ifdef VELMO_UNICODE_LANES
 
 /// Whether the instructions of VELMO_WIDE are there, and quick: AMD's family
 /// 17h takes hundreds of cycles for the one that Squeeze is built on.
 inline bool HasWideInstructions() {
-  return __builtin_cpu_supports("avx2") && __builtin_cpu_supports("bmi2") &&
+  return __builtin_cpu_supports("avx") && __builtin_cpu_supports("bmi2") &&
          !__builtin_cpu_is("amdfam17h");
 }
 
@@ -83,14 +88,41 @@ VELMO_WIDE VELMO_INLINE void SqueezeWide(Units low, Units high, Units kept,
     const std::uint64_t mask = ((Longs)kept)[half];
     const Longs lows = {_pext_u64(((Longs)low)[half], mask), 0};
     const Longs highs = {_pext_u64(((Longs)high)[half], mask), 0};
-    const __m256i four =
-        _mm256_cvtepu32_epi64((__m128i)FirstHalf((Units)lows, (Units)highs));
-    std::memcpy(to, &four, sizeof four);
+    const Words four = FirstHalf((Units)lows, (Units)highs);
+    Store(to, FirstHalf(four, Words{}));
+    Store(to + 2, SecondHalf(four, Words{}));
     to += Kept<ITEMUTF16>(mask);
   }
 }
 
-}  // namespace velmohelp::unicode
+/// On copies of the cursors: those of the caller would be written to memory and
+/// read again for every block, and each block would wait for that.
+template <typename Kernel, typename Source, typename Target>
+VELMO_WIDE void RunWide(Kernel kernel, Cursor<Source>& source,
+                        Cursor<Target>& target) {
+  auto from = source;
+  auto to = target;
+  kernel.Wide(from, to);
+  source = from;
+  target = to;
+}
 
 #endif
+
+/// Moves both cursors over what the kernel takes on this processor.
+template <typename Kernel, typename Source, typename Target>
+void RunKernel([[maybe_unused]] Kernel kernel,
+               [[maybe_unused]] Cursor<Source>& source,
+               [[maybe_unused]] Cursor<Target>& target) {
+#ifdef VELMO_UNICODE_LANES
+  if (HasWideInstructions()) {
+    RunWide(kernel, source, target);
+  } else {
+    kernel.Plain(source, target);
+  }
+#endif
+}
+
+}  // namespace velmohelp::unicode
+
 #endif  // UTIL_UNICODE_SQUEEZE_H_
