@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "util/unicode/put.h"
 #include "util/unicode/squeeze.h"
 #include "util/unicode/take.h"
@@ -43,18 +45,48 @@ VELMO_WIDE VELMO_INLINE void SqueezeBlock(const Utf8Values& v, ITEMUTF32* to) {
               SecondHalf(v.kept, v.kept), to);
 }
 
+/// The same where blocks are wide. UTF-32 is bound by its stores, of which
+/// these are twice as long.
+VELMO_INLINE void CopyAsciiWide(Cursor<const ITEMUTF8>& source,
+                                Cursor<ITEMUTF16>& target) {
+  CopyAscii(source, target);
+}
+
+[[gnu::target("avx2"), gnu::noinline]] std::size_t StoreAscii32(
+    const ITEMUTF8* from, std::size_t size, ITEMUTF32* to) {
+  std::size_t done = 0;
+  for (; size - done >= kByteLanes; done += kByteLanes) {
+    if (Any(Load<Bytes>(from + done))) break;
+    for (std::size_t i = done; i < done + kByteLanes; i += 4) {
+      const __m128i four = _mm_loadu_si32(from + i);
+      _mm256_storeu_si256(reinterpret_cast<__m256i*>(to + i),
+                          _mm256_cvtepu8_epi64(four));
+    }
+  }
+  return done;
+}
+
+VELMO_INLINE void CopyAsciiWide(Cursor<const ITEMUTF8>& source,
+                                Cursor<ITEMUTF32>& target) {
+  const std::size_t done = StoreAscii32(
+      source.at(), std::min(source.left(), target.left()), target.at());
+  source.Advance(done);
+  target.Advance(done);
+}
+
 /// All of the text but what only single steps can judge.
 template <typename Direction, typename Unit>
 VELMO_WIDE VELMO_INLINE void CopyBlocks(Direction direction,
                                         Cursor<const ITEMUTF8>& source,
                                         Cursor<Unit>& target) {
-  while (true) {
-    CopyAscii(source, target);
-    if (source.left() < kByteLanes ||
-        target.left() < kByteLanes + kBeyond<Unit>) {
-      return;
+  while (source.left() >= kByteLanes &&
+         target.left() >= kByteLanes + kBeyond<Unit>) {
+    const auto bytes = Load<Bytes>(source.at());
+    if (!Any(bytes)) {
+      CopyAsciiWide(source, target);
+      continue;
     }
-    const Utf8Block block(Load<Bytes>(source.at()));
+    const Utf8Block block(bytes);
     if (!IsLegal(block) || !direction.Takes(block)) return;
     const Utf8Values values = direction.Values(block);
     const std::size_t units = KeptIn<ITEMUTF8>(values.kept);

@@ -18,7 +18,7 @@ namespace velmohelp::unicode {
 /// Whether the instructions of VELMO_WIDE are there, and quick: AMD's family
 /// 17h takes hundreds of cycles for the one that Squeeze is built on.
 inline bool HasWideInstructions() {
-  return __builtin_cpu_supports("avx") && __builtin_cpu_supports("bmi2") &&
+  return __builtin_cpu_supports("avx2") && __builtin_cpu_supports("bmi2") &&
          !__builtin_cpu_is("amdfam17h");
 }
 
@@ -63,10 +63,9 @@ struct Numbers {
 /// How many lanes are kept.
 template <typename Unit, typename Lanes>
 VELMO_WIDE VELMO_INLINE std::size_t KeptIn(Lanes kept) {
-  const Numbers masks(kept);
-  std::size_t count = 0;
-  for (const std::uint64_t mask : masks.number) count += Kept<Unit>(mask);
-  return count;
+  return static_cast<std::size_t>(_mm_popcnt_u32(
+             static_cast<unsigned>(_mm_movemask_epi8((__m128i)kept)))) /
+         sizeof(Unit);
 }
 
 /// Writes the units of the lanes where kept has ones.
@@ -81,14 +80,20 @@ VELMO_WIDE VELMO_INLINE void Squeeze(Lanes lanes, Lanes kept, Unit*& to) {
   }
 }
 
-/// The same for code points, in their low and high 16 bits.
+/// The same for code points, in their low and high 16 bits. Few texts have any
+/// bits up there.
 VELMO_WIDE VELMO_INLINE void SqueezeWide(Units low, Units high, Units kept,
                                          ITEMUTF32*& to) {
-  for (int half = 0; half < 2; ++half) {
-    const std::uint64_t mask = ((Longs)kept)[half];
-    const Longs lows = {_pext_u64(((Longs)low)[half], mask), 0};
-    const Longs highs = {_pext_u64(((Longs)high)[half], mask), 0};
-    const Words four = FirstHalf((Units)lows, (Units)highs);
+  const bool any_high = Any(high != 0);
+  const Numbers lows(low);
+  const Numbers highs(high);
+  const Numbers masks(kept);
+  for (std::size_t i = 0; i < masks.kCount; ++i) {
+    const std::uint64_t mask = masks.number[i];
+    const Longs taken = {_pext_u64(lows.number[i], mask), 0};
+    Longs above = {};
+    if (any_high) above[0] = _pext_u64(highs.number[i], mask);
+    const Words four = FirstHalf((Units)taken, (Units)above);
     Store(to, FirstHalf(four, Words{}));
     Store(to + 2, SecondHalf(four, Words{}));
     to += Kept<ITEMUTF16>(mask);
