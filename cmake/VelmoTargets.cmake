@@ -9,6 +9,9 @@ function(velmo_configure target)
   target_compile_options(${target} PRIVATE
     -Wall -Wextra -Wpedantic -Wconversion -Wshadow
     $<$<BOOL:${VELMO_WARNINGS_AS_ERRORS}>:-Werror>)
+  if(VELMO_BUILD_FUZZERS)
+    target_compile_options(${target} PRIVATE -fsanitize=fuzzer-no-link)
+  endif()
   if(VELMO_SANITIZE)
     target_compile_options(${target} PRIVATE
       -fsanitize=${VELMO_SANITIZE} -fno-sanitize-recover=all

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstring>
 #include <memory>
 #include <sstream>
 #include <string>
@@ -121,6 +122,22 @@ template <typename D>
     }
   }
   return ::testing::AssertionSuccess();
+}
+
+/// Bytes from anywhere as the source, and a part of the room that they may
+/// need.
+template <typename D>
+::testing::AssertionResult AgreeOnBytes(const D& direction,
+                                        const std::uint8_t* bytes,
+                                        std::size_t size, std::uint8_t part,
+                                        int flag) {
+  std::vector<typename D::Source> source(size / sizeof(typename D::Source));
+  if (!source.empty()) {
+    std::memcpy(source.data(), bytes, source.size() * sizeof source[0]);
+  }
+  const std::size_t room = 4 * source.size() * part / 255;
+  TwoTargets<typename D::Target> targets(room);
+  return AgreeIn(direction, source.data(), source.size(), room, flag, targets);
 }
 
 inline ::testing::AssertionResult AgreeOnLegality(const ITEMUTF8* source,

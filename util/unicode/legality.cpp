@@ -2,7 +2,6 @@
 
 #include "util/unicode/code_points.h"
 #include "util/unicode/cursor.h"
-#include "util/unicode/take.h"
 #include "util/unicode/utf8_block.h"
 
 namespace velmohelp::unicode {
@@ -27,9 +26,11 @@ void SkipBlocks([[maybe_unused]] Cursor<const ITEMUTF8>& source) {
 bool AreLegal(Cursor<const ITEMUTF8> source) {
   SkipBlocks(source);
   while (!source.empty()) {
-    const Taken character = TakeUtf8(source);
-    if (character.result != kConversionComplete) return false;
-    source.Advance(character.units);
+    const std::size_t trailing = TrailingBytes(*source.at());
+    if (trailing >= source.left() || !IsLegalSequence(source.at())) {
+      return false;
+    }
+    source.Advance(trailing + 1);
   }
   return true;
 }
@@ -39,12 +40,14 @@ bool AreLegal(Cursor<const ITEMUTF8> source) {
 
 using velmohelp::unicode::AreLegal;
 using velmohelp::unicode::Cursor;
-using velmohelp::unicode::TakeUtf8;
+using velmohelp::unicode::IsLegalSequence;
+using velmohelp::unicode::TrailingBytes;
 
 bool ITEMisLegalUTF8Sequence(const ITEMUTF8* source,
                              const ITEMUTF8* sourceEnd) {
   const Cursor<const ITEMUTF8> range(source, sourceEnd);
-  return !range.empty() && TakeUtf8(range).result == kConversionComplete;
+  return !range.empty() && TrailingBytes(*source) < range.left() &&
+         IsLegalSequence(source);
 }
 
 bool ITEMisLegalUTF8String(const ITEMUTF8* source, const ITEMUTF8* sourceEnd) {

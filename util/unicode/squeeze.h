@@ -17,9 +17,14 @@ namespace velmohelp::unicode {
 
 /// Whether the instructions of VELMO_WIDE are there, and quick: AMD's family
 /// 17h takes hundreds of cycles for the one that Squeeze is built on.
+/// VELMO_UNICODE_PLAIN is for the tests of a processor that has not.
 inline bool HasWideInstructions() {
+#ifdef VELMO_UNICODE_PLAIN
+  return false;
+#else
   return __builtin_cpu_supports("avx2") && __builtin_cpu_supports("bmi2") &&
          !__builtin_cpu_is("amdfam17h");
+#endif
 }
 
 /// The most that one write reaches beyond the units that it is for. Squeezing
@@ -120,6 +125,7 @@ void RunKernel([[maybe_unused]] Kernel kernel,
                [[maybe_unused]] Cursor<Source>& source,
                [[maybe_unused]] Cursor<Target>& target) {
 #ifdef VELMO_UNICODE_LANES
+  if (source.left() < kUnitLanes || target.left() < kUnitLanes) return;
   if (HasWideInstructions()) {
     RunWide(kernel, source, target);
   } else {
