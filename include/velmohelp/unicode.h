@@ -7,7 +7,8 @@
  *     over what it has converted. Ends point one unit behind the last.
  *  2. A stop is always between two characters: the source cursor stands at the
  *     first unit of the character that was not converted, the target cursor
- *     behind the last unit written. Nothing at or behind it has been changed.
+ *     behind the last unit written. On return nothing at or behind it has
+ *     changed; until then the room up to the target's end is the converter's.
  *  3. flag: 0 is strict, any other value is lenient.
  *  4. A range whose start is null or lies behind its end counts as empty: an
  *     empty source is complete at once, an empty target has no room. A cursor's

@@ -50,7 +50,7 @@ std::pair<const wchar_t*, char*> convert_utf(const wchar_t* first,
   const Utf16Buffer units(static_cast<std::size_t>(last - first));
   ITEMUTF16* narrowed = units.begin();
   for (const wchar_t* wide = first; wide != last; ++wide) {
-    *narrowed++ = static_cast<ITEMUTF16>(*wide);
+    *narrowed++ = static_cast<ITEMUTF16>(*wide & 0xFFFF);
   }
   const ITEMUTF16* source = units.begin();
   auto* target = reinterpret_cast<ITEMUTF8*>(dfirst);

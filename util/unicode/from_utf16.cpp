@@ -91,7 +91,8 @@ struct Kernel {
 struct Utf16ToUtf8 {
   bool lenient;
 
-  void Blocks(Cursor<const ITEMUTF16>& source, Cursor<ITEMUTF8>& target) const {
+  static void Blocks(Cursor<const ITEMUTF16>& source,
+                     Cursor<ITEMUTF8>& target) {
     RunKernel(Kernel(), source, target);
   }
 
@@ -108,8 +109,8 @@ struct Utf16ToUtf8 {
 struct Utf16ToUtf32 {
   bool lenient;
 
-  void Blocks(Cursor<const ITEMUTF16>& source,
-              Cursor<ITEMUTF32>& target) const {
+  static void Blocks(Cursor<const ITEMUTF16>& source,
+                     Cursor<ITEMUTF32>& target) {
     RunKernel(Kernel(), source, target);
   }
 

@@ -126,8 +126,8 @@ struct Utf32ToUtf16 {
   /// Set when strict mode has skipped a value that is no code point.
   bool* skipped;
 
-  void Blocks(Cursor<const ITEMUTF32>& source,
-              Cursor<ITEMUTF16>& target) const {
+  static void Blocks(Cursor<const ITEMUTF32>& source,
+                     Cursor<ITEMUTF16>& target) {
     RunKernel(Kernel(), source, target);
   }
 
@@ -146,7 +146,8 @@ struct Utf32ToUtf16 {
 struct Utf32ToUtf8 {
   bool lenient;
 
-  void Blocks(Cursor<const ITEMUTF32>& source, Cursor<ITEMUTF8>& target) const {
+  static void Blocks(Cursor<const ITEMUTF32>& source,
+                     Cursor<ITEMUTF8>& target) {
     RunKernel(Kernel(), source, target);
   }
 

@@ -78,7 +78,7 @@ template <typename Unit, typename Lanes>
 VELMO_WIDE VELMO_INLINE void Squeeze(Lanes lanes, Lanes kept, Unit*& to) {
   const Numbers units(lanes);
   const Numbers masks(kept);
-  for (std::size_t i = 0; i < units.kCount; ++i) {
+  for (std::size_t i = 0; i < Numbers<Lanes>::kCount; ++i) {
     const std::uint64_t taken = _pext_u64(units.number[i], masks.number[i]);
     std::memcpy(to, &taken, sizeof taken);
     to += Kept<Unit>(masks.number[i]);
@@ -93,7 +93,7 @@ VELMO_WIDE VELMO_INLINE void SqueezeWide(Units low, Units high, Units kept,
   const Numbers lows(low);
   const Numbers highs(high);
   const Numbers masks(kept);
-  for (std::size_t i = 0; i < masks.kCount; ++i) {
+  for (std::size_t i = 0; i < Numbers<Units>::kCount; ++i) {
     const std::uint64_t mask = masks.number[i];
     const Longs taken = {_pext_u64(lows.number[i], mask), 0};
     Longs above = {};

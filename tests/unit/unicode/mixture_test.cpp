@@ -33,7 +33,7 @@ template <typename D>
 ::testing::AssertionResult AgreeInSomeRooms(
     const D& direction, const std::vector<typename D::Source>& source,
     std::mt19937& random) {
-  const std::size_t most = 4 * source.size() + 1;
+  const std::size_t most = 4 * source.size() + 3;
   TwoTargets<typename D::Target> targets(most);
   const ExactCopy<typename D::Source> exact(source, random() % 17);
   for (const int flag : {0, 1, -7}) {
