@@ -108,8 +108,8 @@ struct Utf8ToUtf16 {
   }
 
 #ifdef VELMO_UNICODE_LANES
-  VELMO_INLINE void Plain(Cursor<const ITEMUTF8>& source,
-                          Cursor<ITEMUTF16>& target) const {
+  VELMO_INLINE static void Plain(Cursor<const ITEMUTF8>& source,
+                                 Cursor<ITEMUTF16>& target) {
     CopyAscii(source, target);
   }
   VELMO_WIDE VELMO_INLINE void Wide(Cursor<const ITEMUTF8>& source,
@@ -119,7 +119,7 @@ struct Utf8ToUtf16 {
   VELMO_INLINE bool Takes(const Utf8Block& block) const {
     return lenient || !HasSurrogates(block);
   }
-  VELMO_INLINE Utf8Values Values(const Utf8Block& block) const {
+  VELMO_INLINE static Utf8Values Values(const Utf8Block& block) {
     return Utf16Units(block);
   }
 #endif
@@ -140,22 +140,22 @@ struct Utf8ToUtf32 {
   }
 
 #ifdef VELMO_UNICODE_LANES
-  VELMO_INLINE void Plain(Cursor<const ITEMUTF8>& source,
-                          Cursor<ITEMUTF32>& target) const {
+  VELMO_INLINE static void Plain(Cursor<const ITEMUTF8>& source,
+                                 Cursor<ITEMUTF32>& target) {
     CopyAscii(source, target);
   }
   VELMO_WIDE VELMO_INLINE void Wide(Cursor<const ITEMUTF8>& source,
                                     Cursor<ITEMUTF32>& target) const {
     CopyBlocks(*this, source, target);
   }
-  VELMO_INLINE bool Takes(const Utf8Block& /*block*/) const { return true; }
-  VELMO_INLINE Utf8Values Values(const Utf8Block& block) const {
+  VELMO_INLINE static bool Takes(const Utf8Block& /*block*/) { return true; }
+  VELMO_INLINE static Utf8Values Values(const Utf8Block& block) {
     return CodePoints(block);
   }
 #endif
 
-  ITEMConversionResult Step(Cursor<const ITEMUTF8>& source,
-                            Cursor<ITEMUTF32>& target) const {
+  static ITEMConversionResult Step(Cursor<const ITEMUTF8>& source,
+                                   Cursor<ITEMUTF32>& target) {
     const Taken character = TakeUtf8(source);
     if (character.result != kConversionComplete) return character.result;
     const auto result = PutUtf32(character.value, target);
