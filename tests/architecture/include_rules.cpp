@@ -65,9 +65,15 @@ bool IsForHelpers(std::string_view header) {
          header.starts_with("curl/");
 }
 
+/// The processor's own instructions, which the text routines alone may use.
+bool IsForTextRoutines(std::string_view header) {
+  return header == "immintrin.h";
+}
+
 bool MayIncludeSystem(const Layer& layer, std::string_view header) {
   if (IsStandard(header) || IsPublic(header)) return true;
   if (IsForHelpers(header)) return layer.folder == "platform/linux/helpers/";
+  if (IsForTextRoutines(header)) return layer.folder == "util/";
   return layer.folder.starts_with("platform/linux/");
 }
 

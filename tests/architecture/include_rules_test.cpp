@@ -45,6 +45,7 @@ INSTANTIATE_TEST_SUITE_P(
         Edge{"platform/linux/x.cpp", "\"platform/linux/helpers/protocol.h\""},
         Edge{"platform/linux/x.cpp", "<unistd.h>"},
         Edge{"platform/linux/x.cpp", "<sys/stat.h>"},
+        Edge{"util/unicode/x.cpp", "<immintrin.h>"},
         Edge{"platform/linux/helpers/x.cpp", "<curl/curl.h>"},
         Edge{"platform/linux/helpers/x.cpp", "<gio/gio.h>"}),
     NameOf);
@@ -68,6 +69,7 @@ INSTANTIATE_TEST_SUITE_P(
         Edge{"platform/scripted/x.cpp", "<dlfcn.h>"},
         Edge{"platform/linux/x.cpp", "<curl/curl.h>"},
         Edge{"platform/linux/x.cpp", "<gio/gio.h>"},
+        Edge{"resolve/x.cpp", "<immintrin.h>"},
         Edge{"platform/linux/x.cpp", "<glib.h>"}),
     NameOf);
 
