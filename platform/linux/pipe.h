@@ -15,8 +15,8 @@ struct Pipe {
 
 /// Both ends are closed in programs that the host starts meanwhile, and have
 /// numbers above those of the standard streams: a host may run with these
-/// closed, and its own start of a program would take such an end for one.
-/// nullopt when the descriptor table is full.
+/// closed, and what it prints meanwhile would go into the pipe. nullopt when
+/// the descriptor table is full.
 std::optional<Pipe> MakePipe();
 
 }  // namespace velmohelp

@@ -45,7 +45,7 @@ class Browser : public ::testing::Test {
   std::string Opened(const std::string& name, const std::string& url) {
     const bool opened = machine_.OpenInBrowser(url);
     testing::AwaitEndOfChildren();
-    const std::string arguments = FileText(directory_ / ("opened-" + name));
+    std::string arguments = FileText(directory_ / ("opened-" + name));
     EXPECT_EQ(opened, !arguments.empty());
     return arguments;
   }

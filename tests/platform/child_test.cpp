@@ -29,8 +29,8 @@ std::vector<std::string> Facts(const std::string& report,
   std::vector<std::string> facts;
   std::istringstream lines(report);
   for (std::string line; std::getline(lines, line);) {
-    if (line.starts_with(word + " "))
-      facts.push_back(line.substr(word.size() + 1));
+    if (!line.starts_with(word + " ")) continue;
+    facts.push_back(line.substr(word.size() + 1));
   }
   return facts;
 }
@@ -94,7 +94,6 @@ TEST_F(StartedProgram, HasASessionOfItsOwnOnlyWhenItIsLeftRunning) {
 }
 
 TEST_F(StartedProgram, HasStandardStreamsWhereItsHostHasNone) {
-  std::string report;
   const bool reported = testing::InACopy([&] {
     close(0);
     close(1);

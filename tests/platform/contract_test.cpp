@@ -9,7 +9,7 @@
 namespace velmohelp {
 namespace {
 
-using std::string_literals::operator""s;
+using namespace std::string_literals;
 using testing::World;
 
 constexpr std::int16_t kUserDomain = -32763;

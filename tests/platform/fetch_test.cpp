@@ -13,7 +13,7 @@
 namespace velmohelp {
 namespace {
 
-using std::string_literals::operator""s;
+using namespace std::string_literals;
 using testing::HttpServer;
 using testing::Response;
 
@@ -150,26 +150,39 @@ TEST_F(Fetching, FailsWhereNobodyListens) {
   EXPECT_FALSE(machine().FetchText(url));
 }
 
-TEST_F(Fetching, ReadsFiles) {
-  testing::TemporaryDirectory directory;
-  const auto fetch = [&](const std::string& name) {
-    return machine().FetchText("file:///proc/self/cwd/" + name);
-  };
+struct FileRow {
+  const char* sentence;
+  const char* name;
+  bool is_text;
+};
+
+class FromAFile : public ::testing::TestWithParam<FileRow> {};
+
+TEST_P(FromAFile, IsText) {
+  const testing::TemporaryDirectory directory;
   std::filesystem::current_path(directory.path());
   directory.Write("page.html", "a text");
   directory.Write("a b", "a text");
   directory.Write("empty", "");
   directory.Write("picture", kPicture);
   ASSERT_EQ(mkfifo("pipe", S_IRWXU), 0);
-  EXPECT_TRUE(fetch("page.html"));
-  EXPECT_TRUE(fetch("page.html?query=1#anchor"));
-  EXPECT_TRUE(fetch("a%20b"));
-  EXPECT_TRUE(fetch("empty"));
-  EXPECT_FALSE(fetch("picture"));
-  EXPECT_FALSE(fetch("missing"));
-  EXPECT_FALSE(fetch("pipe"));
-  EXPECT_FALSE(fetch(""));
+  LinuxMachine machine(VELMO_TEST_HELPERS);
+  EXPECT_EQ(machine.FetchText("file:///proc/self/cwd/"s + GetParam().name),
+            GetParam().is_text);
 }
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, FromAFile,
+    ::testing::Values(FileRow{"a page", "page.html", true},
+                      FileRow{"a page with query and anchor", "page.html?a=1#b",
+                              true},
+                      FileRow{"an escaped name", "a%20b", true},
+                      FileRow{"an empty file", "empty", true},
+                      FileRow{"a picture", "picture", false},
+                      FileRow{"nothing", "missing", false},
+                      FileRow{"a pipe that nobody writes to", "pipe", false},
+                      FileRow{"a directory", "", false}),
+    testing::SentenceOf());
 
 TEST_F(Fetching, RefusesWhatIsNoUrlOfAResource) {
   testing::TemporaryDirectory directory;

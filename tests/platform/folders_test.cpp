@@ -5,17 +5,21 @@
 #include <pwd.h>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <velmohelp_locations.h>
 
 #include <cstdlib>
 
 #include "platform/linux/bundles.h"
+#include "platform/linux/files.h"
 #include "platform/linux/own_location.h"
+#include "platform/linux/preference_store.h"
 #include "tests/platform/support/temporary_directory.h"
 #include "tests/support/sentence.h"
 
 namespace velmohelp {
 namespace {
 
+namespace fs = std::filesystem;
 using testing::TemporaryDirectory;
 
 struct FolderRow {
@@ -64,19 +68,20 @@ INSTANTIATE_TEST_SUITE_P(
                   HomeInDatabase() + "/.config"}),
     testing::SentenceOf());
 
+fs::perms PermissionsOf(const std::string& path) {
+  return fs::status(path).permissions();
+}
+
 TEST(PreferencesFolder, IsMadeForTheUserAloneWhenAskedFor) {
   const TemporaryDirectory directory;
   const std::string folder = directory / "a/b";
   setenv("XDG_CONFIG_HOME", folder.c_str(), 1);
   EXPECT_FALSE(PreferencesFolder(false));
-  EXPECT_FALSE(std::filesystem::exists(directory / "a"));
+  EXPECT_FALSE(fs::exists(directory / "a"));
   EXPECT_EQ(PreferencesFolder(true), folder);
   EXPECT_EQ(PreferencesFolder(false), folder);
-  EXPECT_EQ(PreferencesFolder(true), folder);
-  for (const std::string& made : {directory / "a", folder}) {
-    EXPECT_EQ(std::filesystem::status(made).permissions(),
-              std::filesystem::perms::owner_all);
-  }
+  EXPECT_EQ(PermissionsOf(directory / "a"), fs::perms::owner_all);
+  EXPECT_EQ(PermissionsOf(folder), fs::perms::owner_all);
 }
 
 TEST(PreferencesFolder, IsNoneWhereAFileLies) {
@@ -97,20 +102,62 @@ TEST(Resources, LieBesideTheHostBeforeTheyLieInShare) {
   EXPECT_FALSE(ResourcesOf(host));
   directory.MakeDirectory("share/host.resources");
   EXPECT_EQ(ResourcesOf(host), directory / "bin/../share/host.resources");
-  std::filesystem::remove(directory / "bin/host.resources");
+  fs::remove(directory / "bin/host.resources");
   directory.MakeDirectory("bin/host.resources");
   EXPECT_EQ(ResourcesOf(host), directory / "bin/host.resources");
 }
 
 TEST(Bundle, IsADirectory) {
-  const std::string name = "com.example.bundle" + std::to_string(getpid());
+  const std::string name = "com.example.file" + std::to_string(getpid());
   const std::string path = OwnFolder().value() + "/" + name + ".framework";
   std::ofstream(path) << "a file";
   EXPECT_FALSE(FindBundle(name));
-  std::filesystem::remove(path);
-  std::filesystem::create_directory(path);
+  fs::remove(path);
+}
+
+TEST(Bundle, LiesBesideTheClientBeforeItLiesBesideTheHost) {
+  const std::string name = "com.example.order" + std::to_string(getpid());
+  const std::string own = OwnFolder().value() + "/" + name + ".framework";
+  const std::string host = FolderOf(HostExecutable().value()) +
+                           "/../Frameworks/" + name + ".framework";
+  fs::create_directories(host);
+  EXPECT_EQ(FindBundle(name), host);
+  fs::create_directory(own);
+  EXPECT_EQ(FindBundle(name), own);
+  fs::remove(own);
+  fs::remove(host);
+}
+
+/// Only a build that keeps the machine's folders in its own tree may be asked
+/// to put something there.
+bool IsInBuildTree(const std::string& folder) {
+  return folder.starts_with(VELMO_TEST_BUILD "/");
+}
+
+TEST(Bundle, LiesLastInTheFolderOfTheBuild) {
+  if (!IsInBuildTree(kFrameworksDir)) GTEST_SKIP() << kFrameworksDir;
+  const std::string name = "com.example.last" + std::to_string(getpid());
+  const std::string path = kFrameworksDir + ("/" + name) + ".framework";
+  fs::create_directories(path);
   EXPECT_EQ(FindBundle(name), path);
-  std::filesystem::remove(path);
+  fs::remove(path);
+}
+
+TEST(AdministratorsPreference, IsMovedByNoVariable) {
+  if (!IsInBuildTree(kSysconfDir)) GTEST_SKIP() << kSysconfDir;
+  const TemporaryDirectory directory;
+  const std::string domain = "com.example.admin" + std::to_string(getpid());
+  const std::string file = kSysconfDir + ("/" + domain) + ".conf";
+  fs::create_directories(kSysconfDir);
+  std::ofstream(file) << "[Preferences]\nKey=0\n";
+  for (const char* variable : {"XDG_CONFIG_HOME", "XDG_CONFIG_DIRS", "HOME"}) {
+    setenv(variable, directory.path().c_str(), 1);
+  }
+  EXPECT_EQ(ReadPreference(domain, "Key", PreferenceScope::kAnyUserCurrentHost),
+            "0");
+  EXPECT_FALSE(
+      ReadPreference(domain, "Key", PreferenceScope::kCurrentUserAnyHost));
+  fs::remove(file);
 }
 
 TEST(Bundle, IsNamedAndNoPath) {
@@ -122,7 +169,7 @@ class Application : public ::testing::Test {
  protected:
   void Write(const std::string& name) { directory_.WriteScript(name, ""); }
   std::optional<std::string> Executable(const std::string& name) {
-    const auto path = ExecutableOf(directory_ / name);
+    auto path = ExecutableOf(directory_ / name);
     if (!path) return path;
     return path->substr(directory_.path().size() + 1);
   }
@@ -189,14 +236,12 @@ INSTANTIATE_TEST_SUITE_P(
     testing::SentenceOf());
 
 TEST(HostProgram, IsThisOne) {
-  EXPECT_EQ(HostExecutable(),
-            std::filesystem::read_symlink("/proc/self/exe").string());
+  EXPECT_EQ(HostExecutable(), fs::read_symlink("/proc/self/exe").string());
 }
 
 TEST(OwnLocation, IsFoundWhereverTheHostWorks) {
-  const std::string folder =
-      std::filesystem::read_symlink("/proc/self/exe").parent_path();
-  std::filesystem::current_path("/");
+  const std::string folder = fs::read_symlink("/proc/self/exe").parent_path();
+  fs::current_path("/");
   EXPECT_EQ(OwnFolder(), folder);
 }
 

@@ -15,7 +15,7 @@ namespace velmohelp {
 namespace {
 
 using std::chrono::milliseconds;
-using std::string_literals::operator""s;
+using namespace std::string_literals;
 
 constexpr Patience kShort{milliseconds(50), milliseconds(50), milliseconds(50)};
 
@@ -113,6 +113,13 @@ TEST_F(Helpers, AreReapedLater) {
   testing::AwaitEndOfChildren();
   EXPECT_FALSE(Answers().OpenInBrowser("http://localhost/"));
   EXPECT_TRUE(testing::Children().empty());
+}
+
+TEST_F(Helpers, KeepTheHostWaitingForSecondsOnly) {
+  using std::chrono::seconds;
+  EXPECT_EQ(Patience().reach, seconds(5));
+  EXPECT_EQ(Patience().browser, seconds(10));
+  EXPECT_EQ(Patience().fetch, seconds(65));
 }
 
 TEST_F(Helpers, ThatAnswerAndLingerAreLate) {

@@ -9,7 +9,7 @@
 namespace velmohelp {
 namespace {
 
-using std::string_literals::operator""s;
+using namespace std::string_literals;
 
 struct TextRow {
   const char* sentence;

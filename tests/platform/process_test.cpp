@@ -11,6 +11,7 @@
 #include "platform/linux/child_reaper.h"
 #include "platform/linux/helper_answers.h"
 #include "platform/linux/linux_machine.h"
+#include "platform/linux/pipe.h"
 #include "platform/linux/preference_store.h"
 #include "platform/linux/programs.h"
 #include "tests/platform/support/children.h"
@@ -52,7 +53,7 @@ TEST_F(Running, NeverHandsATextToAShell) {
 }
 
 TEST_F(Running, TakesAPathWithANulForNoProgram) {
-  using std::string_literals::operator""s;
+  using namespace std::string_literals;
   EXPECT_FALSE(machine().RunToEnd("/bin/true\0x"s, {}));
 }
 
@@ -171,6 +172,19 @@ TEST_F(Running, ReadsInAHostWithoutStandardStreams) {
            machine().RunToEnd(tool, {}) == 6 &&
            machine().HostReachability("127.0.0.1").has_value() &&
            fcntl(0, F_GETFD) == -1 && fcntl(1, F_GETFD) == -1;
+  }));
+}
+
+// What such a host prints meanwhile must not end in the tool's answer.
+TEST(PipeOfAHostWithoutStandardStreams, IsNoneOfThem) {
+  EXPECT_TRUE(testing::InACopy([] {
+    close(0);
+    close(1);
+    close(2);
+    const auto pipe = MakePipe();
+    return pipe && pipe->read_end.number() > 2 &&
+           pipe->write_end.number() > 2 && fcntl(0, F_GETFD) == -1 &&
+           fcntl(1, F_GETFD) == -1;
   }));
 }
 

@@ -7,7 +7,7 @@
 namespace velmohelp {
 namespace {
 
-using std::string_literals::operator""s;
+using namespace std::string_literals;
 
 struct BodyRow {
   const char* sentence;

@@ -4,6 +4,7 @@
 #include <sys/socket.h>
 #include <unistd.h>
 
+#include <stdexcept>
 #include <utility>
 
 namespace velmohelp::testing {
@@ -47,8 +48,9 @@ HttpServer::HttpServer(Answer answer)
   address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
   socklen_t size = sizeof address;
   auto* any = reinterpret_cast<sockaddr*>(&address);
-  bind(listener_, any, size);
-  listen(listener_, 8);
+  if (bind(listener_, any, size) != 0 || listen(listener_, 8) != 0) {
+    throw std::runtime_error("no place for a server on loopback");
+  }
   getsockname(listener_, any, &size);
   port_ = ntohs(address.sin_port);
   thread_ = std::thread([this] { Serve(); });

@@ -13,7 +13,8 @@ void TellSignals(std::ostream& out) {
   sigprocmask(SIG_SETMASK, nullptr, &blocked);
   for (int signal = 1; signal < NSIG; ++signal) {
     struct sigaction action = {};
-    if (sigismember(&blocked, signal) == 1) out << "blocked " << signal << '\n';
+    const bool is_blocked = sigismember(&blocked, signal) == 1;
+    if (is_blocked) out << "blocked " << signal << '\n';
     if (sigaction(signal, nullptr, &action) == 0 &&
         action.sa_handler == SIG_IGN) {
       out << "ignored " << signal << '\n';
@@ -34,8 +35,9 @@ int main(int argc, char* argv[]) {
   for (char** entry = environ; *entry != nullptr; ++entry) {
     out << "environment " << *entry << '\n';
   }
-  for (int i = 0; i < count; ++i)
+  for (int i = 0; i < count; ++i) {
     out << "descriptor " << descriptors[i] << '\n';
+  }
   TellSignals(out);
   out << (getsid(0) == getpid() ? "own session\n" : "host's session\n");
 }

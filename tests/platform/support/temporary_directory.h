@@ -26,7 +26,7 @@ class TemporaryDirectory {
 
   /// Writes a file, and the directories above it. Returns its path.
   std::string Write(const std::string& name, const std::string& text) const {
-    const std::string file = *this / name;
+    std::string file = *this / name;
     std::filesystem::create_directories(
         std::filesystem::path(file).parent_path());
     std::ofstream(file, std::ios::binary) << text;
@@ -36,7 +36,7 @@ class TemporaryDirectory {
   /// Writes an executable shell script.
   std::string WriteScript(const std::string& name,
                           const std::string& lines) const {
-    const std::string file = Write(name, "#!/bin/sh\n" + lines + "\n");
+    std::string file = Write(name, "#!/bin/sh\n" + lines + "\n");
     std::filesystem::permissions(file, std::filesystem::perms::owner_all);
     return file;
   }
