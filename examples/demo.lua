@@ -104,6 +104,6 @@ assert(os.rename(viewer, viewer .. ".removed"))
 stage.display(".uno:PrintPreview",
   browser_shows_page("Print Preview", preview_page))
 
-print(string.format("\n%d requests, %s outcome not as expected.",
+print(string.format("\n%d requests, %s unexpected outcome.",
   stage.requests, stage.failures == 0 and "no" or stage.failures))
 os.exit(stage.failures == 0)
