@@ -2,7 +2,6 @@
 
 #include <velmohelp/config.h>
 
-#include <algorithm>
 #include <cctype>
 #include <optional>
 
@@ -80,7 +79,7 @@ std::string_view ScanKey(std::string_view text, std::string_view key) {
 void ScanPathTable(std::string_view text, std::string (*table)[2], int& count) {
   if (text.find(kPathKey) == kNone) return;
   FillFolders(text, table, count);
-  count = FillFlags(text, table, std::max(count, 0));
+  count = FillFlags(text, table, count);
 }
 
 }  // namespace velmohelp

@@ -47,6 +47,8 @@ constexpr Row kFound[] = {
     {"single quotes are no quotes", R"(id='a' path="b")", "id", "b"},
     {"a key at the very start is found", R"(id="a")", "id", "a"},
     {"an overlapping first occurrence is the one", R"(ididx="a")", "idid", "a"},
+    {"what stands inside the key does not count", R"(a="1" id="2")",
+     R"(a="1" id)", "2"},
     {"an empty key is found at once", R"(x="a")", "", "a"},
     {"bytes above 127 pass", "id=\"\xC3\xA4\xFF\"", "id", "\xC3\xA4\xFF"},
 };

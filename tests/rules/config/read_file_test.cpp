@@ -64,7 +64,7 @@ std::string SlowlyRead(const std::string& bytes) {
   std::string text;
   for (std::size_t at = 0; at < bytes.size(); at += kPiece) {
     const std::string piece = bytes.substr(at, kPiece);
-    text += piece.c_str();
+    text += piece.substr(0, piece.find('\0'));
   }
   return text;
 }
@@ -72,7 +72,7 @@ std::string SlowlyRead(const std::string& bytes) {
 TEST(PiecesOfRandomFiles, AreTakenAsTheSlowReaderTakesThem) {
   const TempFolder folder;
   RandomText random(std::string(700, 'a') + "\0"s);
-  for (const std::size_t pieces : {1, 2, 63, 64, 65, 128, 200}) {
+  for (const std::size_t pieces : {1U, 2U, 63U, 64U, 65U, 128U, 200U}) {
     for (const int more : {-1, 0, 1, 500}) {
       const std::size_t size = pieces * kPiece + static_cast<std::size_t>(more);
       const std::string bytes = kOpening + random.Next(size - 4) + "\"";

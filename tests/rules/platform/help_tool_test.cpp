@@ -45,7 +45,7 @@ TEST_F(HelpTool, IsNotRunWhereItDoesNotExist) {
 
 TEST_F(HelpTool, HasAPathOfAtMost1023Bytes) {
   const std::string inside = "//Versions/A/Resources/QTV";
-  for (const std::size_t size : {1023, 1024}) {
+  for (const std::size_t size : {1023U, 1024U}) {
     ScriptedMachine deep;
     UseMachine(&deep);
     const std::string bundle = "/" + std::string(size - 1 - inside.size(), 'a');

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 #include <velmohelp/resolve.h>
 
+#include <array>
 #include <vector>
 
 #include "tests/rules/support/random_text.h"
@@ -90,7 +91,7 @@ TEST(LineAtABufferBorder, KeepsItsEndTogether) {
 }
 
 TEST(LineAtABufferBorder, KeepsItsEndTogetherInTheStreamsOwnBuffer) {
-  for (const std::size_t border : {1024, 4096, 8191, 8192, 65536}) {
+  for (const std::size_t border : {1024U, 4096U, 8191U, 8192U, 65536U}) {
     for (const int shift : {-2, -1, 0, 1}) {
       const std::string line(border + static_cast<std::size_t>(shift), 'a');
       EXPECT_EQ(LinesOfFile(line + "\r\nb"), (Lines{line, "b"}));
@@ -100,7 +101,7 @@ TEST(LineAtABufferBorder, KeepsItsEndTogetherInTheStreamsOwnBuffer) {
 
 class LineOfAStreamThatIsNotGood : public ::testing::Test {
  protected:
-  void ExpectTrueAndTheLineKept(std::ifstream& stream) {
+  static void ExpectTrueAndTheLineKept(std::ifstream& stream) {
     std::string line = "before";
     EXPECT_TRUE(GetLine(stream, line));
     EXPECT_EQ(line, "before");

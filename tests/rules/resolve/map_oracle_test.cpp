@@ -59,7 +59,7 @@ TEST(MapOfRandomLines, IsAsTheSlowLoaderHasIt) {
 TEST(MapOfALargeRandomFile, IsAsTheSlowLoaderHasItAcrossThePiecesItIsReadIn) {
   const TempFolder folder;
   RandomText random("\t\t\n\rabcdefghijklmnop");
-  for (const std::size_t size : {65535, 65536, 65537, 131072, 200'000}) {
+  for (const std::size_t size : {65535U, 65536U, 65537U, 131072U, 200'000U}) {
     ExpectAsTheSlowLoader(folder.Write("x", random.Next(size)));
   }
   ExpectAsTheSlowLoader(

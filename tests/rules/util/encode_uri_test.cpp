@@ -3,6 +3,7 @@
 #include <velmohelp/velmohelp.h>
 
 #include <cstring>
+#include <limits>
 
 #include "tests/rules/support/random_text.h"
 #include "tests/support/sentence.h"

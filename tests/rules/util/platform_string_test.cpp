@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <cstdlib>
+#include <memory>
 
 #include "tests/rules/support/random_text.h"
 #include "tests/support/sentence.h"

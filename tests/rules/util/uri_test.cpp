@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cctype>
+
 #include "tests/rules/support/random_text.h"
 #include "tests/support/sentence.h"
 
