@@ -3,9 +3,9 @@
 #include <dlfcn.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <link.h>
 
 #include <algorithm>
+#include <cstddef>
 #include <map>
 #include <string>
 
@@ -18,6 +18,7 @@ namespace {
 using ::testing::ElementsAreArray;
 using testing::Recording;
 
+constexpr char kExported[] = "sAppID";
 constexpr char kTable[] = "velmohelp::sHelpPaths";
 constexpr std::size_t kTableStrings = 200;
 
@@ -61,14 +62,17 @@ class LoadOrder : public ::testing::Test {
 
   template <typename T>
   T* Object(const std::string& name) const {
-    const link_map* map = nullptr;
-    dlinfo(library_, RTLD_DI_LINKMAP, &map);
-    return reinterpret_cast<T*>(map->l_addr + symbols_.at(name));
+    // Whatever is exported tells where the rest lies.
+    const auto distance = static_cast<std::ptrdiff_t>(symbols_.at(name)) -
+                          static_cast<std::ptrdiff_t>(symbols_.at(kExported));
+    auto* exported = static_cast<char*>(dlsym(library_, kExported));
+    return reinterpret_cast<T*>(exported + distance);
   }
 
   /// As a recording has them.
   std::vector<const void*> State() const {
     std::vector<const void*> state;
+    state.reserve(kState.size());
     for (const std::string& name : kState) {
       state.push_back(name == kTable ? nullptr : Object<const void>(name));
     }

@@ -48,6 +48,9 @@ void Free(void* memory) {
 
 }  // namespace
 
+// The name is the C++ runtime's, and reserved for it: taking its place is the
+// point.
+// NOLINTNEXTLINE(bugprone-reserved-identifier)
 extern "C" __attribute__((visibility("default"))) int __cxa_atexit(
     Destructor destroy, void* object, void* library) {
   static const auto real = reinterpret_cast<int (*)(Destructor, void*, void*)>(

@@ -24,6 +24,10 @@ const Steps kUpToChoice = Joined({testing::kConfigurationIsRead,
                                   testing::kNetworkIsProbed,
                                   testing::kPreferenceFileIsLookedFor});
 
+constexpr char kPageInViewer[] =
+    "StartProgram ~/Viewer HELP Foo en_US \"\"file://~/Preferences/"
+    "reader.VELMO.1/Local%20Store/Help/manual/page.html\"\"";
+
 TEST(DisplayOrder, OfALocalPageInTheViewer) {
   ClientWorld world;
   world.Install();
@@ -33,16 +37,13 @@ TEST(DisplayOrder, OfALocalPageInTheViewer) {
   DisplayVelmoHelpClientPage("page");
   EXPECT_THAT(
       world.Questions(),
-      ElementsAreArray(Joined(
-          {kUpToChoice,
-           testing::kViewerIsTried,
-           {"StandardFolder -32763 pref create",
-            testing::InDownloadedManual("//helpmap.txt"),
-            testing::InDownloadedManual("/page.html"),
-            // The launch looks once more before it starts.
-            "FileExists ~/Viewer",
-            "StartProgram ~/Viewer HELP Foo en_US \"\"file://~/Preferences/"
-            "reader.VELMO.1/Local%20Store/Help/manual/page.html\"\""}})));
+      ElementsAreArray(Joined({kUpToChoice,
+                               testing::kViewerIsTried,
+                               {"StandardFolder -32763 pref create",
+                                testing::InDownloadedManual("//helpmap.txt"),
+                                testing::InDownloadedManual("/page.html"),
+                                // The launch looks once more before it starts.
+                                "FileExists ~/Viewer", kPageInViewer}})));
 }
 
 TEST(DisplayOrder, OfAnUnknownPageProbesTheRuntimeTwice) {

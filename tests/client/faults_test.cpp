@@ -41,8 +41,8 @@ struct Request {
 
 class MemoryRunsOut : public ::testing::TestWithParam<Request> {
  protected:
-  /// The question asked at the fault is the world's last but for what a caught
-  /// fault lets follow; `fault` is its number, 0 for a run without one.
+  /// Returns the request's code. fault: the number of the question at which
+  /// memory runs out, 0 for none; asked: all the questions asked.
   static std::uint32_t Run(std::size_t fault, std::vector<std::string>& asked) {
     ExhaustedMachine machine;
     ClientWorld world(machine);
@@ -69,15 +69,13 @@ TEST_P(MemoryRunsOut, AtAnyQuestion) {
   ASSERT_EQ(Run(0, all), GetParam().code);
   ASSERT_FALSE(all.empty());
   for (std::size_t fault = 1; fault <= all.size(); ++fault) {
-    std::vector<std::string> asked;
-    const std::uint32_t code = Run(fault, asked);
     const std::string& question = all[fault - 1];
-    if (IsOnlinePreference(question)) {
-      EXPECT_EQ(code, GetParam().code) << question;
-    } else {
-      EXPECT_EQ(code, GetParam().code_of_fault) << question;
-      EXPECT_EQ(asked.size(), fault) << question;
-    }
+    const bool goes_on = IsOnlinePreference(question);
+    std::vector<std::string> asked;
+    EXPECT_EQ(Run(fault, asked),
+              goes_on ? GetParam().code : GetParam().code_of_fault)
+        << question;
+    EXPECT_EQ(asked.size(), goes_on ? all.size() : fault) << question;
   }
 }
 

@@ -10,7 +10,6 @@ namespace velmohelp {
 namespace {
 
 using testing::ClientWorld;
-using testing::HelpConfig;
 
 constexpr char kDefaultPublisher[] =
     "9C3A51F07B26D48E15A0C7F3B9D2E6418A75C0D2.1";

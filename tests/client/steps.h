@@ -18,10 +18,13 @@ inline Steps Joined(const std::vector<Steps>& parts) {
   return all;
 }
 
-inline const Steps kConfigurationIsRead = {
-    "ResourcesDirectory", "StandardFolder -32763 pref create",
+inline constexpr char kDownloadedConfigIsLookedFor[] =
     "FileExists \"~/Preferences/reader.VELMO.1/Local Store//Foo/Cfg/"
-    "Foo.helpcfg\""};
+    "Foo.helpcfg\"";
+
+inline const Steps kConfigurationIsRead = {"ResourcesDirectory",
+                                           "StandardFolder -32763 pref create",
+                                           kDownloadedConfigIsLookedFor};
 
 inline constexpr char kToolIsLookedFor[] =
     "FileExists ~/Framework//Versions/A/Resources/QTV";
@@ -29,11 +32,13 @@ inline constexpr char kIsViewerInstalled[] =
     "RunToEnd ~/Framework//Versions/A/Resources/QTV -isAppInstalled reader "
     "VELMO.1";
 
+inline constexpr char kWhereIsTheViewer[] =
+    "FirstOutput ~/Framework//Versions/A/Resources/QTV -appLocation reader "
+    "VELMO.1";
+
 inline const Steps kViewerIsLookedUp = {
     "BundleDirectory com.velmo.vxclientframework", kToolIsLookedFor,
-    kIsViewerInstalled,
-    "FirstOutput ~/Framework//Versions/A/Resources/QTV -appLocation reader "
-    "VELMO.1",
+    kIsViewerInstalled, kWhereIsTheViewer,
     "ApplicationExecutable ~/Viewer.app"};
 
 inline const Steps kNetworkIsProbed = {

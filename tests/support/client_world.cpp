@@ -89,7 +89,7 @@ std::string ClientWorld::DownloadedManual() const {
   return ViewerStore() + "Help/" + OwnName("manual");
 }
 
-std::string ClientWorld::InstalledManual() const {
+std::string ClientWorld::InstalledManual() {
   return kInstalledHelpDir + OwnName("manual");
 }
 

@@ -49,7 +49,7 @@ class ClientWorld {
   /// The folder "manual" in the downloaded content of the viewer
   /// reader.VELMO.1, and in the installed content.
   std::string DownloadedManual() const;
-  std::string InstalledManual() const;
+  static std::string InstalledManual();
 
   /// The tool; a viewer that ends at once when it is started, where the tool
   /// finds it; the viewer's runtime.
