@@ -88,9 +88,10 @@ TEST_F(Browser, IsFoundByItsName) {
 
 TEST_F(Browser, MayRunInATerminal) {
   setenv("PATH", (directory().path() + ":/usr/bin:/bin").c_str(), 1);
-  directory().WriteScript("xdg-terminal-exec", "exec \"$@\"");
+  directory().WriteScript("xdg-terminal-exec", "exec \"$@\" terminal");
   Install("browser", "https", "Terminal=true\n");
-  EXPECT_EQ(Opened("browser", "http://localhost/"), "http://localhost/|");
+  EXPECT_EQ(Opened("browser", "http://localhost/"),
+            "http://localhost/|terminal|");
 }
 
 TEST_F(Browser, IsNoneWhereNoneIsInstalled) {

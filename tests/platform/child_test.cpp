@@ -76,6 +76,13 @@ TEST_F(StartedProgram, GetsNoDescriptorBeyondTheStandardStreams) {
   close(secret);
 }
 
+TEST_F(StartedProgram, GetsNoDescriptorByWayOfTheRunner) {
+  std::signal(SIGCHLD, SIG_IGN);
+  const std::string report = Run();
+  std::signal(SIGCHLD, SIG_DFL);
+  EXPECT_THAT(Facts(report, "descriptor"), ElementsAre("0", "1", "2"));
+}
+
 TEST_F(StartedProgram, HasAllItsSignals) {
   sigset_t blocked;
   sigfillset(&blocked);

@@ -1,8 +1,11 @@
 // Running programs: what is answered.
 #include <fcntl.h>
 #include <gtest/gtest.h>
+#include <linux/sched.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
+#include <sys/times.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -104,6 +107,37 @@ TEST_F(Running, LeavesTheHostsChildrenToTheHost) {
   machine().RunToEnd(tool, {});
   machine().FirstOutput(tool, {});
   machine().StartProgram(tool, {});
+  machine().RunToEnd(tool, {});
+  int status = 0;
+  EXPECT_EQ(waitpid(child, &status, 0), child);
+  EXPECT_EQ(WEXITSTATUS(status), 3);
+}
+
+/// A child with a number of the caller's choice; -1 where that is not allowed.
+pid_t ForkAs(pid_t wanted) {
+  clone_args arguments = {};
+  arguments.exit_signal = SIGCHLD;
+  arguments.set_tid = reinterpret_cast<std::uintptr_t>(&wanted);
+  arguments.set_tid_size = 1;
+  return static_cast<pid_t>(syscall(SYS_clone3, &arguments, sizeof arguments));
+}
+
+/// Processes' start times are told in these ticks.
+void AwaitNextTick() {
+  const clock_t now = times(nullptr);
+  while (times(nullptr) < now + 2) {
+  }
+}
+
+TEST_F(Running, LeavesAChildOfTheHostsThatHasAnOldNumberToTheHost) {
+  const std::string tool = directory().WriteScript("tool", "exit 0");
+  machine().FirstOutput(tool, {});
+  const pid_t number = wait(nullptr);  // the host waits for any child
+  AwaitNextTick();
+  const pid_t child = ForkAs(number);
+  if (child == 0) _exit(3);
+  if (child < 0) GTEST_SKIP() << "this system does not let a test choose";
+  testing::AwaitEndOfChildren();
   machine().RunToEnd(tool, {});
   int status = 0;
   EXPECT_EQ(waitpid(child, &status, 0), child);
