@@ -11,7 +11,14 @@ constexpr std::string_view kFieldEnds = "\t\r\n";
 
 bool EndsLine(char c) { return c == '\n' || c == '\r'; }
 
-bool EndsField(char c) { return c == '\t' || EndsLine(c); }
+/// One look where three comparisons would be made for every byte of a map.
+constexpr std::array<bool, 256> kEndsField = [] {
+  std::array<bool, 256> table{};
+  for (const char c : kFieldEnds) table[static_cast<unsigned char>(c)] = true;
+  return table;
+}();
+
+bool EndsField(char c) { return kEndsField[static_cast<unsigned char>(c)]; }
 
 /// Whether nothing but TABs stands between position and its line's start.
 bool BeginsLine(std::string_view text, std::size_t position) {

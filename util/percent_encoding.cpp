@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
+#include <cstring>
 #include <limits>
 
 #include "util/ascii.h"
@@ -16,13 +17,32 @@ namespace {
 constexpr char kLowerHexDigits[] = "0123456789abcdef";
 constexpr char kUpperHexDigits[] = "0123456789ABCDEF";
 
-/// One entry for each byte: 1 where it is escaped, 0 where it stays.
-using EscapeTable = std::array<std::uint8_t, 256>;
+constexpr void WriteEscape(char* to, char byte, const char* digits) {
+  const auto value = static_cast<unsigned char>(byte);
+  to[0] = '%';
+  to[1] = digits[value >> 4];
+  to[2] = digits[value & 15];
+}
 
-constexpr EscapeTable EscapeAllBut(bool (*stays)(char)) {
+/// What is written for a byte: one byte or three. The fourth is never part of
+/// a result; four are copied at once.
+struct Written {
+  char bytes[4] = {};
+  std::uint8_t length = 1;
+};
+
+using EscapeTable = std::array<Written, 256>;
+
+constexpr EscapeTable EscapeAllBut(bool (*stays)(char), const char* digits) {
   EscapeTable table{};
-  for (std::size_t byte = 0; byte < table.size(); ++byte) {
-    table[byte] = stays(static_cast<char>(byte)) ? 0 : 1;
+  for (std::size_t i = 0; i < table.size(); ++i) {
+    const char byte = static_cast<char>(i);
+    if (stays(byte)) {
+      table[i].bytes[0] = byte;
+    } else {
+      WriteEscape(table[i].bytes, byte, digits);
+      table[i].length = 3;
+    }
   }
   return table;
 }
@@ -34,39 +54,37 @@ constexpr bool StaysInSearchTerm(char byte) {
          kMarks.find(byte) != std::string_view::npos;
 }
 
-constexpr EscapeTable kSearchTermTable = EscapeAllBut(StaysInSearchTerm);
-constexpr EscapeTable kUriTable = EscapeAllBut(velmohelp::IsUriCharacter);
+constexpr EscapeTable kSearchTermTable =
+    EscapeAllBut(StaysInSearchTerm, kLowerHexDigits);
+constexpr EscapeTable kUriTable =
+    EscapeAllBut(velmohelp::IsUriCharacter, kUpperHexDigits);
 
-std::size_t CountEscapes(std::string_view text, const EscapeTable& table) {
-  std::size_t count = 0;
-  for (const char byte : text) count += table[static_cast<unsigned char>(byte)];
-  return count;
+const Written& WrittenFor(char byte, const EscapeTable& table) {
+  return table[static_cast<unsigned char>(byte)];
 }
 
-void WriteEscape(char* to, char byte, const char* digits) {
-  const auto value = static_cast<unsigned char>(byte);
-  to[0] = '%';
-  to[1] = digits[value >> 4];
-  to[2] = digits[value & 15];
+std::size_t EscapedSize(std::string_view text, const EscapeTable& table) {
+  std::size_t size = 0;
+  for (const char byte : text) size += WrittenFor(byte, table).length;
+  return size;
 }
 
 /// The result's size is known before its first byte is written: memory that
-/// grows is touched more than once, and that is most of the cost.
-std::string Escaped(std::string_view text, const EscapeTable& table,
-                    const char* digits) {
-  constexpr std::size_t kEscapeLength = 3;
-  const std::size_t escapes = CountEscapes(text, table);
-  if (escapes == 0) return std::string(text);
-  std::string out(text.size() + (kEscapeLength - 1) * escapes, '\0');
+/// grows is touched more than once, and that is most of the cost. Each byte is
+/// written without asking what it is: in running text nobody can guess which
+/// one is escaped, a processor neither.
+std::string Escaped(std::string_view text, const EscapeTable& table) {
+  constexpr std::size_t kCopiedAtOnce = sizeof Written::bytes;
+  const std::size_t size = EscapedSize(text, table);
+  if (size == text.size()) return std::string(text);
+  std::string out(size + kCopiedAtOnce, '\0');
   char* to = out.data();
   for (const char byte : text) {
-    if (table[static_cast<unsigned char>(byte)] == 0) {
-      *to++ = byte;
-    } else {
-      WriteEscape(to, byte, digits);
-      to += kEscapeLength;
-    }
+    const Written& written = WrittenFor(byte, table);
+    std::memcpy(to, written.bytes, kCopiedAtOnce);
+    to += written.length;
   }
+  out.resize(size);
   return out;
 }
 
@@ -80,8 +98,8 @@ std::string velmohelp::EscapeForUri(std::string_view text) {
     const std::size_t length =
         IsPercentEscape(text) ? 3 : std::min(text.find('%', 1), text.size());
     const std::string_view piece = text.substr(0, length);
-    out += IsPercentEscape(text) ? std::string(piece)
-                                 : Escaped(piece, kUriTable, kUpperHexDigits);
+    out +=
+        IsPercentEscape(text) ? std::string(piece) : Escaped(piece, kUriTable);
     text.remove_prefix(length);
   }
   return out;
@@ -96,7 +114,7 @@ std::string char2hex(char byte) {
 std::string urlencode(const std::string& text) {
   // Lengths are signed 32-bit counts: 2 GiB and more count as less than none.
   if (text.size() > std::numeric_limits<std::int32_t>::max()) return "";
-  return Escaped(text, kSearchTermTable, kLowerHexDigits);
+  return Escaped(text, kSearchTermTable);
 }
 
 std::string ITEMInternal::VelmoHelpEncodeURIComponent(const std::string& text) {
