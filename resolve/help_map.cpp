@@ -3,9 +3,9 @@
 #include <velmohelp/resolve.h>
 #include <velmohelp/text.h>
 
-#include <algorithm>
 #include <vector>
 
+#include "resolve/help_map_order.h"
 #include "resolve/help_map_text.h"
 
 namespace velmohelp {
@@ -19,13 +19,11 @@ bool FitsAtEnd(const HelpMap& map, std::string_view key) {
 /// A map that is built in the order of its keys touches each node once;
 /// searching a large map for the place of each entry costs more than sorting.
 void InsertSorted(std::vector<HelpMapEntry> entries, HelpMap& map) {
-  std::ranges::stable_sort(entries, {}, &HelpMapEntry::key);
+  SortByKey(entries);
+  auto at = map.begin();
   for (const auto& [key, value] : entries) {
-    if (FitsAtEnd(map, key)) {
-      map.emplace_hint(map.end(), key, value);
-    } else {
-      map.emplace(key, value);
-    }
+    while (at != map.end() && at->first < key) ++at;
+    at = map.emplace_hint(at, key, value);
   }
 }
 
