@@ -7,10 +7,10 @@
 
 #include <csignal>
 #include <cstdlib>
-#include <sstream>
 
 #include "platform/linux/linux_machine.h"
 #include "tests/platform/support/children.h"
+#include "tests/platform/support/start_facts.h"
 #include "tests/platform/support/temporary_directory.h"
 #include "tests/support/sentence.h"
 
@@ -19,21 +19,10 @@ namespace {
 
 using ::testing::Contains;
 using ::testing::ElementsAre;
+using testing::Facts;
 using testing::FileText;
 using ::testing::IsEmpty;
 using ::testing::Not;
-
-/// What the probe told, without the word in front of each fact.
-std::vector<std::string> Facts(const std::string& report,
-                               const std::string& word) {
-  std::vector<std::string> facts;
-  std::istringstream lines(report);
-  for (std::string line; std::getline(lines, line);) {
-    if (!line.starts_with(word + " ")) continue;
-    facts.push_back(line.substr(word.size() + 1));
-  }
-  return facts;
-}
 
 class StartedProgram : public ::testing::Test {
  protected:
@@ -96,8 +85,8 @@ TEST_F(StartedProgram, HasAllItsSignals) {
 }
 
 TEST_F(StartedProgram, HasASessionOfItsOwnOnlyWhenItIsLeftRunning) {
-  EXPECT_THAT(Start(), ::testing::HasSubstr("own session\n"));
-  EXPECT_THAT(Run(), ::testing::HasSubstr("host's session\n"));
+  EXPECT_THAT(Start(), ::testing::HasSubstr("own session"));
+  EXPECT_THAT(Run(), ::testing::HasSubstr("host's session"));
 }
 
 TEST_F(StartedProgram, HasStandardStreamsWhereItsHostHasNone) {
