@@ -1,0 +1,107 @@
+// A machine's files for one test: a host with its resources, the tool, a viewer
+// and a browser, a user's settings, and a help server on loopback.
+#ifndef TESTS_SYSTEM_HELP_WORLD_H_
+#define TESTS_SYSTEM_HELP_WORLD_H_
+
+#include <map>
+#include <memory>
+#include <string>
+
+#include "tests/platform/support/http_server.h"
+#include "tests/platform/support/temporary_directory.h"
+#include "tests/support/help_config.h"
+#include "tests/system/host_process.h"
+
+namespace velmohelp::testing {
+
+/// At first: product Foo in en_US with one content folder and no content, a
+/// viewer and a browser, both installed, and a user who wants no online help.
+///
+/// Texts handed in may name places:
+///   {bin}         the host's folder
+///   {config}      Foo's installed configuration
+///   {downloaded}  the content folder where the viewer downloads it
+///   {installed}   the content folder where the machine has it
+///   {store}       the viewer's own folder
+///   {settings}    the user's Preferences folder
+///   {folder}      the content folder's name
+///   {viewer}      the viewer's executable
+///   {browser}     the browser's executable
+///   {server}      the help server's URL, without a final "/"
+///   {url:NAME}    one of the other places as a file URL has it
+class HelpWorld {
+ public:
+  HelpWorld();
+  HelpWorld(const HelpWorld&) = delete;
+  HelpWorld& operator=(const HelpWorld&) = delete;
+  /// Ends whatever was started in it.
+  ~HelpWorld();
+
+  std::string Expanded(std::string text) const;
+  Words Expanded(Words texts) const;
+
+  /// Writes a file, and the folders above it.
+  void Write(const std::string& name, const std::string& text);
+  void Remove(const std::string& name);
+  /// Writes an executable.
+  void WriteProgram(const std::string& name, const std::string& text);
+
+  /// Foo's configuration; Configure writes it to its place.
+  HelpConfig& config() { return config_; }
+  void Configure();
+
+  /// Names the viewer whose folders {store} and {downloaded} are.
+  void NameViewer(const std::string& app_id, const std::string& publisher_id);
+
+  /// What the tool does, in shell script, by its first argument $1.
+  void WriteTool(const std::string& lines);
+  /// What the tool answers.
+  void AnswerTool(bool runtime, bool viewer);
+
+  void SetUserPreference(const std::string& value);
+  void InstallBrowser(const std::string& exec_line);
+
+  /// Bytes that the server answers for a path; 404 for all others.
+  void Serve(const std::string& path, const std::string& response);
+
+  /// Uses a copy of the library; returns the folder of its helpers.
+  std::string CopyLibrary();
+
+  /// How the host is started. May be changed before the first Host().
+  HostStart& start() { return start_; }
+
+  /// The host; started at the first call.
+  HostProcess& Host();
+
+  /// Host().Ask, with Expanded texts.
+  std::string Ask(const Words& request);
+
+  /// Initialises the client for Foo, and says whether that went well.
+  bool Initialise();
+
+  /// What the viewer or the browser that the host started last had to report:
+  /// see StartFacts; "" when neither runs.
+  std::string Report();
+  /// That program's argument vector, and its end.
+  Words Started();
+
+  /// Ends the host. The test fails when it did not end well or said something.
+  void EndHost();
+
+ private:
+  std::string At(const std::string& name) const { return directory_ / name; }
+  std::string Response(const std::string& path) const;
+  bool IsRunningFromHere();
+
+  TemporaryDirectory directory_;
+  HelpConfig config_;
+  std::map<std::string, std::string> places_;
+  std::map<std::string, std::string> responses_;
+  HttpServer server_;
+  HostStart start_;
+  std::unique_ptr<HostProcess> host_;
+};
+
+}  // namespace velmohelp::testing
+
+#endif  // TESTS_SYSTEM_HELP_WORLD_H_

@@ -1,0 +1,173 @@
+// A host program: loads the client from the file that its argument names, as
+// applications load a plug-in, and makes the requests that its test sends.
+#include <dlfcn.h>
+#include <fcntl.h>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+#include <velmohelp/velmohelp.h>
+
+#include <clocale>
+#include <functional>
+#include <map>
+
+#include "tests/system/words.h"
+
+namespace velmohelp::testing {
+namespace {
+
+class Client {
+ public:
+  explicit Client(const char* file) : file_(file) { Load(); }
+  Client(const Client&) = delete;
+  Client& operator=(const Client&) = delete;
+  ~Client() { Unload(); }
+
+  bool Load() {
+    library_ = dlopen(file_, RTLD_NOW | RTLD_LOCAL);
+    return library_ != nullptr;
+  }
+  void Unload() {
+    if (library_ != nullptr) dlclose(library_);
+    library_ = nullptr;
+  }
+
+  /// The function of a type that is exported under a name.
+  template <typename Function>
+  Function* Find(const char* name) const {
+    return reinterpret_cast<Function*>(dlsym(library_, name));
+  }
+
+ private:
+  const char* file_;
+  void* library_ = nullptr;
+};
+
+#define VELMO_FIND(client, name) (client).Find<decltype(name)>(#name)
+
+std::string Initialise(Client& client, const Words& words) {
+  return std::to_string(VELMO_FIND(client, InitializeVelmoHelpClient)(
+      words.at(1).c_str(), words.at(2).c_str(), 0));
+}
+
+std::string Display(Client& client, const Words& words) {
+  return std::to_string(
+      VELMO_FIND(client, DisplayVelmoHelpClientPage)(words.at(1).c_str()));
+}
+
+std::string Open(Client& client, const Words& words) {
+  return std::to_string(VELMO_FIND(client, OpenURL)(words.at(1).c_str()));
+}
+
+std::string SearchFor(Client& client, const Words& words) {
+  return std::to_string(VELMO_FIND(client, SearchHelp)(
+      words.at(1).c_str(), words.at(2).c_str(), words.at(3).c_str()));
+}
+
+std::string SearchByName(Client& client, const Words& words) {
+  return std::to_string(
+      VELMO_FIND(client, Search)(words.at(1).c_str(), words.at(2).c_str(),
+                                 words.at(3).c_str(), words.at(4).c_str()));
+}
+
+std::string Status(Client& client, const Words&) {
+  return std::to_string(VELMO_FIND(client, GetVelmoHelpClientOnlineStatus)());
+}
+
+std::string Version(Client& client, const Words&) {
+  return std::to_string(VELMO_FIND(client, GetVelmoHelpClientVersion)());
+}
+
+/// Unloads the library and loads it again, that many times.
+std::string Reload(Client& client, const Words& words) {
+  bool loaded = true;
+  for (int i = std::stoi(words.at(1)); i > 0 && loaded; --i) {
+    client.Unload();
+    loaded = client.Load();
+  }
+  return loaded ? "loaded" : "not loaded";
+}
+
+std::string Unload(Client& client, const Words&) {
+  client.Unload();
+  return "unloaded";
+}
+
+std::string Load(Client& client, const Words&) {
+  return client.Load() ? "loaded" : "not loaded";
+}
+
+/// What the library may not change and nobody else can see.
+std::string Self(Client&, const Words&) {
+  std::string facts = std::setlocale(LC_ALL, nullptr);
+  for (char** entry = environ; *entry != nullptr; ++entry) {
+    facts += std::string("\n") + *entry;
+  }
+  return facts;
+}
+
+/// Opens files until there is room for that many more alone.
+std::string FillDescriptors(Client&, const Words& words) {
+  const rlimit limit = {64, 64};
+  setrlimit(RLIMIT_NOFILE, &limit);
+  int last = 0;
+  for (int next = 0; next != -1; next = open("/dev/null", O_RDONLY)) {
+    last = next;
+  }
+  for (int left = std::stoi(words.at(1)); left > 0; --left) close(last--);
+  return "filled";
+}
+
+pid_t own_child = -1;
+
+/// Starts a child of the host's own, which ends at once.
+std::string StartChild(Client&, const Words&) {
+  own_child = fork();
+  if (own_child == 0) _exit(7);
+  siginfo_t info = {};
+  waitid(P_PID, static_cast<id_t>(own_child), &info, WEXITED | WNOWAIT);
+  return "started";
+}
+
+/// That child's exit status, when nobody has taken it.
+std::string TakeChild(Client&, const Words&) {
+  int status = 0;
+  if (waitpid(own_child, &status, 0) != own_child) return "taken";
+  return std::to_string(WEXITSTATUS(status));
+}
+
+using Request = std::function<std::string(Client&, const Words&)>;
+
+const std::map<std::string, Request>& Requests() {
+  static const std::map<std::string, Request> requests = {
+      {"initialise", Initialise},
+      {"display", Display},
+      {"open", Open},
+      {"search", SearchFor},
+      {"search by name", SearchByName},
+      {"status", Status},
+      {"version", Version},
+      {"reload", Reload},
+      {"load", Load},
+      {"unload", Unload},
+      {"self", Self},
+      {"fill descriptors", FillDescriptors},
+      {"start child", StartChild},
+      {"take child", TakeChild}};
+  return requests;
+}
+
+void Serve(Client& client) {
+  while (const auto words = ReceiveWords(kTestDescriptor)) {
+    const std::string answer = Requests().at(words->at(0))(client, *words);
+    if (!SendWords(kTestDescriptor, {answer})) return;
+  }
+}
+
+}  // namespace
+}  // namespace velmohelp::testing
+
+int main(int, char* argv[]) {
+  velmohelp::testing::Client client(argv[1]);
+  velmohelp::testing::Serve(client);
+}
