@@ -169,7 +169,7 @@ int Main(const Options& options) {
   }
   PrintHead();
   Run(options, kInCache, options.quick ? 5 : 21, json);
-  if (!options.quick) Run(options, kInMemory, 7, json);
+  if (!options.quick) Run(options, kInMemory, 11, json);
   return json == nullptr || std::fclose(json) == 0 ? 0 : 1;
 }
 

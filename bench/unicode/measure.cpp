@@ -5,6 +5,8 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <numeric>
+#include <random>
 
 namespace velmohelp::bench {
 namespace {
@@ -58,10 +60,12 @@ Medians Measure(const Task& task, int rounds) {
         1 + static_cast<int>(kShortestReading / Nanoseconds(candidate.run, 3)));
   }
   std::vector<std::vector<double>> readings(all.size());
-  for (std::size_t round = 0; round < static_cast<std::size_t>(rounds);
-       ++round) {
-    for (std::size_t turn = 0; turn < all.size(); ++turn) {
-      const std::size_t i = (round + turn) % all.size();
+  std::vector<std::size_t> order(all.size());
+  std::iota(order.begin(), order.end(), 0);
+  std::mt19937 random(9);  // NOLINT: the same orders every time
+  for (int round = 0; round < rounds; ++round) {
+    std::shuffle(order.begin(), order.end(), random);
+    for (const std::size_t i : order) {
       readings[i].push_back(Nanoseconds(all[i].run, times[i]));
     }
   }

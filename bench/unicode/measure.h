@@ -16,9 +16,10 @@ struct Medians {
   double floor = 0;
 };
 
-/// Runs all candidates in every round, each round with another one first, so
-/// that no one always finds the cache that its neighbour left. Ends the program
-/// when a candidate fails or they disagree on the size of the output.
+/// Runs all candidates in every round, each round in another order, so that no
+/// one always pays for what its neighbour left in the cache (memset leaves the
+/// whole output to be written back). Ends the program when a candidate fails or
+/// they disagree on the size of the output.
 Medians Measure(const Task& task, int rounds);
 
 }  // namespace velmohelp::bench
