@@ -147,6 +147,7 @@ void HelpWorld::Serve(const std::string& path, const std::string& response) {
 }
 
 std::string HelpWorld::Response(const std::string& path) const {
+  on_request_();
   const auto response = responses_.find(path);
   if (response != responses_.end()) return response->second;
   return testing::Response("404 Not Found", "", "");

@@ -64,6 +64,10 @@ class HelpWorld {
   /// Bytes that the server answers for a path; 404 for all others.
   void Serve(const std::string& path, const std::string& response);
 
+  /// Called, on the server's thread, for every request that it gets. To be set
+  /// before the first of them.
+  void OnRequest(std::function<void()> action) { on_request_ = action; }
+
   /// Uses a copy of the library; returns the folder of its helpers.
   std::string CopyLibrary();
 
@@ -97,6 +101,7 @@ class HelpWorld {
   HelpConfig config_;
   std::map<std::string, std::string> places_;
   std::map<std::string, std::string> responses_;
+  std::function<void()> on_request_ = [] {};
   HttpServer server_;
   HostStart start_;
   std::unique_ptr<HostProcess> host_;
