@@ -59,6 +59,8 @@ std::optional<int> Programs::RunToEnd(const std::string& program,
 
 std::optional<int> Programs::RunByRunner(const std::string& program,
                                          const Arguments& arguments) {
+  // The runner would see another, shorter path.
+  if (program.find('\0') != std::string::npos) return std::nullopt;
   auto pipe = MakePipe();
   if (!pipe) return std::nullopt;
   Arguments words = {program};

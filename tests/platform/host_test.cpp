@@ -71,6 +71,7 @@ TEST_P(AHost, LearnsAToolsExitStatus) {
 
 TEST_P(AHost, LearnsThatAToolDidNotEndWell) {
   EXPECT_FALSE(machine().RunToEnd("/nonexistent", {}));
+  EXPECT_FALSE(machine().RunToEnd(Tool("exit 0") + '\0' + "x", {}));
   EXPECT_FALSE(machine().RunToEnd(Tool("kill -KILL $$"), {}));
 }
 
