@@ -74,7 +74,6 @@ INSTANTIATE_TEST_SUITE_P(OfAFile, Line, ::testing::ValuesIn(kRows),
 
 TEST(LineAtABufferBorder, KeepsItsEndTogether) {
   const TempFolder folder;
-  std::string block;
   for (const std::string end : {"\n", "\r", "\r\n"}) {
     for (std::size_t length = 0; length < 10; ++length) {
       const std::string bytes = std::string(length, 'a') + end + "b" + end;

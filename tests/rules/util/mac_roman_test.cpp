@@ -14,7 +14,7 @@ namespace {
 /// The C library's view of one byte. It keeps an older edition of the set, in
 /// which two characters are told by other code points.
 std::string FromCLibrary(char byte) {
-  static const iconv_t converter = iconv_open("UTF-8", "MACINTOSH");
+  static auto* const converter = iconv_open("UTF-8", "MACINTOSH");
   char out[8] = {};
   char* from = &byte;
   char* to = out;
