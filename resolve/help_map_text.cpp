@@ -26,6 +26,20 @@ bool BeginsLine(std::string_view text, std::size_t position) {
   return before == std::string_view::npos || EndsLine(text[before]);
 }
 
+/// Beyond this length a key is looked for line by line: a search may compare
+/// most of a key at every byte of the text, a walk compares it once a line.
+constexpr std::size_t kLongestSearched = 256;
+
+std::optional<std::string_view> WalkToEntry(std::string_view text,
+                                            std::string_view key) {
+  HelpMapReader reader(text);
+  HelpMapEntry entry;
+  while (reader.Next(entry)) {
+    if (entry.key == key) return entry.value;
+  }
+  return std::nullopt;
+}
+
 }  // namespace
 
 bool HelpMapReader::Next(HelpMapEntry& entry) {
@@ -59,6 +73,7 @@ std::optional<std::string_view> FindEntry(std::string_view text,
                                           std::string_view key) {
   constexpr std::size_t kNone = std::string_view::npos;
   if (key.empty() || key.find_first_of(kFieldEnds) != kNone) return {};
+  if (key.size() > kLongestSearched) return WalkToEntry(text, key);
   for (std::size_t at = text.find(key); at != kNone;
        at = text.find(key, at + 1)) {
     HelpMapEntry entry;

@@ -56,5 +56,12 @@ TEST(EntryOfMegabytes, IsFoundBehindNearMisses) {
   }
 }
 
+TEST(EntryOfMegabytes, IsFoundForAKeyOfAMegabyte) {
+  const std::string key(1'000'000, 'a');
+  const std::string misses = key + "a\tx\n" + key + "\n\tb" + key + "\tx\r";
+  EXPECT_EQ(ByText(misses + "\t" + key + "\tv\n", key), "v");
+  EXPECT_EQ(ByText(misses + std::string(8'000'000, 'a'), key), std::nullopt);
+}
+
 }  // namespace
 }  // namespace velmohelp::testing
