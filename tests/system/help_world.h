@@ -5,6 +5,7 @@
 
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "tests/platform/support/http_server.h"
@@ -68,8 +69,8 @@ class HelpWorld {
   /// before the first of them.
   void OnRequest(std::function<void()> action) { on_request_ = action; }
 
-  /// Uses a copy of the library; returns the folder of its helpers.
-  std::string CopyLibrary();
+  /// Uses a copy of a library, with helpers of its own; returns their folder.
+  std::string CopyLibrary(const std::string& library = VELMO_TEST_LIBRARY);
 
   /// How the host is started. May be changed before the first Host().
   HostStart& start() { return start_; }
@@ -86,7 +87,7 @@ class HelpWorld {
   /// What the viewer or the browser that the host started last had to report:
   /// see StartFacts; "" when neither runs.
   std::string Report();
-  /// That program's argument vector, and its end.
+  /// The argument vector in that report.
   Words Started();
 
   /// Ends the host. The test fails when it did not end well or said something.
@@ -95,7 +96,7 @@ class HelpWorld {
  private:
   std::string At(const std::string& name) const { return directory_ / name; }
   std::string Response(const std::string& path) const;
-  bool IsRunningFromHere();
+  std::optional<pid_t> ProgramOfHere();
 
   TemporaryDirectory directory_;
   HelpConfig config_;

@@ -1,7 +1,9 @@
 #include "tests/system/host_process.h"
 
 #include <fcntl.h>
+#include <poll.h>
 #include <sys/prctl.h>
+#include <sys/syscall.h>
 #include <sys/wait.h>
 
 #include <csignal>
@@ -107,6 +109,14 @@ std::vector<pid_t> ChildrenOf(pid_t process) {
   const std::string id = std::to_string(process);
   std::ifstream list(InProc(process, "task/" + id + "/children"));
   return {std::istream_iterator<pid_t>(list), {}};
+}
+
+void AwaitEnd(pid_t process) {
+  pollfd end = {static_cast<int>(syscall(SYS_pidfd_open, process, 0)), POLLIN,
+                0};
+  if (end.fd == -1) return;
+  poll(&end, 1, -1);
+  close(end.fd);
 }
 
 std::string ProgramOf(pid_t process) {

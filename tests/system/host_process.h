@@ -59,6 +59,9 @@ class HostProcess {
 /// The children of a process.
 std::vector<pid_t> ChildrenOf(pid_t process);
 
+/// Waits until a process has ended, whoever its parent is.
+void AwaitEnd(pid_t process);
+
 /// The program that a process runs; "" when it has ended. (Its argument vector
 /// is not there yet when posix_spawn returns to its parent.)
 std::string ProgramOf(pid_t process);

@@ -1,0 +1,270 @@
+// Hosts of every kind, and what is left in them.
+#include <fcntl.h>
+#include <gmock/gmock.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <csignal>
+
+#include "tests/platform/support/start_facts.h"
+#include "tests/system/routes.h"
+
+namespace velmohelp::testing {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+struct Kind {
+  const char* sentence;
+  std::function<bool()> preparation;
+};
+
+void PrintTo(const Kind& row, std::ostream* out) { *out << row.sentence; }
+
+bool BlockAllSignals() {
+  sigset_t all;
+  sigfillset(&all);
+  return sigprocmask(SIG_BLOCK, &all, nullptr) == 0;
+}
+
+bool OpenThousands() {
+  for (int i = 0; i < 5000; ++i) {
+    if (open("/dev/null", O_RDONLY) == -1) return false;
+  }
+  return true;
+}
+
+bool LoseWorkingDirectory() {
+  std::string folder = "/tmp/velmo-gone-XXXXXX";
+  return mkdtemp(folder.data()) != nullptr && chdir(folder.c_str()) == 0 &&
+         rmdir(folder.c_str()) == 0;
+}
+
+class AHost : public ::testing::TestWithParam<Kind> {
+ protected:
+  void SetUp() override {
+    world_.start().preparation = GetParam().preparation;
+    world_.Write("{installed}/intro.html", "<p>");
+  }
+
+  HelpWorld world_;
+};
+
+TEST_P(AHost, ShowsHelpInTheViewer) {
+  ASSERT_TRUE(world_.Initialise());
+  for (int i = 0; i < 3; ++i) {
+    EXPECT_EQ(world_.Ask(Display("intro")), "0");
+    EXPECT_EQ(world_.Started(), world_.Expanded(Viewer(
+                                    "HELP", "\"{url:installed}/intro.html\"")));
+  }
+}
+
+TEST_P(AHost, ShowsHelpInTheBrowser) {
+  world_.Remove("{viewer}");
+  ASSERT_TRUE(world_.Initialise());
+  EXPECT_EQ(world_.Ask(Display("intro")), "0");
+  EXPECT_EQ(world_.Started(),
+            world_.Expanded(Browser("{url:installed}/intro.html")));
+}
+
+TEST_P(AHost, LearnsThatTheServerCanBeReached) {
+  world_.SetUserPreference("1");
+  ASSERT_TRUE(world_.Initialise());
+  EXPECT_EQ(world_.Ask({"status"}), "0");
+}
+
+/// The person's viewer ends at logout, hears of its own children, holds no
+/// lock file of the host's, and prints into none of its files.
+TEST_P(AHost, PassesNothingOfItsOwnOn) {
+  ASSERT_TRUE(world_.Initialise());
+  EXPECT_EQ(world_.Ask(Display("intro")), "0");
+  const std::string report = world_.Report();
+  EXPECT_THAT(Facts(report, "descriptor"), ElementsAre("0", "1", "2"));
+  EXPECT_THAT(Facts(report, "blocked"), IsEmpty());
+  EXPECT_THAT(Facts(report, "ignored"), IsEmpty());
+  EXPECT_THAT(report, ::testing::HasSubstr("own session"));
+  EXPECT_EQ(Facts(report, "environment"), world_.start().environment);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Kinds, AHost,
+    ::testing::Values(
+        Kind{"like any other", [] { return true; }},
+        Kind{"that ignores its children",
+             [] { return std::signal(SIGCHLD, SIG_IGN) != SIG_ERR; }},
+        Kind{"that ignores broken pipes",
+             [] { return std::signal(SIGPIPE, SIG_IGN) != SIG_ERR; }},
+        Kind{"that blocks all signals", BlockAllSignals},
+        Kind{"without standard streams",
+             [] { return close(0) + close(1) + close(2) == 0; }},
+        Kind{"with thousands of descriptors", OpenThousands},
+        Kind{"whose working directory is gone", LoseWorkingDirectory}),
+    SentenceOf());
+
+/// Nothing can be read, and nothing breaks.
+TEST(AHostWithAFullDescriptorTable, IsAnswered) {
+  HelpWorld world;
+  ASSERT_TRUE(world.Initialise());
+  ASSERT_EQ(world.Ask({"fill descriptors", "0"}), "filled");
+  EXPECT_EQ(world.Ask({"status"}), "1");
+  EXPECT_EQ(world.Ask(Display("intro")), "4");
+  EXPECT_EQ(world.Ask(Display("intro")), "6");
+  EXPECT_EQ(world.Ask({"initialise", "Foo", "en_US"}), "6");
+}
+
+/// Files can be read, and no program's answer.
+TEST(AHostWithOneDescriptorLeft, IsAnswered) {
+  HelpWorld world;
+  Apply({NoBrowser(), File("{installed}/intro.html")}, world);
+  ASSERT_TRUE(world.Initialise());
+  ASSERT_EQ(world.Ask({"fill descriptors", "1"}), "filled");
+  EXPECT_EQ(world.Ask(Display("intro")), "2");
+  EXPECT_EQ(world.Ask({"initialise", "Foo", "en_US"}), "0");
+}
+
+TEST(AHostWithAChild, KeepsItsExitStatus) {
+  HelpWorld world;
+  ASSERT_TRUE(world.Initialise());
+  ASSERT_EQ(world.Ask({"start child"}), "started");
+  for (int i = 0; i < 3; ++i) {
+    EXPECT_EQ(world.Ask(Display("intro")), "0");
+    EXPECT_NE(world.Started(), Nothing());
+  }
+  EXPECT_EQ(world.Ask({"take child"}), "7");
+}
+
+std::string InProc(HelpWorld& world, const char* name) {
+  return "/proc/" + std::to_string(world.Host().pid()) + "/" + name;
+}
+
+/// What a host can see of itself, without its memory.
+Words Facts(HelpWorld& world) {
+  const HostProcess& host = world.Host();
+  Words facts = {
+      world.Ask({"self"}), std::filesystem::read_symlink(InProc(world, "cwd")),
+      std::to_string(host.CountIn("task")), std::to_string(host.CountIn("fd"))};
+  for (const char* line : {"SigBlk", "SigIgn", "SigCgt", "Umask"}) {
+    facts.push_back(host.StatusLine(line));
+  }
+  return facts;
+}
+
+class Loading : public ::testing::Test {
+ protected:
+  bool IsMapped() {
+    return FileText(InProc(world_, "maps")).find("libvelmohelp") !=
+           std::string::npos;
+  }
+
+  HelpWorld world_;
+};
+
+TEST_F(Loading, LeavesTheHostAsItWas) {
+  world_.Ask({"unload"});
+  EXPECT_FALSE(IsMapped());
+  const Words before = Facts(world_);
+  EXPECT_EQ(world_.Ask({"load"}), "loaded");
+  EXPECT_TRUE(IsMapped());
+  EXPECT_EQ(Facts(world_), before);
+  EXPECT_EQ(world_.Ask({"unload"}), "unloaded");
+  EXPECT_FALSE(IsMapped());
+  EXPECT_EQ(Facts(world_), before);
+}
+
+TEST_F(Loading, LeavesTheHostAsItWasAfterRequests) {
+  world_.Write("{installed}/search.html", "<p>");
+  const Words before = Facts(world_);
+  ASSERT_TRUE(world_.Initialise());
+  for (const Words& request :
+       {Display("intro"), Open("http://localhost/"), Search("x")}) {
+    EXPECT_EQ(world_.Ask(request), "0");
+    EXPECT_NE(world_.Started(), Nothing());
+    EXPECT_EQ(Facts(world_), before);
+  }
+  world_.SetUserPreference("1");
+  EXPECT_EQ(world_.Ask({"status"}), "0");
+  EXPECT_EQ(Facts(world_), before);
+  world_.Ask({"unload"});
+  EXPECT_FALSE(IsMapped());
+}
+
+/// What was known of one load is not known of the next.
+TEST_F(Loading, BeginsAnew) {
+  ASSERT_TRUE(world_.Initialise());
+  EXPECT_EQ(world_.Ask({"reload", "1"}), "loaded");
+  EXPECT_EQ(world_.Ask({"status"}), "2");
+  EXPECT_TRUE(world_.Initialise());
+}
+
+/// The dynamic loader keeps some memory of its own at first.
+TEST_F(Loading, LeaksNothingInAThousandLoads) {
+  EXPECT_EQ(world_.Ask({"reload", "200"}), "loaded");
+  const Words before = Facts(world_);
+  const std::string memory = world_.Host().StatusLine("VmData");
+  EXPECT_EQ(world_.Ask({"reload", "1000"}), "loaded");
+  EXPECT_EQ(Facts(world_), before);
+  if (!VELMO_TEST_SANITIZED) {
+    EXPECT_EQ(world_.Host().StatusLine("VmData"), memory);
+  }
+  EXPECT_TRUE(world_.Initialise());
+}
+
+/// Requests of every kind, each of which starts something.
+void MakeRequests(HelpWorld& world, int count) {
+  const std::vector<Words> requests = {
+      Display("intro"), Open("http://localhost/"), Search("x"), {"status"}};
+  for (int i = 0; i < count; ++i) {
+    const Words& request = requests[static_cast<std::size_t>(i) % 4];
+    EXPECT_EQ(world.Ask(request), "0");
+    EXPECT_EQ(world.Report().empty(), request.front() == "status");
+  }
+}
+
+int Kilobytes(HelpWorld& world, const char* line) {
+  return std::stoi(world.Host().StatusLine(line));
+}
+
+TEST(AThousandRequests, LeaveNothingInTheHost) {
+  HelpWorld world;
+  Apply({Online(), Served("intro.html")}, world);
+  ASSERT_TRUE(world.Initialise());
+  MakeRequests(world, 200);
+  const Words before = Facts(world);
+  const int data = Kilobytes(world, "VmData");
+  const int resident = Kilobytes(world, "VmRSS");
+  MakeRequests(world, 800);
+  EXPECT_EQ(Facts(world), before);
+  for (const pid_t child : ChildrenOf(world.Host().pid())) AwaitEnd(child);
+  // Those of the last request wait for the next one.
+  EXPECT_LE(world.Host().Zombies(), 3);
+  if (VELMO_TEST_SANITIZED) return;
+  EXPECT_EQ(Kilobytes(world, "VmData"), data);
+  EXPECT_LE(Kilobytes(world, "VmRSS"), resident + 8);
+}
+
+#ifdef VELMO_TEST_LUA_STATES_HOST
+
+TEST(AHostWithTwoScriptStates, HasOneClient) {
+  HelpWorld world;
+  std::filesystem::rename(world.Expanded("{bin}/host.resources"),
+                          world.Expanded("{bin}/states.resources"));
+  std::filesystem::copy_file(VELMO_TEST_LUA_STATES_HOST,
+                             world.Expanded("{bin}/states"));
+  HostStart start = world.start();
+  start.program = world.Expanded("{bin}/states");
+  const std::string output = world.Expanded("{bin}/output");
+  start.preparation = [&] {
+    return dup2(open(output.c_str(), O_WRONLY | O_CREAT, S_IRWXU), 1) == 1;
+  };
+  EXPECT_EQ(HostProcess(start).End(), 0);
+  EXPECT_EQ(FileText(output),
+            "invalidInitialization\nsuccess\ninvalidArgument\n"
+            "invalidArgument\n");
+}
+
+#endif
+
+}  // namespace
+}  // namespace velmohelp::testing
