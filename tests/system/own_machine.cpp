@@ -1,0 +1,96 @@
+#include "tests/system/own_machine.h"
+
+#include <sched.h>
+#include <sys/mount.h>
+#include <unistd.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+
+namespace velmohelp::testing {
+namespace {
+
+namespace fs = std::filesystem;
+
+bool Write(const char* path, const std::string& text) {
+  return static_cast<bool>(std::ofstream(path) << text << std::flush);
+}
+
+/// One's own number means oneself, as outside.
+std::string OnlyMyself(unsigned number) {
+  const std::string text = std::to_string(number);
+  return text + " " + text + " 1";
+}
+
+bool EnterNamespaces() {
+  constexpr int kNamespaces = CLONE_NEWNS | CLONE_NEWNET;
+  const unsigned user = geteuid();
+  const unsigned group = getegid();
+  if (unshare(kNamespaces) == 0) return true;
+  return unshare(CLONE_NEWUSER | kNamespaces) == 0 &&
+         Write("/proc/self/setgroups", "deny") &&
+         Write("/proc/self/uid_map", OnlyMyself(user)) &&
+         Write("/proc/self/gid_map", OnlyMyself(group));
+}
+
+bool Bind(const fs::path& from, const fs::path& to) {
+  fs::create_directories(to);
+  return mount(from.c_str(), to.c_str(), nullptr, MS_BIND | MS_REC, nullptr) ==
+         0;
+}
+
+/// Everything that a folder of the system holds, below another name.
+bool Adopt(const fs::path& entry, const fs::path& root) {
+  const fs::path to = root / entry.filename();
+  if (entry.filename() == "etc" || entry.filename() == "Library") return true;
+  if (fs::is_symlink(entry)) fs::copy_symlink(entry, to);
+  return fs::is_symlink(entry) || !fs::is_directory(entry) || Bind(entry, to);
+}
+
+/// Into the system's own folder nothing can be put: a folder of links to what
+/// it holds takes its place.
+bool MakeEtc(const fs::path& root, const fs::path& folder) {
+  if (!Bind("/etc", root / ".etc") ||
+      !Bind(folder / "velmo", root / "etc/velmo"))
+    return false;
+  for (const char* file : {"hosts", "resolv.conf"}) {
+    fs::copy_file(folder / file, root / "etc" / file);
+  }
+  for (const auto& entry : fs::directory_iterator("/etc")) {
+    const fs::path name = entry.path().filename();
+    if (fs::exists(root / "etc" / name)) continue;
+    fs::create_symlink("/.etc" / name, root / "etc" / name);
+  }
+  return true;
+}
+
+bool EnterRoot(const fs::path& folder) {
+  const fs::path root = folder / "root";
+  fs::create_directory(root);
+  if (mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0 ||
+      mount("none", root.c_str(), "tmpfs", 0, nullptr) != 0) {
+    return false;
+  }
+  for (const auto& entry : fs::directory_iterator("/")) {
+    if (!Adopt(entry.path(), root)) return false;
+  }
+  return Bind(folder / "Library", root / "Library") && MakeEtc(root, folder) &&
+         chroot(root.c_str()) == 0 && chdir("/") == 0;
+}
+
+}  // namespace
+
+bool EnterOwnMachine(const std::string& folder) {
+  try {
+    return EnterNamespaces() && EnterRoot(folder);
+  } catch (const fs::filesystem_error&) {
+    return false;
+  }
+}
+
+bool RunIp(const std::string& arguments) {
+  return std::system(("ip " + arguments + " > /dev/null").c_str()) == 0;
+}
+
+}  // namespace velmohelp::testing
