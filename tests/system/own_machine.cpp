@@ -51,9 +51,8 @@ bool Adopt(const fs::path& entry, const fs::path& root) {
 /// Into the system's own folder nothing can be put: a folder of links to what
 /// it holds takes its place.
 bool MakeEtc(const fs::path& root, const fs::path& folder) {
-  if (!Bind("/etc", root / ".etc") ||
-      !Bind(folder / "velmo", root / "etc/velmo"))
-    return false;
+  if (!Bind("/etc", root / ".etc")) return false;
+  if (!Bind(folder / "velmo", root / "etc/velmo")) return false;
   for (const char* file : {"hosts", "resolv.conf"}) {
     fs::copy_file(folder / file, root / "etc" / file);
   }
