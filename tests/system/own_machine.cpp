@@ -1,10 +1,13 @@
 #include "tests/system/own_machine.h"
 
+#include <net/if.h>
 #include <sched.h>
+#include <sys/ioctl.h>
 #include <sys/mount.h>
+#include <sys/socket.h>
 #include <unistd.h>
 
-#include <cstdlib>
+#include <cstring>
 #include <filesystem>
 #include <fstream>
 
@@ -88,8 +91,14 @@ bool EnterOwnMachine(const std::string& folder) {
   }
 }
 
-bool RunIp(const std::string& arguments) {
-  return std::system(("ip " + arguments + " > /dev/null").c_str()) == 0;
+bool RaiseLoopback() {
+  ifreq interface = {};
+  std::strcpy(interface.ifr_name, "lo");
+  interface.ifr_flags = IFF_UP | IFF_RUNNING;
+  const int any = socket(AF_INET, SOCK_DGRAM | SOCK_CLOEXEC, 0);
+  const bool raised = ioctl(any, SIOCSIFFLAGS, &interface) == 0;
+  close(any);
+  return raised;
 }
 
 }  // namespace velmohelp::testing

@@ -14,8 +14,8 @@ namespace velmohelp::testing {
 /// process make none.
 bool EnterOwnMachine(const std::string& folder);
 
-/// Runs the program "ip" with these arguments.
-bool RunIp(const std::string& arguments);
+/// Makes localhost reachable there.
+bool RaiseLoopback();
 
 }  // namespace velmohelp::testing
 

@@ -16,8 +16,6 @@ constexpr char kHelp[] = "Application Support/Velmo/Help/{folder}/intro.html";
 constexpr char kAdminFile[] = "com.velmo.VelmoOnlineHelp.conf";
 constexpr char kServerAtHome[] = "127.0.0.1 localhost help.velmo.com\n";
 
-bool RaiseLoopback() { return RunIp("link set lo up"); }
-
 class OwnMachine : public ::testing::Test {
  protected:
   OwnMachine() {
@@ -30,7 +28,8 @@ class OwnMachine : public ::testing::Test {
   }
 
   void SetUp() override {
-    if (!InACopy([&] { return EnterOwnMachine(Folder()) && RunIp("link"); })) {
+    if (!InACopy(
+            [&] { return EnterOwnMachine(Folder()) && RaiseLoopback(); })) {
       GTEST_SKIP() << "this system lets the test make no machine of its own";
     }
   }
@@ -94,6 +93,8 @@ struct Word {
   const char* user;
   const char* status;
 };
+
+void PrintTo(const Word& row, std::ostream* out) { *out << row.sentence; }
 
 class AdministratorsWord : public OwnMachine,
                            public ::testing::WithParamInterface<Word> {};
