@@ -101,22 +101,23 @@ Words HelpWorld::Expanded(Words texts) const {
   return texts;
 }
 
-void HelpWorld::Write(const std::string& name, const std::string& text) {
+void HelpWorld::Write(const std::string& name, const std::string& text) const {
   const std::string path = Expanded(name);
   fs::create_directories(fs::path(path).parent_path());
   std::ofstream(path, std::ios::binary) << text;
 }
 
-void HelpWorld::Remove(const std::string& name) {
+void HelpWorld::Remove(const std::string& name) const {
   fs::remove_all(Expanded(name));
 }
 
-void HelpWorld::WriteProgram(const std::string& name, const std::string& text) {
+void HelpWorld::WriteProgram(const std::string& name,
+                             const std::string& text) const {
   Write(name, text);
   fs::permissions(Expanded(name), fs::perms::owner_all);
 }
 
-void HelpWorld::Configure() { Write("{config}", config_.Text()); }
+void HelpWorld::Configure() const { Write("{config}", config_.Text()); }
 
 void HelpWorld::NameViewer(const std::string& app_id,
                            const std::string& publisher_id) {
@@ -126,11 +127,11 @@ void HelpWorld::NameViewer(const std::string& app_id,
   places_["downloaded"] = store + "/Help/" + places_["folder"];
 }
 
-void HelpWorld::WriteTool(const std::string& lines) {
+void HelpWorld::WriteTool(const std::string& lines) const {
   WriteProgram(At(std::string(kFramework) + "QTV"), "#!/bin/sh\n" + lines);
 }
 
-void HelpWorld::AnswerTool(bool runtime, bool viewer) {
+void HelpWorld::AnswerTool(bool runtime, bool viewer) const {
   const auto status = [](bool yes) {
     return yes ? "exit 0;;\n" : "exit 1;;\n";
   };
@@ -139,12 +140,12 @@ void HelpWorld::AnswerTool(bool runtime, bool viewer) {
             At("Viewer.app") + "';;\nesac\n");
 }
 
-void HelpWorld::SetUserPreference(const std::string& value) {
+void HelpWorld::SetUserPreference(const std::string& value) const {
   Write("{settings}/velmo/com.velmo.VelmoOnlineHelp.conf",
         "[Preferences]\nVelmoOnlineDefault=" + value + "\n");
 }
 
-void HelpWorld::InstallBrowser(const std::string& exec_line) {
+void HelpWorld::InstallBrowser(const std::string& exec_line) const {
   Write(At("data/applications/browser.desktop"),
         "[Desktop Entry]\nType=Application\nName=Browser\nExec=" +
             Expanded(exec_line) + "\n");

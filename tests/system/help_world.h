@@ -42,25 +42,25 @@ class HelpWorld {
   Words Expanded(Words texts) const;
 
   /// Writes a file, and the folders above it.
-  void Write(const std::string& name, const std::string& text);
-  void Remove(const std::string& name);
+  void Write(const std::string& name, const std::string& text) const;
+  void Remove(const std::string& name) const;
   /// Writes an executable.
-  void WriteProgram(const std::string& name, const std::string& text);
+  void WriteProgram(const std::string& name, const std::string& text) const;
 
   /// Foo's configuration; Configure writes it to its place.
   HelpConfig& config() { return config_; }
-  void Configure();
+  void Configure() const;
 
   /// Names the viewer whose folders {store} and {downloaded} are.
   void NameViewer(const std::string& app_id, const std::string& publisher_id);
 
   /// What the tool does, in shell script, by its first argument $1.
-  void WriteTool(const std::string& lines);
+  void WriteTool(const std::string& lines) const;
   /// What the tool answers.
-  void AnswerTool(bool runtime, bool viewer);
+  void AnswerTool(bool runtime, bool viewer) const;
 
-  void SetUserPreference(const std::string& value);
-  void InstallBrowser(const std::string& exec_line);
+  void SetUserPreference(const std::string& value) const;
+  void InstallBrowser(const std::string& exec_line) const;
 
   /// Bytes that the server answers for a path; 404 for all others.
   void Serve(const std::string& path, const std::string& response);

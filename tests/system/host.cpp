@@ -7,6 +7,7 @@
 #include <unistd.h>
 #include <velmohelp/velmohelp.h>
 
+#include <algorithm>
 #include <clocale>
 #include <functional>
 #include <map>
@@ -106,16 +107,26 @@ std::string Self(Client&, const Words&) {
   return facts;
 }
 
+std::string SetDescriptorLimit(rlim_t limit) {
+  rlimit both = {};
+  getrlimit(RLIMIT_NOFILE, &both);
+  both.rlim_cur = std::min(limit, both.rlim_max);
+  return setrlimit(RLIMIT_NOFILE, &both) == 0 ? "freed" : "full";
+}
+
 /// Opens files until there is room for that many more alone.
 std::string FillDescriptors(Client&, const Words& words) {
-  const rlimit limit = {64, 64};
-  setrlimit(RLIMIT_NOFILE, &limit);
+  SetDescriptorLimit(64);
   int last = 0;
   for (int next = 0; next != -1; next = open("/dev/null", O_RDONLY)) {
     last = next;
   }
   for (int left = std::stoi(words.at(1)); left > 0; --left) close(last--);
   return "filled";
+}
+
+std::string FreeDescriptors(Client&, const Words&) {
+  return SetDescriptorLimit(RLIM_INFINITY);
 }
 
 pid_t own_child = -1;
@@ -152,6 +163,7 @@ const std::map<std::string, Request>& Requests() {
       {"unload", Unload},
       {"self", Self},
       {"fill descriptors", FillDescriptors},
+      {"free descriptors", FreeDescriptors},
       {"start child", StartChild},
       {"take child", TakeChild}};
   return requests;

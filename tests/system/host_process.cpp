@@ -70,7 +70,7 @@ HostProcess::~HostProcess() {
   if (process_ != -1) End();
 }
 
-std::string HostProcess::Ask(const Words& request) {
+std::string HostProcess::Ask(const Words& request) const {
   if (!SendWords(socket_, request)) return "dead";
   const auto answer = ReceiveWords(socket_);
   return answer ? answer->at(0) : "dead";

@@ -34,7 +34,7 @@ class HostProcess {
   ~HostProcess();
 
   /// Makes a request; what was answered, or "dead".
-  std::string Ask(const Words& request);
+  std::string Ask(const Words& request) const;
 
   /// Ends the host as a person would, and waits for it; its exit status, -1
   /// when a signal ended it.

@@ -112,6 +112,8 @@ TEST(AHostWithAFullDescriptorTable, IsAnswered) {
   EXPECT_EQ(world.Ask(Display("intro")), "4");
   EXPECT_EQ(world.Ask(Display("intro")), "6");
   EXPECT_EQ(world.Ask({"initialise", "Foo", "en_US"}), "6");
+  ASSERT_EQ(world.Ask({"free descriptors"}), "freed");
+  EXPECT_TRUE(world.Initialise());
 }
 
 /// Files can be read, and no program's answer.
@@ -122,6 +124,8 @@ TEST(AHostWithOneDescriptorLeft, IsAnswered) {
   ASSERT_EQ(world.Ask({"fill descriptors", "1"}), "filled");
   EXPECT_EQ(world.Ask(Display("intro")), "2");
   EXPECT_EQ(world.Ask({"initialise", "Foo", "en_US"}), "0");
+  ASSERT_EQ(world.Ask({"free descriptors"}), "freed");
+  EXPECT_EQ(world.Ask(Display("intro")), "0");
 }
 
 TEST(AHostWithAChild, KeepsItsExitStatus) {
@@ -222,8 +226,8 @@ void MakeRequests(HelpWorld& world, int count) {
   }
 }
 
-int Kilobytes(HelpWorld& world, const char* line) {
-  return std::stoi(world.Host().StatusLine(line));
+long Kilobytes(HelpWorld& world, const char* line) {
+  return std::stol(world.Host().StatusLine(line));
 }
 
 TEST(AThousandRequests, LeaveNothingInTheHost) {
@@ -232,8 +236,8 @@ TEST(AThousandRequests, LeaveNothingInTheHost) {
   ASSERT_TRUE(world.Initialise());
   MakeRequests(world, 200);
   const Words before = Facts(world);
-  const int data = Kilobytes(world, "VmData");
-  const int resident = Kilobytes(world, "VmRSS");
+  const long data = Kilobytes(world, "VmData");
+  const long resident = Kilobytes(world, "VmRSS");
   MakeRequests(world, 800);
   EXPECT_EQ(Facts(world), before);
   for (const pid_t child : ChildrenOf(world.Host().pid())) AwaitEnd(child);
