@@ -36,11 +36,11 @@ TEST_P(DisplayTarget, IsWhatTheBrowserOpens) {
 }
 
 void AddInstalledPage(ClientWorld& world, const char* name) {
-  world.AddFile(world.InstalledManual() + "/" + name);
+  world.AddFile(ClientWorld::InstalledManual() + "/" + name);
 }
 
 void AddInstalledMap(ClientWorld& world, const char* text) {
-  world.AddFile(world.InstalledManual() + "/helpmap.txt", text);
+  world.AddFile(ClientWorld::InstalledManual() + "/helpmap.txt", text);
 }
 
 INSTANTIATE_TEST_SUITE_P(

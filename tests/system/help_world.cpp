@@ -71,7 +71,7 @@ HelpWorld::HelpWorld()
   SetUserPreference("0");
   InstallBrowser("\"{browser}\" %u");
   start_.program = At("bin/host");
-  start_.library = VELMO_TEST_LIBRARY;
+  start_.plug_in = VELMO_TEST_LIBRARY;
   start_.errors = At("errors");
   start_.environment = {"HOME=" + At("home"),
                         "XDG_CONFIG_HOME=" + At("settings"),
@@ -169,7 +169,7 @@ std::string HelpWorld::CopyLibrary(const std::string& library) {
   fs::copy_file(library, folder + "/libvelmohelp.so");
   fs::copy(fs::path(VELMO_TEST_LIBRARY).parent_path() / "velmohelp",
            folder + "/velmohelp");
-  start_.library = folder + "/libvelmohelp.so";
+  start_.plug_in = folder + "/libvelmohelp.so";
   return folder + "/velmohelp";
 }
 

@@ -55,7 +55,7 @@ HostProcess::HostProcess(const HostStart& start) {
 }
 
 void HostProcess::Become(const HostStart& start, int socket) {
-  const Words words = {start.program, start.library};
+  const Words words = {start.program, start.plug_in};
   SetStreams(start.errors);
   dup2(socket, kTestDescriptor);
   fcntl(kTestDescriptor, F_SETFD, 0);

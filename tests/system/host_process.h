@@ -14,7 +14,7 @@ namespace velmohelp::testing {
 /// How a host program is started.
 struct HostStart {
   std::string program;
-  std::string library;
+  std::string plug_in;
   /// The whole environment.
   Words environment;
   /// Takes the host's standard error output.

@@ -28,8 +28,8 @@ class Embedded : public ::testing::TestWithParam<Around> {
   static constexpr std::size_t kSize = 80;
 
   /// The text around, with the bytes at a place; whole characters in front.
-  std::array<ITEMUTF8, kSize> TextWith(const std::array<ITEMUTF8, 4>& bytes,
-                                       std::size_t place) const {
+  static std::array<ITEMUTF8, kSize> TextWith(
+      const std::array<ITEMUTF8, 4>& bytes, std::size_t place) {
     std::array<ITEMUTF8, kSize> text{};
     const std::string_view around = GetParam().text;
     for (std::size_t i = 0; i < kSize; ++i) {
