@@ -30,7 +30,7 @@ class ViewerChoice : public ::testing::TestWithParam<Choice> {};
 TEST_P(ViewerChoice, IsMadeFromWhatThereIs) {
   ClientWorld world;
   world.Install();
-  world.AddFile(world.InstalledManual() + "/page.html");
+  world.AddFile(ClientWorld::InstalledManual() + "/page.html");
   world.StartBrowsers();
   GetParam().given(world);
   world.Initialise();
@@ -150,8 +150,9 @@ INSTANTIATE_TEST_SUITE_P(
         LastResort{"for a target that is no URL in accessible mode",
                    [](ClientWorld& world) {
                      world.Install({.base_url = "help/"});
-                     world.AddFile(world.InstalledManual() + "/helpmap.txt",
-                                   "VX_HOME\thome.html\n");
+                     world.AddFile(
+                         ClientWorld::InstalledManual() + "/helpmap.txt",
+                         "VX_HOME\thome.html\n");
                      world.InstallWorkingViewer();
                      world.SetAccessibleMode("TRUE");
                      world.GoOnline();
@@ -160,23 +161,26 @@ INSTANTIATE_TEST_SUITE_P(
         LastResort{"for a target that is no URL with the viewer chosen",
                    [](ClientWorld& world) {
                      world.Install({.base_url = "help/"});
-                     world.AddFile(world.InstalledManual() + "/helpmap.txt",
-                                   "VX_HOME\thome.html\n");
+                     world.AddFile(
+                         ClientWorld::InstalledManual() + "/helpmap.txt",
+                         "VX_HOME\thome.html\n");
                      world.InstallWorkingViewer();
                      world.GoOnline();
                    },
                    kPageIdInViewer},
         LastResort{"for a local target that no URL can name",
                    [](ClientWorld& world) {
-                     world.AddFile(world.InstalledManual() + "/helpmap.txt",
-                                   "VX_HOME\th\xFF.html\n");
+                     world.AddFile(
+                         ClientWorld::InstalledManual() + "/helpmap.txt",
+                         "VX_HOME\th\xFF.html\n");
                      world.InstallWorkingViewer();
                    },
                    kPageIdInViewer},
         LastResort{"but not where it is refused and the target has no URL",
                    [](ClientWorld& world) {
-                     world.AddFile(world.InstalledManual() + "/helpmap.txt",
-                                   "VX_HOME\th\xFF.html\n");
+                     world.AddFile(
+                         ClientWorld::InstalledManual() + "/helpmap.txt",
+                         "VX_HOME\th\xFF.html\n");
                      world.InstallWorkingViewer();
                      world.SetAccessibleMode("TRUE");
                    },

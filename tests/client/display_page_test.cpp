@@ -193,7 +193,8 @@ INSTANTIATE_TEST_SUITE_P(
                             [](ClientWorld& world) {
                               world.Install({.base_url = "help/"});
                               world.AddFile(
-                                  world.InstalledManual() + "/helpmap.txt",
+                                  ClientWorld::InstalledManual() +
+                                      "/helpmap.txt",
                                   "VX_HOME\thome.html\npage\tp.html\n");
                               world.GoOnline();
                               world.StartBrowsers();

@@ -124,7 +124,7 @@ TEST(Reread, FollowsTheCutLocaleFromOneRequestToTheNext) {
 TEST(StaleRows, AreOutOfUseBehindAShorterTable) {
   ClientWorld world;
   world.Install({.folders = {{"old"}, {OwnName("manual")}}});
-  world.AddFile(world.InstalledManual() + "/page.html");
+  world.AddFile(ClientWorld::InstalledManual() + "/page.html");
   world.StartBrowsers();
   world.Initialise();
   EXPECT_EQ(DisplayVelmoHelpClientPage("page"), 0U);
@@ -139,7 +139,7 @@ TEST(StaleRows, AreOutOfUseBehindAShorterTable) {
 TEST(StaleRows, ComeBackUnderFlagsWithoutNames) {
   ClientWorld world;
   world.Install({.folders = {{"old"}, {OwnName("manual")}}});
-  world.AddFile(world.InstalledManual() + "/page.html");
+  world.AddFile(ClientWorld::InstalledManual() + "/page.html");
   world.StartBrowsers();
   world.Initialise();
   world.AddFile(world.InstalledConfig(),
@@ -154,7 +154,7 @@ TEST(StaleRows, ComeBackUnderFlagsWithoutNames) {
 TEST(StaleRows, AllCountUnderAConfigurationWithoutPaths) {
   ClientWorld world;
   world.Install();
-  world.AddFile(world.InstalledManual() + "/page.html");
+  world.AddFile(ClientWorld::InstalledManual() + "/page.html");
   world.StartBrowsers();
   world.Initialise();
   world.AddFile(world.DownloadedConfig(),

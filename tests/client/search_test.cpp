@@ -13,7 +13,7 @@ using testing::ClientWorld;
 using testing::Outcome;
 
 void AddSearchPage(ClientWorld& world) {
-  world.AddFile(world.InstalledManual() + "/search.html");
+  world.AddFile(ClientWorld::InstalledManual() + "/search.html");
 }
 
 void NameProduct(ClientWorld& world, const char* product) {

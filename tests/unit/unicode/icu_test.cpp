@@ -35,9 +35,10 @@ std::vector<ITEMUTF16> IcuUtf16(const std::vector<ITEMUTF8>& text) {
 
 std::vector<ITEMUTF32> IcuValues(const std::vector<ITEMUTF8>& text) {
   std::vector<ITEMUTF32> values;
+  const ITEMUTF8* bytes = text.data();
   for (std::size_t i = 0; i < text.size();) {
     UChar32 value = 0;
-    U8_NEXT(text.data(), i, text.size(), value);
+    U8_NEXT(bytes, i, text.size(), value);
     values.push_back(static_cast<ITEMUTF32>(value));
   }
   return values;
