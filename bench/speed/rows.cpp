@@ -18,7 +18,7 @@ const Words kFilesOfRequest = {
     BENCH_WORLD "/etc/velmo/com.velmo.VelmoOnlineHelp.conf",
     BENCH_WORLD "/USER/velmo/com.velmo.VelmoOnlineHelp.conf",
     BENCH_WORLD "/USER/reader.bench.1/Local Store/klh-pref.xml",
-    BENCH_WORLD "/Help/one/helpmap.txt"};
+    BENCH_WORLD "/USER/reader.bench.1/Local Store/Help/one/helpmap.txt"};
 
 Words FloorOfRequest(const std::string& user, const std::string& reach) {
   Words words = {
@@ -63,24 +63,30 @@ Rows RequestRows() {
            1.05}};
 }
 
-Row LoadRow(const std::string& what, const std::string& kind, Rule rule,
-            double target) {
-  return {
-      "load",
-      what,
-      {{"ours",
-        Program("bench_loader", {kind, BENCH_LIBRARIES "/libvelmohelp.so"})},
-       {"empty library",
-        Program("bench_loader", {kind, BENCH_PROGRAMS "/libbench_empty.so"})}},
-      rule,
-      target};
+Row LoadRow(const std::string& what, const std::string& kind,
+            const Candidate& peer, Rule rule, double target) {
+  const std::string library = peer.command.front();
+  return {"load",
+          what,
+          {{"ours", Program("bench_loader",
+                            {kind, BENCH_LIBRARIES "/libvelmohelp.so"})},
+           {peer.name, Program("bench_loader", {kind, library})}},
+          rule,
+          target};
 }
 
 Rows LoadRows() {
+  const Candidate empty = {"empty library",
+                           {BENCH_PROGRAMS "/libbench_empty.so"}};
+  const Candidate streams = {"starts the stream library",
+                             {BENCH_PROGRAMS "/libbench_streams.so"}};
   return {
-      LoadRow("loading the plug-in", "time", Rule::kRatio, 1.1),
-      LoadRow("libraries in the process", "libraries", Rule::kCount, 5),
-      LoadRow("KiB resident by loading", "resident", Rule::kDifference, 100)};
+      LoadRow("loading the plug-in", "time", empty, Rule::kRatio, 1.1),
+      LoadRow("libraries in the process", "libraries", empty, Rule::kCount, 5),
+      LoadRow("KiB resident by loading", "resident", empty, Rule::kDifference,
+              100),
+      LoadRow("KiB resident by loading", "resident", streams, Rule::kDifference,
+              100)};
 }
 
 Row MapRow(const std::string& what, const std::string& ours, Candidate peer,

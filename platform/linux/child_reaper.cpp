@@ -8,6 +8,7 @@
 #include <charconv>
 #include <csignal>
 #include <cstdio>
+#include <ctime>
 
 #include "platform/linux/descriptor.h"
 #include "platform/linux/retry.h"
@@ -32,16 +33,31 @@ std::uint64_t StartTime(pid_t process) {
   return StartTimeInText({text, static_cast<std::size_t>(got)});
 }
 
-/// A host that waits for any child may have taken ours, and its number may be
-/// that of a child of the host's by now, whose end is not ours to take.
-bool IsStill(std::uint64_t start_time, pid_t process) {
-  const std::uint64_t now = StartTime(process);
-  return start_time == 0 || now == 0 || now == start_time;
+/// The time in the unit of a process's start time.
+std::uint64_t TicksSinceBoot() {
+  constexpr std::uint64_t kNanoseconds = 1'000'000'000;
+  timespec now = {};
+  clock_gettime(CLOCK_BOOTTIME, &now);
+  const auto ticks = static_cast<std::uint64_t>(sysconf(_SC_CLK_TCK));
+  return static_cast<std::uint64_t>(now.tv_sec) * ticks +
+         static_cast<std::uint64_t>(now.tv_nsec) / (kNanoseconds / ticks);
 }
 
-/// True when there is nothing left to wait for.
-bool IsGone(pid_t process) {
-  return Retry([&] { return waitpid(process, nullptr, WNOHANG); }) != 0;
+enum class State : std::uint8_t { kRunning, kEnded, kNoChild };
+
+/// The state of a child of the host's, which stays as it is.
+State StateOf(pid_t process) {
+  siginfo_t ended = {};
+  const int result = Retry([&] {
+    return waitid(P_PID, static_cast<id_t>(process), &ended,
+                  WEXITED | WNOHANG | WNOWAIT);
+  });
+  if (result != 0) return State::kNoChild;
+  return ended.si_pid == 0 ? State::kRunning : State::kEnded;
+}
+
+void Take(pid_t process) {
+  Retry([&] { return waitpid(process, nullptr, WNOHANG); });
 }
 
 }  // namespace
@@ -64,24 +80,41 @@ std::uint64_t StartTimeInText(std::string_view text) {
 void ChildReaper::Prepare() { children_.reserve(children_.size() + 1); }
 
 void ChildReaper::Remember(pid_t process) {
-  children_.push_back({process, StartTime(process)});
+  children_.push_back({process, TicksSinceBoot()});
+}
+
+/// A host that waits for any child may have taken ours, and its number may be
+/// that of a later child of the host's by now, whose end is not ours to take.
+/// Within the same tick both answers would be the same, and none is asked for:
+/// most of ours are short, and to read a process's state costs much.
+bool ChildReaper::IsOurs(const Child& child) {
+  return TicksSinceBoot() == child.since ||
+         StartTime(child.process) <= child.since;
 }
 
 void ChildReaper::Reap() {
   std::erase_if(children_, [](const Child& child) {
-    return !IsStill(child.start_time, child.process) || IsGone(child.process);
+    const State state = StateOf(child.process);
+    if (state == State::kEnded && IsOurs(child)) Take(child.process);
+    return state != State::kRunning;
   });
 }
 
 bool ChildReaper::IsRunning(pid_t process) {
   Reap();
-  return std::any_of(
-      children_.begin(), children_.end(),
-      [&](const Child& child) { return child.process == process; });
+  return Find(process) != children_.end();
 }
 
 void ChildReaper::End(pid_t process) {
-  if (IsRunning(process)) kill(process, SIGKILL);
+  Reap();
+  const auto child = Find(process);
+  if (child != children_.end() && IsOurs(*child)) kill(process, SIGKILL);
+}
+
+std::vector<ChildReaper::Child>::iterator ChildReaper::Find(pid_t process) {
+  return std::find_if(
+      children_.begin(), children_.end(),
+      [&](const Child& child) { return child.process == process; });
 }
 
 }  // namespace velmohelp

@@ -40,8 +40,12 @@ class ChildReaper {
  private:
   struct Child {
     pid_t process;
-    std::uint64_t start_time;
+    /// When it was remembered, in clock ticks since boot.
+    std::uint64_t since;
   };
+
+  static bool IsOurs(const Child& child);
+  std::vector<Child>::iterator Find(pid_t process);
 
   std::vector<Child> children_;
 };

@@ -56,6 +56,19 @@ std::string RealPath(const std::string& path) {
   return real ? real.get() : path;
 }
 
+std::optional<std::string> FindOwnFolder() {
+  static const char here = 0;
+  Dl_info info = {};
+  if (dladdr(&here, &info) != 0 && info.dli_fname != nullptr &&
+      info.dli_fname[0] == '/') {
+    return FolderOf(RealPath(info.dli_fname));
+  }
+  // The host named the file by a relative path, and may have changed its
+  // directory since.
+  const auto file = FileMappedHere(reinterpret_cast<std::uintptr_t>(&here));
+  return file ? std::optional(FolderOf(*file)) : std::nullopt;
+}
+
 }  // namespace
 
 std::optional<std::string> MappedFile(std::string_view maps,
@@ -72,16 +85,10 @@ std::optional<std::string> MappedFile(std::string_view maps,
 }
 
 std::optional<std::string> OwnFolder() {
-  static const char here = 0;
-  Dl_info info = {};
-  if (dladdr(&here, &info) != 0 && info.dli_fname != nullptr &&
-      info.dli_fname[0] == '/') {
-    return FolderOf(RealPath(info.dli_fname));
-  }
-  // The host named the file by a relative path, and may have changed its
-  // directory since.
-  const auto file = FileMappedHere(reinterpret_cast<std::uintptr_t>(&here));
-  return file ? std::optional(FolderOf(*file)) : std::nullopt;
+  // The file stays where it is while it is loaded, and to follow the links to
+  // it costs more than all other questions about bundles.
+  static const std::optional<std::string> folder = FindOwnFolder();
+  return folder;
 }
 
 std::optional<std::string> HostExecutable() {

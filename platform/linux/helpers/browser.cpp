@@ -46,7 +46,7 @@ int Main(int argc, char* argv[]) {
   g_log_set_writer_func(&DropMessage, nullptr, nullptr);
   if (argc != 2 || !IsAbsoluteUri(argv[1])) return 1;
   const std::string answer = AnswerFor(argv[1]);
-  return !answer.empty() && WriteAnswer(answer) ? 0 : 1;
+  return !answer.empty() && GiveAnswer(answer) ? 0 : 1;
 }
 
 }  // namespace

@@ -5,5 +5,5 @@
 
 int main(int argc, char* argv[]) {
   if (argc != 2 || !velmohelp::IsTextAt(argv[1])) return 1;
-  return velmohelp::WriteAnswer(VELMO_IS_TEXT) ? 0 : 1;
+  return velmohelp::GiveAnswer(VELMO_IS_TEXT) ? 0 : 1;
 }
