@@ -1,12 +1,25 @@
-# What an installation holds. Two components, as distributions split them:
+# What an installation holds, in components as distributions split them:
 # "runtime" is what a program that uses the library needs to run, "development"
-# what it needs to be built.
+# what it needs to be built; "host" and "lua" are for scripts.
 include(CMakePackageConfigHelpers)
+
+# velmo_install_compressed(SOURCE NAME FOLDER COMPONENT): without a name and a
+# time inside, so that the same sources make the same bytes.
+find_program(VELMO_GZIP gzip REQUIRED)
+function(velmo_install_compressed source name folder component)
+  set(compressed "${PROJECT_BINARY_DIR}/package/${name}")
+  set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS "${source}")
+  execute_process(COMMAND "${VELMO_GZIP}" -9nc "${source}"
+    OUTPUT_FILE "${compressed}" COMMAND_ERROR_IS_FATAL ANY)
+  install(FILES "${compressed}" DESTINATION "${folder}"
+    COMPONENT ${component})
+endfunction()
 
 install(TARGETS velmohelp EXPORT velmohelp
   LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}"
     COMPONENT runtime NAMELINK_COMPONENT development)
-install(FILES LICENSE DESTINATION "${CMAKE_INSTALL_DOCDIR}" COMPONENT runtime)
+# On its own: a distribution's packages point to its own copy.
+install(FILES LICENSE DESTINATION "${CMAKE_INSTALL_DOCDIR}" COMPONENT licence)
 install(DIRECTORY include/velmohelp
   DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}" COMPONENT development
   FILES_MATCHING PATTERN "*.h")
@@ -45,3 +58,8 @@ configure_file(cmake/velmohelp.pc.in
   "${PROJECT_BINARY_DIR}/package/velmohelp.pc" @ONLY)
 install(FILES "${PROJECT_BINARY_DIR}/package/velmohelp.pc"
   DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig" COMPONENT development)
+
+if(VELMO_BUILD_HOST)
+  velmo_install_compressed("${PROJECT_SOURCE_DIR}/host/lxhost.1" lxhost.1.gz
+    "${CMAKE_INSTALL_MANDIR}/man1" host)
+endif()
