@@ -20,6 +20,7 @@ struct Situation {
   /// The package database: a line "NAME STATUS" each.
   std::string packages = "a installed\n";
   std::string user = "0";
+  bool has_sudo = true;
   bool sudo_refuses = false;
   bool apt_fails = false;
 };
@@ -57,13 +58,17 @@ class InstallPackages : public ::testing::TestWithParam<Row> {
     if (situation.apt_fails) folder_.Write("apt-fails", "");
     folder_.WriteProgram("id", "echo " + situation.user);
     folder_.WriteProgram("dpkg-query", kDpkgQuery);
-    folder_.WriteProgram("sudo", kSudo);
+    if (situation.has_sudo) folder_.WriteProgram("sudo", kSudo);
+    // Nothing else of the machine can be found.
+    for (const std::string name : {"env", "grep", "sed"}) {
+      folder_.WriteProgram(name, "exec /bin/" + name + R"( "$@")");
+    }
     folder_.WriteProgram("apt-get", kAptGet);
   }
 
   int Run() {
     const std::string command =
-        "cd '" + folder_.Path("") + R"('; FOLDER=$PWD PATH=$PWD:$PATH ')" +
+        "cd '" + folder_.Path("") + R"('; FOLDER=$PWD PATH=$PWD ')" +
         INSTALLER "' " + GetParam().names + " >output 2>&1";
     return WEXITSTATUS(std::system(command.c_str()));
   }
@@ -110,18 +115,25 @@ INSTANTIATE_TEST_SUITE_P(
 
 INSTANTIATE_TEST_SUITE_P(
     Fails, InstallPackages,
-    ::testing::Values(Row{"a user without sudo learns what is missing",
-                          {.user = "1000", .sudo_refuses = true},
-                          "a b c",
-                          1,
-                          "",
-                          "Installing: b c\nNot installed: b c\n"},
-                      Row{"without a package server one learns it too",
-                          {.apt_fails = true},
-                          "a b",
-                          1,
-                          kUpdate,
-                          "Installing: b\nNot installed: b\n"}),
+    ::testing::Values(
+        Row{"on a machine without sudo a user learns it in a line",
+            {.user = "1000", .has_sudo = false},
+            "a b c",
+            1,
+            "",
+            "Not installed, which takes root or sudo: b c\n"},
+        Row{"a user whom sudo refuses learns what is missing",
+            {.user = "1000", .sudo_refuses = true},
+            "a b c",
+            1,
+            "",
+            "Installing: b c\nNot installed: b c\n"},
+        Row{"without a package server one learns it too",
+            {.apt_fails = true},
+            "a b",
+            1,
+            kUpdate,
+            "Installing: b\nNot installed: b\n"}),
     testing::SentenceOf());
 
 }  // namespace
