@@ -132,13 +132,53 @@ TEST_F(Fetching, TakesTheCharacterSetOfTheLastResponse) {
   EXPECT_FALSE(machine().FetchText(server.Url("/first")));
 }
 
-TEST_F(Fetching, EndsWithTheHostsPatience) {
-  const HttpServer server(
-      [](const std::string&) { return std::string(HttpServer::kHang); });
-  Patience patience;
-  patience.fetch = std::chrono::milliseconds(100);
-  LinuxMachine hasty(VELMO_TEST_HELPERS, patience);
-  EXPECT_FALSE(hasty.FetchText(server.Url("/")));
+/// A host that waits for a second: its helper has the server's silence by then,
+/// and takes a minute to give up by itself. That it has been ended is what the
+/// server waits for.
+class Hasty : public ::testing::Test {
+ protected:
+  static bool Fetch(const std::string& url) {
+    setenv("no_proxy", "*", 1);
+    Patience patience;
+    patience.fetch = std::chrono::seconds(1);
+    return LinuxMachine(VELMO_TEST_HELPERS, patience).FetchText(url);
+  }
+};
+
+struct SilenceRow {
+  const char* sentence;
+  std::string start;
+};
+
+class Silence : public Hasty,
+                public ::testing::WithParamInterface<SilenceRow> {};
+
+TEST_P(Silence, EndsWithTheHostsPatience) {
+  {
+    const HttpServer server([](const std::string&) {
+      return GetParam().start + std::string(HttpServer::kHang);
+    });
+    EXPECT_FALSE(Fetch(server.Url("/")));
+  }
+  testing::EndChildren();
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, Silence,
+    ::testing::Values(SilenceRow{"before the response", ""},
+                      SilenceRow{"inside the headers",
+                                 "HTTP/1.1 200 OK\r\nContent-"},
+                      SilenceRow{"inside the body",
+                                 "HTTP/1.1 200 OK\r\n"
+                                 "Content-Length: 9\r\n\r\n<p>"}),
+    testing::SentenceOf());
+
+TEST_F(Hasty, WaitsForNoSecretThatDoesNotCome) {
+  {
+    const testing::LoopbackServer silent(&testing::AwaitClose);
+    EXPECT_FALSE(Fetch("https://127.0.0.1:" + std::to_string(silent.port())));
+  }
+  testing::EndChildren();
 }
 
 TEST_F(Fetching, FailsWhereNobodyListens) {

@@ -147,6 +147,13 @@ std::string TakeChild(Client&, const Words&) {
   return std::to_string(WEXITSTATUS(status));
 }
 
+/// The most memory that one of the children waited for has ever had, in KiB.
+std::string PeakOfChildren(Client&, const Words&) {
+  rusage usage = {};
+  getrusage(RUSAGE_CHILDREN, &usage);
+  return std::to_string(usage.ru_maxrss);
+}
+
 using Request = std::function<std::string(Client&, const Words&)>;
 
 const std::map<std::string, Request>& Requests() {
@@ -165,7 +172,8 @@ const std::map<std::string, Request>& Requests() {
       {"fill descriptors", FillDescriptors},
       {"free descriptors", FreeDescriptors},
       {"start child", StartChild},
-      {"take child", TakeChild}};
+      {"take child", TakeChild},
+      {"peak of children", PeakOfChildren}};
   return requests;
 }
 

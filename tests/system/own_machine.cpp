@@ -1,15 +1,21 @@
 #include "tests/system/own_machine.h"
 
+#include <linux/capability.h>
 #include <net/if.h>
 #include <sched.h>
 #include <sys/ioctl.h>
 #include <sys/mount.h>
+#include <sys/prctl.h>
 #include <sys/socket.h>
+#include <sys/syscall.h>
 #include <unistd.h>
 
+#include <cstdlib>
 #include <cstring>
 #include <filesystem>
 #include <fstream>
+
+#include "tests/platform/support/children.h"
 
 namespace velmohelp::testing {
 namespace {
@@ -26,12 +32,11 @@ std::string OnlyMyself(unsigned number) {
   return text + " " + text + " 1";
 }
 
-bool EnterNamespaces() {
-  constexpr int kNamespaces = CLONE_NEWNS | CLONE_NEWNET;
+bool EnterNamespaces(int namespaces) {
   const unsigned user = geteuid();
   const unsigned group = getegid();
-  if (unshare(kNamespaces) == 0) return true;
-  return unshare(CLONE_NEWUSER | kNamespaces) == 0 &&
+  if (unshare(namespaces) == 0) return true;
+  return unshare(CLONE_NEWUSER | namespaces) == 0 &&
          Write("/proc/self/setgroups", "deny") &&
          Write("/proc/self/uid_map", OnlyMyself(user)) &&
          Write("/proc/self/gid_map", OnlyMyself(group));
@@ -55,7 +60,10 @@ bool Adopt(const fs::path& entry, const fs::path& root) {
 /// it holds takes its place.
 bool MakeEtc(const fs::path& root, const fs::path& folder) {
   if (!Bind("/etc", root / ".etc")) return false;
-  if (!Bind(folder / "velmo", root / "etc/velmo")) return false;
+  for (const char* name : {"velmo", "ssl"}) {
+    const fs::path own = folder / name;
+    if (fs::exists(own) && !Bind(own, root / "etc" / name)) return false;
+  }
   for (const char* file : {"hosts", "resolv.conf"}) {
     fs::copy_file(folder / file, root / "etc" / file);
   }
@@ -81,14 +89,39 @@ bool EnterRoot(const fs::path& folder) {
          chroot(root.c_str()) == 0 && chdir("/") == 0;
 }
 
-}  // namespace
-
-bool EnterOwnMachine(const std::string& folder) {
+bool Enter(int namespaces, const std::string& folder) {
   try {
-    return EnterNamespaces() && EnterRoot(folder);
+    return EnterNamespaces(namespaces) && EnterRoot(folder);
   } catch (const fs::filesystem_error&) {
     return false;
   }
+}
+
+/// A program that an ordinary user starts has no rights, unless they are in the
+/// ambient set (capabilities(7)).
+bool PassRightsOn() {
+  __user_cap_header_struct header = {_LINUX_CAPABILITY_VERSION_3, 0};
+  __user_cap_data_struct sets[_LINUX_CAPABILITY_U32S_3] = {};
+  if (syscall(SYS_capget, &header, sets) != 0) return false;
+  sets[0].inheritable |= CAP_TO_MASK(CAP_NET_ADMIN);
+  return syscall(SYS_capset, &header, sets) == 0 &&
+         prctl(PR_CAP_AMBIENT, PR_CAP_AMBIENT_RAISE, CAP_NET_ADMIN, 0, 0) == 0;
+}
+
+}  // namespace
+
+bool EnterOwnMachine(const std::string& folder) {
+  return Enter(CLONE_NEWNS | CLONE_NEWNET, folder);
+}
+
+bool EnterOwnFiles(const std::string& folder) {
+  return Enter(CLONE_NEWNS, folder);
+}
+
+bool RunIp(const std::string& arguments) {
+  return InACopy([&] {
+    return PassRightsOn() && std::system(("ip " + arguments).c_str()) == 0;
+  });
 }
 
 bool RaiseLoopback() {

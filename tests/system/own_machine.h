@@ -8,14 +8,20 @@
 namespace velmohelp::testing {
 
 /// Moves this process to one where /Library is the folder "Library", /etc/velmo
-/// the folder "velmo", and /etc/hosts and /etc/resolv.conf are the files
-/// "hosts" and "resolv.conf" in that folder. The rest of the file system is the
-/// system's; the loopback interface is down. False when this system lets the
-/// process make none.
+/// the folder "velmo", /etc/ssl the folder "ssl" where there is one, and
+/// /etc/hosts and /etc/resolv.conf are the files "hosts" and "resolv.conf" in
+/// that folder. The rest of the file system is the system's; the loopback
+/// interface is down. False when this system lets the process make none.
 bool EnterOwnMachine(const std::string& folder);
+
+/// The same with the system's own network.
+bool EnterOwnFiles(const std::string& folder);
 
 /// Makes localhost reachable there.
 bool RaiseLoopback();
+
+/// Runs ip(8) with the rights of that machine's administrator.
+bool RunIp(const std::string& arguments);
 
 }  // namespace velmohelp::testing
 

@@ -1,0 +1,23 @@
+// A name server in the network that a test has made (RFC 1035).
+#ifndef TESTS_SYSTEM_NAME_SERVER_H_
+#define TESTS_SYSTEM_NAME_SERVER_H_
+
+namespace velmohelp::testing {
+
+/// What it has to say to every question.
+enum class NameAnswer {
+  kNothing,
+  /// 127.0.0.1.
+  kThisMachine,
+  kFailure,
+  kNoSuchName,
+  kRefusal,
+};
+
+/// Starts one at 127.0.0.1, as a child of this process that ends with it. False
+/// when there is no place for it.
+bool StartNameServer(NameAnswer answer);
+
+}  // namespace velmohelp::testing
+
+#endif  // TESTS_SYSTEM_NAME_SERVER_H_
