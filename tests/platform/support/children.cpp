@@ -18,9 +18,11 @@ std::vector<pid_t> Children() {
 }
 
 void EndChildren() {
-  for (const pid_t child : Children()) {
-    kill(child, SIGKILL);
-    waitpid(child, nullptr, 0);
+  for (auto children = Children(); !children.empty(); children = Children()) {
+    for (const pid_t child : children) {
+      kill(child, SIGKILL);
+      waitpid(child, nullptr, 0);
+    }
   }
 }
 

@@ -13,7 +13,8 @@ namespace velmohelp::testing {
 /// for among them.
 std::vector<pid_t> Children();
 
-/// Ends all of them and waits for it.
+/// Ends all of them, and those that they leave to this process, and waits for
+/// it.
 void EndChildren();
 
 /// Waits until each of them has ended, and leaves them to be waited for.
