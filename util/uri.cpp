@@ -3,10 +3,11 @@
 namespace velmohelp {
 namespace {
 
-/// "http://host/x" -> "//host/x"; "/a/b:c" stays.
+/// "http://host/x" -> "//host/x"; "/a/b:c" and ":a" stay.
 std::string_view WithoutScheme(std::string_view uri) {
   const std::size_t end = uri.find_first_of(":/?#");
-  const bool has_scheme = end != std::string_view::npos && uri[end] == ':';
+  const bool has_scheme =
+      end != 0 && end != std::string_view::npos && uri[end] == ':';
   return has_scheme ? uri.substr(end + 1) : uri;
 }
 

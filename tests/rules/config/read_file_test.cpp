@@ -2,9 +2,9 @@
 #include <sys/stat.h>
 #include <velmohelp/config.h>
 
-#include "config/key_scanner.h"
 #include "tests/rules/support/random_text.h"
 #include "tests/rules/support/temp_folder.h"
+#include "tests/support/key_oracle.h"
 #include "tests/support/sentence.h"
 
 namespace velmohelp::testing {
@@ -59,16 +59,6 @@ const Row kRows[] = {
 INSTANTIATE_TEST_SUITE_P(OfAFile, Pieces, ::testing::ValuesIn(kRows),
                          SentenceOf());
 
-/// The rule as it is told, one piece after the other.
-std::string SlowlyRead(const std::string& bytes) {
-  std::string text;
-  for (std::size_t at = 0; at < bytes.size(); at += kPiece) {
-    const std::string piece = bytes.substr(at, kPiece);
-    text += piece.substr(0, piece.find('\0'));
-  }
-  return text;
-}
-
 TEST(PiecesOfRandomFiles, AreTakenAsTheSlowReaderTakesThem) {
   const TempFolder folder;
   RandomText random(std::string(700, 'a') + "\0"s);
@@ -78,7 +68,7 @@ TEST(PiecesOfRandomFiles, AreTakenAsTheSlowReaderTakesThem) {
       const std::string bytes = kOpening + random.Next(size - 4) + "\"";
       XMLParser parser;
       ASSERT_TRUE(parser.ReadFileToBuffer(folder.Write("x", bytes)));
-      EXPECT_EQ(parser.GetKey("k"), ScanKey(SlowlyRead(bytes), "k"));
+      EXPECT_EQ(parser.GetKey("k"), OracleKey(OracleBuffer(bytes), "k"));
     }
   }
 }

@@ -1,5 +1,7 @@
 // The map loader works on the whole text at once. It must give what the plain
 // way gives: line by line, field by field, entry by entry.
+#include "tests/support/map_oracle.h"
+
 #include <gtest/gtest.h>
 #include <velmohelp/resolve.h>
 
@@ -11,25 +13,11 @@ namespace {
 
 using Map = std::map<std::string, std::string>;
 
-bool SlowlyLoad(const std::string& path, Map& map) {
-  map.clear();
-  if (path.empty()) return false;
-  std::ifstream file(path, std::ios_base::binary);
-  if (!file.is_open()) return false;
-  std::string line;
-  while (ITEMInternal::GetLine(file, line)) {
-    std::deque<std::string> fields;
-    ITEMInternal::DelimitedStringToDeque('\t', line, fields);
-    if (fields.size() >= 2) map.insert({fields[0], fields[1]});
-  }
-  return map.find("VX_HOME") != map.end();
-}
-
-void ExpectAsTheSlowLoader(const std::string& path) {
+void ExpectAsTheSlowLoader(const TempFolder& folder, const std::string& text) {
   Map map;
-  Map expected;
-  const bool complete = SlowlyLoad(path, expected);
-  ASSERT_EQ(ITEMInternal::LoadMapFile(path, map), complete);
+  const Map expected = OracleMap(text);
+  const bool complete = expected.contains("VX_HOME");
+  ASSERT_EQ(ITEMInternal::LoadMapFile(folder.Write("x", text), map), complete);
   ASSERT_EQ(map, expected);
 }
 
@@ -37,7 +25,7 @@ TEST(MapOfRandomBytes, IsAsTheSlowLoaderHasIt) {
   const TempFolder folder;
   RandomText random(std::string("\t\t\t\n\n\r\r ab") + '\0');
   for (int i = 0; i < 1500; ++i) {
-    ExpectAsTheSlowLoader(folder.Write("x", random.Next(random.Below(60))));
+    ExpectAsTheSlowLoader(folder, random.Next(random.Below(60)));
   }
 }
 
@@ -52,7 +40,7 @@ TEST(MapOfRandomLines, IsAsTheSlowLoaderHasIt) {
       text += home ? "VX_HOME" : random.Next(1 + random.Below(3));
       text += '\t' + random.Next(random.Below(3)) + ends[random.Below(6)];
     }
-    ExpectAsTheSlowLoader(folder.Write("x", text));
+    ExpectAsTheSlowLoader(folder, text);
   }
 }
 
@@ -60,10 +48,9 @@ TEST(MapOfALargeRandomFile, IsAsTheSlowLoaderHasItAcrossThePiecesItIsReadIn) {
   const TempFolder folder;
   RandomText random("\t\t\n\rabcdefghijklmnop");
   for (const std::size_t size : {65535U, 65536U, 65537U, 131072U, 200'000U}) {
-    ExpectAsTheSlowLoader(folder.Write("x", random.Next(size)));
+    ExpectAsTheSlowLoader(folder, random.Next(size));
   }
-  ExpectAsTheSlowLoader(
-      folder.Write("x", std::string(65533, 'a') + "\tb\r\nc\td"));
+  ExpectAsTheSlowLoader(folder, std::string(65533, 'a') + "\tb\r\nc\td");
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 #include <velmohelp/resolve.h>
 
 #include "tests/rules/support/random_text.h"
+#include "tests/support/page_id_oracle.h"
 #include "tests/support/sentence.h"
 
 namespace velmohelp::testing {
@@ -104,29 +105,10 @@ TEST(HtmlPage, IsToldByItsEnd) {
   }
 }
 
-/// The rule as it is told: back to the start after each replacement.
-std::string SlowlyNormalised(std::string id) {
-  const std::string allowed =
-      "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ1234567890_-.";
-  if (id.find("http://") == 0 || id.find("https://") == 0 ||
-      id.find("file://") == 0) {
-    return id;
-  }
-  const auto ends_with = [&](const std::string& end) {
-    return id.size() >= end.size() && id.substr(id.size() - end.size()) == end;
-  };
-  if (ends_with(".html") || ends_with(".htm")) return id;
-  for (;;) {
-    const int at = static_cast<int>(id.find_first_not_of(allowed));
-    if (at < 0) return id + ".html";
-    id.replace(static_cast<std::size_t>(at), 1, "_");
-  }
-}
-
 void ExpectAsTheSlowRule(const std::string& id) {
   std::string normalised = id;
   NormalizePageID(normalised);
-  EXPECT_EQ(normalised, SlowlyNormalised(id));
+  EXPECT_EQ(normalised, OraclePageId(id));
 }
 
 TEST(PageIdOfAnyByte, IsAsTheSlowRuleHasIt) {

@@ -2,6 +2,7 @@
 #include <velmohelp/resolve.h>
 
 #include "tests/rules/support/random_text.h"
+#include "tests/support/map_oracle.h"
 #include "tests/support/sentence.h"
 
 namespace velmohelp::testing {
@@ -71,34 +72,13 @@ TEST(SplitAtAnyByte, TakesTheByteAsDelimiter) {
   }
 }
 
-/// The rule byte by byte: fields end at delimiters; a text without a delimiter
-/// behind its first field is one field, whole.
-Fields SlowlySplit(char delimiter, const std::string& text) {
-  Fields fields;
-  std::string field;
-  bool ended = false;
-  for (const char byte : text) {
-    if (byte != delimiter) {
-      field += byte;
-    } else if (!field.empty()) {
-      fields.push_back(field);
-      field.clear();
-      ended = true;
-    }
-  }
-  if (text.empty()) return {};
-  if (!ended) return {text};
-  if (!field.empty()) fields.push_back(field);
-  return fields;
-}
-
 TEST(SplitOfRandomTexts, IsAsTheSlowRuleHasIt) {
   RandomText random("\t\t\tab\n");
   for (int i = 0; i < 20'000; ++i) {
     const std::string text = random.Next(random.Below(12));
     Fields fields;
     DelimitedStringToDeque('\t', text, fields);
-    ASSERT_EQ(fields, SlowlySplit('\t', text))
+    ASSERT_EQ(fields, OracleFields('\t', text))
         << ::testing::PrintToString(text);
   }
 }

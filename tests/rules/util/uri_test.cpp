@@ -44,6 +44,8 @@ const Row kRows[] = {
     {"an empty text", "", "", std::nullopt},
     {"a scheme alone", "http:", "", std::nullopt},
     {"slashes alone", "//", "", std::nullopt},
+    {"a colon in front ends no scheme", "://h/p", "://h/p", std::nullopt},
+    {"a colon alone is a path", ":", ":", std::nullopt},
 };
 
 INSTANTIATE_TEST_SUITE_P(OfAText, UriParts, ::testing::ValuesIn(kRows),

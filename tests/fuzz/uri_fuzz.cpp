@@ -1,0 +1,29 @@
+// A URL, tested, taken apart and encoded. Regular expressions take no more.
+#include <velmohelp/text.h>
+#include <velmohelp/velmohelp.h>
+
+#include "platform/scripted/scripted_machine.h"
+#include "resolve/url_check.h"
+#include "tests/fuzz/input.h"
+#include "tests/support/uri_oracle.h"
+#include "util/uri.h"
+
+namespace velmohelp::testing {
+
+void Check(Input input) {
+  const std::string text = input.Rest().substr(0, 1100);
+  Same(PathOfUri(text), OracleUriPath(text));
+  Same(HostOfUri(text), OracleUriHost(text));
+  Same(Unescaped(text), OracleUnescaped(text));
+  Same(urlencode(text), OracleEncodedTerm(text));
+  const std::string url = OracleEncodedUri(text);
+  Same(ITEMInternal::VelmoHelpEncodeURIComponent(text), url);
+  std::string out(url.size() + 1, '#');
+  VelmoHelpEncodeURIComponent(text.c_str(), out.data(), std::ssize(url) + 1);
+  Same(out.c_str(), url);
+  ScriptedMachine machine;
+  machine.AddText(UriOf(text).value_or(""));
+  Same(ValidateUrl(machine, text, true), OracleIsUri(text));
+}
+
+}  // namespace velmohelp::testing
