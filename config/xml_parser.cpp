@@ -41,7 +41,7 @@ bool XMLParser::ReadFileToBuffer(std::string path) {
   buffer_.clear();
   std::ifstream file = velmohelp::OpenInputFile(path);
   if (!file.is_open()) return false;
-  velmohelp::ReserveForFile(buffer_, path);
+  buffer_.reserve(velmohelp::FileSizeHint(path));
   try {
     ReadPieces(file, buffer_);
   } catch (const std::ios_base::failure&) {

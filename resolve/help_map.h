@@ -7,6 +7,8 @@
 #include <string>
 #include <string_view>
 
+#include "util/file_text.h"
+
 namespace velmohelp {
 
 using HelpMap = std::map<std::string, std::string>;
@@ -17,9 +19,9 @@ inline constexpr char kHomePageKey[] = "VX_HOME";
 inline constexpr char kHelpMapName[] = "helpmap.txt";
 inline constexpr char kHelpMapBaseUrlName[] = "helpmapBaseUrl.txt";
 
-/// Puts the entries of a help map's text into an empty map. The first of
+/// Makes map hold the entries of a help map's text, and no others. The first of
 /// several entries of a key stays.
-void InsertEntries(std::string_view text, HelpMap& map);
+void FillHelpMap(std::string_view text, HelpMap& map);
 
 /// The help maps that one search reads, of which the caller gets to see only
 /// the last: it alone is built as a map, the others are searched as text.
@@ -55,7 +57,8 @@ class HelpMapsRead {
   void Keep();
 
   HelpMap& last_;
-  std::optional<std::string> text_;
+  FileText text_;
+  bool was_read_ = false;
 };
 
 /// A base URL with the zone separator of its IPv6 host percent-encoded, by the

@@ -1,73 +1,110 @@
 #include "resolve/help_map_order.h"
 
 #include <algorithm>
-#include <cstdint>
+#include <array>
 #include <span>
+
+#include "resolve/help_map_text.h"
 
 namespace velmohelp {
 namespace {
 
-using Entries = std::vector<HelpMapEntry>;
+using Places = std::span<EntryPlace>;
 
-/// An entry's place in the file, and eight bytes of its key as a number that
-/// compares as they do: keys lie all over the file's text, and a comparison
-/// that goes there waits for memory.
-struct Rank {
-  std::uint64_t bytes;
-  std::size_t place;
-};
-
-/// Behind so many equal bytes, and among so few keys, keys are compared whole.
+/// Among so few keys, and behind so many equal bytes, keys are compared whole.
+constexpr std::size_t kFew = 24;
 constexpr std::size_t kDeepest = 64;
-constexpr std::size_t kFew = 16;
 
-/// Zero bytes stand for what is not there.
-std::uint64_t BytesAt(std::string_view key, std::size_t depth) {
-  std::uint64_t bytes = 0;
-  for (std::size_t i = depth; i < depth + sizeof bytes; ++i) {
-    const char byte = i < key.size() ? key[i] : '\0';
-    bytes = bytes << 8U | static_cast<unsigned char>(byte);
+/// The bytes at a place that lies in a key or at its end. Zero bytes stand for
+/// what is not there.
+Word BytesAt(const char* at, const char* end) {
+  std::array<char, sizeof(Word)> bytes;
+  const auto left = static_cast<std::size_t>(end - at);
+  if (left < bytes.size()) {
+    bytes.fill('\t');
+    at = std::copy(at, end, bytes.begin()) - left;
   }
-  return bytes;
+  Word word = LoadWord(at);
+  const Word tabs = MarkBelow(word ^ EightTimes('\t'), 1);
+  if (tabs != 0) word &= (Word{1} << FirstMarked(tabs) * 8) - 1;
+  return __builtin_bswap64(word);
 }
 
-void SortWhole(std::span<Rank> ranks, const Entries& entries) {
-  std::ranges::sort(ranks, [&](const Rank& a, const Rank& b) {
-    const int order = entries[a.place].key.compare(entries[b.place].key);
-    return order != 0 ? order < 0 : a.place < b.place;
-  });
+std::size_t ByteOf(const EntryPlace& place, std::size_t depth) {
+  return place.bytes >> (56U - depth % sizeof(Word) * 8U) & 255U;
 }
 
-/// All keys are the same up to depth.
-void SortFrom(std::size_t depth, std::span<Rank> ranks,
-              const Entries& entries) {
-  if (ranks.size() <= kFew || depth >= kDeepest) {
-    return SortWhole(ranks, entries);
+/// Sorts the places of a text that ends at end, stably: by one byte of the key
+/// after the other, and those with the same bytes among themselves.
+class Sorter {
+ public:
+  Sorter(Places all, const char* end) : scratch_(all.size()), end_(end) {
+    Sort(all, 0);
   }
-  for (Rank& rank : ranks) {
-    rank.bytes = BytesAt(entries[rank.place].key, depth);
-  }
-  std::ranges::sort(ranks, {}, &Rank::bytes);
-  for (std::size_t end = 0; end < ranks.size();) {
-    const std::size_t start = end;
-    while (end < ranks.size() && ranks[end].bytes == ranks[start].bytes) ++end;
-    if (end - start > 1) {
-      SortFrom(depth + sizeof(Rank::bytes), ranks.subspan(start, end - start),
-               entries);
+
+ private:
+  /// All keys are the same up to depth, and longer or ended there.
+  void Sort(Places places, std::size_t depth) {
+    if (depth % sizeof(Word) == 0) {
+      for (auto& place : places)
+        place.bytes = BytesAt(place.start + depth, end_);
+    }
+    if (places.size() <= kFew || depth >= kDeepest) return SortWhole(places);
+    GroupByByte(places, depth);
+    for (std::size_t end = 0; end < places.size();) {
+      const std::size_t start = end;
+      const std::size_t byte = ByteOf(places[start], depth);
+      while (end < places.size() && ByteOf(places[end], depth) == byte) ++end;
+      SortGroup(places.subspan(start, end - start), depth);
     }
   }
-}
+
+  /// Behind a zero byte keys may have ended.
+  void SortGroup(Places group, std::size_t depth) {
+    if (group.size() == 1) return;
+    if (ByteOf(group.front(), depth) == 0) return SortWhole(group);
+    Sort(group, depth + 1);
+  }
+
+  void GroupByByte(Places places, std::size_t depth) {
+    std::array<std::size_t, 257> starts{};
+    for (const auto& place : places) ++starts[ByteOf(place, depth) + 1];
+    const std::size_t first = ByteOf(places.front(), depth);
+    if (starts[first + 1] == places.size()) return;
+    for (std::size_t i = 1; i < starts.size(); ++i) starts[i] += starts[i - 1];
+    for (const auto& place : places) {
+      scratch_[starts[ByteOf(place, depth)]++] = place;
+    }
+    std::copy_n(scratch_.begin(), places.size(), places.begin());
+  }
+
+  void SortWhole(Places places) const {
+    std::ranges::sort(places, [&](const EntryPlace& a, const EntryPlace& b) {
+      if (a.bytes != b.bytes) return a.bytes < b.bytes;
+      const int order = KeyOf(a).compare(KeyOf(b));
+      return order != 0 ? order < 0 : a.start < b.start;
+    });
+  }
+
+  std::string_view KeyOf(const EntryPlace& place) const {
+    HelpMapEntry entry;
+    HelpMapReader({place.start, end_}).TakeLine(entry);
+    return entry.key;
+  }
+
+  std::vector<EntryPlace> scratch_;
+  const char* end_;
+};
 
 }  // namespace
 
-void SortByKey(Entries& entries) {
-  std::vector<Rank> ranks(entries.size());
-  for (std::size_t i = 0; i < ranks.size(); ++i) ranks[i].place = i;
-  SortFrom(0, ranks, entries);
-  Entries sorted;
-  sorted.reserve(entries.size());
-  for (const Rank& rank : ranks) sorted.push_back(entries[rank.place]);
-  entries = std::move(sorted);
+std::vector<EntryPlace> EntriesByKey(std::string_view text) {
+  std::vector<EntryPlace> places;
+  HelpMapReader reader(text);
+  HelpMapEntry entry;
+  while (reader.Next(entry)) places.push_back({0, entry.key.data()});
+  const Sorter sorted(places, text.data() + text.size());
+  return places;
 }
 
 }  // namespace velmohelp

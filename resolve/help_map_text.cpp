@@ -1,46 +1,38 @@
 #include "resolve/help_map_text.h"
 
-#include <array>
-
-#include "util/input_file.h"
+#include "util/word_scan.h"
 
 namespace velmohelp {
 namespace {
 
-constexpr std::string_view kFieldEnds = "\t\r\n";
+bool EndsField(char c) { return c == '\t' || EndsLine(c); }
 
-bool EndsLine(char c) { return c == '\n' || c == '\r'; }
+/// All three bytes that end a field lie below this one, and no others that one
+/// meets in a help map.
+constexpr unsigned char kAboveFieldEnds = '\r' + 1;
 
-/// One look where three comparisons would be made for every byte of a map.
-constexpr std::array<bool, 256> kEndsField = [] {
-  std::array<bool, 256> table{};
-  for (const char c : kFieldEnds) table[static_cast<unsigned char>(c)] = true;
-  return table;
-}();
-
-bool EndsField(char c) { return kEndsField[static_cast<unsigned char>(c)]; }
-
-/// Whether nothing but TABs stands between position and its line's start.
-bool BeginsLine(std::string_view text, std::size_t position) {
-  const std::size_t before = text.substr(0, position).find_last_not_of('\t');
-  return before == std::string_view::npos || EndsLine(text[before]);
-}
-
-/// Beyond this length a key is looked for line by line: a search may compare
-/// most of a key at every byte of the text, a walk compares it once a line.
-constexpr std::size_t kLongestSearched = 256;
-
-std::optional<std::string_view> WalkToEntry(std::string_view text,
-                                            std::string_view key) {
-  HelpMapReader reader(text);
-  HelpMapEntry entry;
-  while (reader.Next(entry)) {
-    if (entry.key == key) return entry.value;
+/// The first byte that ends a field, or end.
+inline const char* FieldEnd(const char* at, const char* end) {
+  while (static_cast<std::size_t>(end - at) >= sizeof(Word)) {
+    const Word marks = MarkBelow(LoadWord(at), kAboveFieldEnds);
+    if (marks == 0) {
+      at += sizeof(Word);
+      continue;
+    }
+    at += FirstMarked(marks);
+    if (EndsField(*at)) return at;
+    ++at;
   }
-  return std::nullopt;
+  while (at != end && !EndsField(*at)) ++at;
+  return at;
 }
 
 }  // namespace
+
+std::string_view WholeLines(std::string_view text) {
+  while (!text.empty() && !EndsLine(text.back())) text.remove_suffix(1);
+  return text;
+}
 
 bool HelpMapReader::Next(HelpMapEntry& entry) {
   while (at_ != end_) {
@@ -59,49 +51,14 @@ bool HelpMapReader::TakeLine(HelpMapEntry& entry) {
 std::string_view HelpMapReader::TakeField() {
   while (at_ != end_ && *at_ == '\t') ++at_;
   const char* start = at_;
-  while (at_ != end_ && !EndsField(*at_)) ++at_;
+  at_ = FieldEnd(at_, end_);
   return {start, at_};
 }
 
 /// The LF of a CR LF is left to be an empty line, which holds no entry.
 void HelpMapReader::SkipLine() {
-  while (at_ != end_ && !EndsLine(*at_)) ++at_;
+  while (at_ != end_ && !EndsLine(*at_)) at_ = FieldEnd(at_ + 1, end_);
   if (at_ != end_) ++at_;
-}
-
-std::optional<std::string_view> FindEntry(std::string_view text,
-                                          std::string_view key) {
-  constexpr std::size_t kNone = std::string_view::npos;
-  if (key.empty() || key.find_first_of(kFieldEnds) != kNone) return {};
-  if (key.size() > kLongestSearched) return WalkToEntry(text, key);
-  for (std::size_t at = text.find(key); at != kNone;
-       at = text.find(key, at + 1)) {
-    HelpMapEntry entry;
-    if (BeginsLine(text, at) &&
-        HelpMapReader(text.substr(at)).TakeLine(entry) && entry.key == key) {
-      return entry.value;
-    }
-  }
-  return std::nullopt;
-}
-
-bool ReadHelpMapText(const std::string& path, std::string& text) {
-  text.clear();
-  std::ifstream file = OpenInputFile(path);
-  if (!file.is_open()) return false;
-  ReserveForFile(text, path);
-  std::array<char, 65536> piece;
-  std::size_t size = 0;
-  try {
-    do {
-      size = ReadPiece(file, piece.data(), piece.size());
-      text.append(piece.data(), size);
-    } while (size == piece.size());
-  } catch (const std::ios_base::failure&) {
-    text.resize(text.find_last_of("\r\n") + 1);
-    throw;
-  }
-  return true;
 }
 
 }  // namespace velmohelp

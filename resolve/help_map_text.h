@@ -3,7 +3,6 @@
 #define RESOLVE_HELP_MAP_TEXT_H_
 
 #include <optional>
-#include <string>
 #include <string_view>
 
 namespace velmohelp {
@@ -12,6 +11,12 @@ struct HelpMapEntry {
   std::string_view key;
   std::string_view value;
 };
+
+/// Both bytes can end a line.
+constexpr bool EndsLine(char c) { return c == '\n' || c == '\r'; }
+
+/// The bytes of text up to the end of its last line that has one.
+std::string_view WholeLines(std::string_view text);
 
 /// Walks through the entries of a text, which must outlive it.
 class HelpMapReader {
@@ -36,11 +41,6 @@ class HelpMapReader {
 /// The value of the first entry of key, without walking through the others.
 std::optional<std::string_view> FindEntry(std::string_view text,
                                           std::string_view key);
-
-/// Reads a help map file into text. False, with text empty, when it cannot be
-/// opened. Throws std::ios_base::failure on a hard read error; text then holds
-/// the complete lines before it.
-bool ReadHelpMapText(const std::string& path, std::string& text);
 
 }  // namespace velmohelp
 

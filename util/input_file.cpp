@@ -14,15 +14,15 @@ std::ifstream OpenInputFile(const std::string& path) {
   return file;
 }
 
-std::size_t ReadPiece(std::ifstream& file, char* buffer, std::size_t size) {
+std::size_t ReadPiece(std::istream& file, char* buffer, std::size_t size) {
   file.read(buffer, static_cast<std::streamsize>(size));
   return static_cast<std::size_t>(file.gcount());
 }
 
-void ReserveForFile(std::string& text, const std::string& path) {
+std::size_t FileSizeHint(const std::string& path) {
   std::error_code unknown;
   const std::uintmax_t size = std::filesystem::file_size(path, unknown);
-  if (!unknown) text.reserve(size);
+  return unknown ? 0 : size;
 }
 
 }  // namespace velmohelp

@@ -15,11 +15,11 @@ namespace velmohelp {
 std::ifstream OpenInputFile(const std::string& path);
 
 /// Reads up to size bytes; the number read is below size only at the end.
-std::size_t ReadPiece(std::ifstream& file, char* buffer, std::size_t size);
+std::size_t ReadPiece(std::istream& file, char* buffer, std::size_t size);
 
-/// Makes room in text for the whole file at path, where its size is known:
-/// text that grows as it is read is copied, and its memory touched, many times.
-void ReserveForFile(std::string& text, const std::string& path);
+/// The size of the file at path, 0 where nobody knows. A hint: text that grows
+/// as it is read is copied, and its memory touched, many times.
+std::size_t FileSizeHint(const std::string& path);
 
 }  // namespace velmohelp
 

@@ -10,6 +10,7 @@
 
 #include "util/ascii.h"
 #include "util/platform_string.h"
+#include "util/search_term.h"
 #include "util/uri.h"
 
 namespace {
@@ -47,11 +48,8 @@ constexpr EscapeTable EscapeAllBut(bool (*stays)(char), const char* digits) {
   return table;
 }
 
-/// "-", "_" and "." are not among these: search pages expect them escaped.
 constexpr bool StaysInSearchTerm(char byte) {
-  constexpr std::string_view kMarks = "'()*!~";
-  return velmohelp::IsAsciiAlnum(byte) ||
-         kMarks.find(byte) != std::string_view::npos;
+  return velmohelp::StaysInSearchTerm(static_cast<unsigned char>(byte)) != 0;
 }
 
 constexpr EscapeTable kSearchTermTable =
@@ -73,9 +71,9 @@ std::size_t EscapedSize(std::string_view text, const EscapeTable& table) {
 /// grows is touched more than once, and that is most of the cost. Each byte is
 /// written without asking what it is: in running text nobody can guess which
 /// one is escaped, a processor neither.
-std::string Escaped(std::string_view text, const EscapeTable& table) {
+std::string Escaped(std::string_view text, const EscapeTable& table,
+                    std::size_t size) {
   constexpr std::size_t kCopiedAtOnce = sizeof Written::bytes;
-  const std::size_t size = EscapedSize(text, table);
   if (size == text.size()) return std::string(text);
   std::string out(size + kCopiedAtOnce, '\0');
   char* to = out.data();
@@ -98,8 +96,9 @@ std::string velmohelp::EscapeForUri(std::string_view text) {
     const std::size_t length =
         IsPercentEscape(text) ? 3 : std::min(text.find('%', 1), text.size());
     const std::string_view piece = text.substr(0, length);
-    out +=
-        IsPercentEscape(text) ? std::string(piece) : Escaped(piece, kUriTable);
+    out += IsPercentEscape(text)
+               ? std::string(piece)
+               : Escaped(piece, kUriTable, EscapedSize(piece, kUriTable));
     text.remove_prefix(length);
   }
   return out;
@@ -114,7 +113,8 @@ std::string char2hex(char byte) {
 std::string urlencode(const std::string& text) {
   // Lengths are signed 32-bit counts: 2 GiB and more count as less than none.
   if (text.size() > std::numeric_limits<std::int32_t>::max()) return "";
-  return Escaped(text, kSearchTermTable);
+  const std::size_t escaped = text.size() - velmohelp::CountStaying(text);
+  return Escaped(text, kSearchTermTable, text.size() + 2 * escaped);
 }
 
 std::string ITEMInternal::VelmoHelpEncodeURIComponent(const std::string& text) {

@@ -1,8 +1,8 @@
 // bench_sample NAME ARGUMENT...: takes one sample and prints its nanoseconds.
 #include <cstdio>
 #include <exception>
+#include <filesystem>
 #include <fstream>
-#include <iterator>
 
 #include "bench/speed/samples/samples.h"
 
@@ -11,7 +11,10 @@ namespace velmohelp::bench {
 std::string Contents(const std::string& path) {
   std::ifstream file(path, std::ios::binary);
   Require(file.is_open(), path.c_str());
-  return {std::istreambuf_iterator<char>(file), {}};
+  std::string contents(std::filesystem::file_size(path), '\0');
+  file.read(contents.data(), static_cast<std::streamsize>(contents.size()));
+  Require(file.good(), path.c_str());
+  return contents;
 }
 
 namespace {

@@ -4,6 +4,7 @@
 #include <unistd.h>
 #include <velmohelp/resolve.h>
 
+#include <algorithm>
 #include <cstring>
 #include <string_view>
 
@@ -20,9 +21,13 @@ struct Fields {
   std::string_view value;
 };
 
-/// The fields of a well-formed map: one TAB and one LF a line.
+/// The fields of a well-formed map: one TAB and one LF a line. The room for them
+/// is taken at once: what a vector that grows gives back is memory that has been
+/// touched, and a map that is built in it looks cheap.
 std::vector<Fields> Split(std::string_view text) {
   std::vector<Fields> all;
+  all.reserve(
+      static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n')));
   while (!text.empty()) {
     const std::size_t tab = text.find('\t');
     const std::size_t end = text.find('\n', tab);

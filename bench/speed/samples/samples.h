@@ -23,7 +23,8 @@ inline void Require(bool holds, const char* what) {
   if (!holds) throw std::runtime_error(what);
 }
 
-/// A whole file. For what a sample is given, not for what it measures.
+/// A whole file. For what a sample is given, not for what it measures: nothing
+/// that was touched for it is free again.
 std::string Contents(const std::string& path);
 
 }  // namespace velmohelp::bench

@@ -12,7 +12,7 @@ namespace {
 std::optional<std::string> ByMap(const std::string& text,
                                  const std::string& key) {
   HelpMap map;
-  InsertEntries(text, map);
+  FillHelpMap(text, map);
   const auto entry = map.find(key);
   if (entry == map.end()) return std::nullopt;
   return entry->second;

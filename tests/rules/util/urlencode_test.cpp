@@ -8,6 +8,12 @@
 namespace velmohelp::testing {
 namespace {
 
+std::string SlowlyEncoded(const std::string& text) {
+  std::string encoded;
+  for (const char byte : text) encoded += urlencode(std::string(1, byte));
+  return encoded;
+}
+
 TEST(SearchTerm, PassesLettersDigitsAndSixMarksAlone) {
   const std::string passing =
       "0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz'()*!~";
@@ -25,6 +31,20 @@ TEST(SearchTerm, IsEncodedByteByByte) {
   EXPECT_EQ(urlencode("a b+c%20"), "a%20b%2bc%2520");
   EXPECT_EQ(urlencode("http://x/?q"), "http%3a%2f%2fx%2f%3fq");
   EXPECT_EQ(urlencode(std::string("\0\xFF", 2)), "%00%ff");
+}
+
+TEST(SearchTerm, IsEncodedByteByByteAtAnyLength) {
+  RandomText random("abcXYZ019'*~ -_.&\xC3\x9C@[`{/:");
+  for (std::size_t length = 0; length < 80; ++length) {
+    const std::string text = random.Next(length);
+    EXPECT_EQ(urlencode(text), SlowlyEncoded(text));
+  }
+  for (const std::size_t length : {4079U, 4080U, 4081U, 4096U, 10'000U}) {
+    const std::string text(length, 'a');
+    EXPECT_EQ(urlencode(text), text);
+    EXPECT_EQ(urlencode(text + "."), text + "%2e");
+    EXPECT_EQ(urlencode("." + text), "%2e" + text);
+  }
 }
 
 TEST(SearchTerm, MayBeMegabytes) {

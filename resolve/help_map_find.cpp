@@ -1,0 +1,61 @@
+// One entry of a help map's text, found without taking the text apart.
+#include "resolve/help_map_text.h"
+#include "util/word_scan.h"
+
+namespace velmohelp {
+namespace {
+
+constexpr std::size_t kNone = std::string_view::npos;
+
+/// Where first stands with second behind it, from position at on.
+std::size_t FindPair(std::string_view text, std::size_t at, char first,
+                     char second) {
+  const Word firsts = EightTimes(static_cast<unsigned char>(first));
+  const Word seconds = EightTimes(static_cast<unsigned char>(second));
+  for (; at + sizeof(Word) < text.size(); at += sizeof(Word)) {
+    const char* bytes = text.data() + at;
+    const Word differing =
+        (LoadWord(bytes) ^ firsts) | (LoadWord(bytes + 1) ^ seconds);
+    const Word marks = MarkBelow(differing, 1);
+    if (marks != 0) return at + FirstMarked(marks);
+  }
+  const char pair[] = {first, second};
+  return text.find(pair, at, sizeof pair);
+}
+
+/// Whether nothing but TABs stands between position and its line's start.
+bool BeginsLine(std::string_view text, std::size_t position) {
+  const std::size_t before = text.substr(0, position).find_last_not_of('\t');
+  return before == kNone || EndsLine(text[before]);
+}
+
+/// The value of key's entry whose key ends in front of position end. The cheap
+/// question comes first, and the key is compared only at a line's start: each
+/// byte is looked at so often and no more, whatever the text repeats.
+std::optional<std::string_view> ValueAt(std::string_view text, std::size_t end,
+                                        std::string_view key) {
+  if (end < key.size()) return std::nullopt;
+  const std::size_t start = end - key.size();
+  if (text[start] != key.front() || !BeginsLine(text, start)) return {};
+  if (text.substr(start, key.size()) != key) return {};
+  HelpMapEntry entry;
+  if (!HelpMapReader(text.substr(start)).TakeLine(entry)) return {};
+  return entry.value;
+}
+
+}  // namespace
+
+/// Looks for the last byte of the key and the TAB behind it: few lines have
+/// both, whereas the keys of a map often begin alike.
+std::optional<std::string_view> FindEntry(std::string_view text,
+                                          std::string_view key) {
+  if (key.empty() || key.find_first_of("\t\r\n") != kNone) return {};
+  const char last = key.back();
+  for (std::size_t at = FindPair(text, 0, last, '\t'); at != kNone;
+       at = FindPair(text, at + 1, last, '\t')) {
+    if (const auto value = ValueAt(text, at + 1, key)) return value;
+  }
+  return std::nullopt;
+}
+
+}  // namespace velmohelp

@@ -1,0 +1,32 @@
+#include "resolve/help_map_lines.h"
+
+#include "resolve/help_map_text.h"
+
+namespace velmohelp {
+
+bool HelpMapLines::Next() {
+  text_.KeepLast(text_.bytes().size() - whole_);
+  whole_ = 0;
+  while (whole_ == 0 && Read()) continue;
+  return whole_ > 0;
+}
+
+void HelpMapLines::ReadRest(std::string_view rest, std::size_t size) {
+  text_.KeepLast(text_.bytes().size() - whole_ + rest.size());
+  whole_ = rest.size();
+  text_.Reserve(size + FileText::kPieceSize);
+  while (Read()) continue;
+}
+
+/// Looks for a line's end only in what is new: a line may be as long as the
+/// file.
+bool HelpMapLines::Read() {
+  const std::size_t before = text_.bytes().size();
+  const bool more = text_.AppendPiece(file_);
+  const std::size_t in_piece = WholeLines(text_.bytes().substr(before)).size();
+  if (in_piece > 0) whole_ = before + in_piece;
+  if (!more) whole_ = text_.bytes().size();
+  return more;
+}
+
+}  // namespace velmohelp
