@@ -46,8 +46,9 @@ class Sorter {
   /// All keys are the same up to depth, and longer or ended there.
   void Sort(Places places, std::size_t depth) {
     if (depth % sizeof(Word) == 0) {
-      for (auto& place : places)
+      for (auto& place : places) {
         place.bytes = BytesAt(place.start + depth, end_);
+      }
     }
     if (places.size() <= kFew || depth >= kDeepest) return SortWhole(places);
     GroupByByte(places, depth);
@@ -78,12 +79,16 @@ class Sorter {
     std::copy_n(scratch_.begin(), places.size(), places.begin());
   }
 
+  /// Keys that are all the same are in order as they stand.
   void SortWhole(Places places) const {
-    std::ranges::sort(places, [&](const EntryPlace& a, const EntryPlace& b) {
+    const auto before = [&](const EntryPlace& a, const EntryPlace& b) {
       if (a.bytes != b.bytes) return a.bytes < b.bytes;
       const int order = KeyOf(a).compare(KeyOf(b));
       return order != 0 ? order < 0 : a.start < b.start;
-    });
+    };
+    if (!std::ranges::is_sorted(places, before)) {
+      std::ranges::sort(places, before);
+    }
   }
 
   std::string_view KeyOf(const EntryPlace& place) const {

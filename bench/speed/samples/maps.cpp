@@ -21,9 +21,9 @@ struct Fields {
   std::string_view value;
 };
 
-/// The fields of a well-formed map: one TAB and one LF a line. The room for them
-/// is taken at once: what a vector that grows gives back is memory that has been
-/// touched, and a map that is built in it looks cheap.
+/// The fields of a well-formed map: one TAB and one LF a line. The room for
+/// them is taken at once: what a vector that grows gives back is memory that
+/// has been touched, and a map that is built in it looks cheap.
 std::vector<Fields> Split(std::string_view text) {
   std::vector<Fields> all;
   all.reserve(
