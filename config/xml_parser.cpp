@@ -24,13 +24,16 @@ void AppendPieces(std::string& text, const char* bytes, std::size_t size) {
   }
 }
 
-void ReadPieces(std::ifstream& file, std::string& text) {
+/// False when the file is too long to be read to its end.
+bool ReadPieces(std::ifstream& file, std::string& text) {
   std::array<char, kPieceSize * kPiecesAtOnce> bytes;
-  std::size_t size = 0;
-  do {
-    size = velmohelp::ReadPiece(file, bytes.data(), bytes.size());
+  for (std::size_t at = 0; at <= velmohelp::kLongestFile; at += bytes.size()) {
+    const std::size_t size =
+        velmohelp::ReadPiece(file, bytes.data(), bytes.size());
     AppendPieces(text, bytes.data(), size);
-  } while (size == bytes.size());
+    if (size < bytes.size()) return true;
+  }
+  return false;
 }
 
 }  // namespace
@@ -39,16 +42,17 @@ XMLParser::XMLParser() = default;
 
 bool XMLParser::ReadFileToBuffer(std::string path) {
   buffer_.clear();
-  std::ifstream file = velmohelp::OpenInputFile(path);
+  std::size_t size = 0;
+  std::ifstream file = velmohelp::OpenInputFile(path, &size);
   if (!file.is_open()) return false;
-  buffer_.reserve(velmohelp::FileSizeHint(path));
+  buffer_.reserve(size);
   try {
-    ReadPieces(file, buffer_);
+    if (ReadPieces(file, buffer_)) return true;
   } catch (const std::ios_base::failure&) {
-    buffer_.clear();
-    return false;
+    // Half a file says nothing, as one that is too long does.
   }
-  return true;
+  buffer_.clear();
+  return false;
 }
 
 std::string XMLParser::GetKey(std::string key) const {

@@ -12,8 +12,9 @@ namespace {
 
 void Load(const std::string& path, HelpMap& map) {
   HelpMapFiller filler(map);
-  std::ifstream file = OpenInputFile(path);
-  if (file.is_open()) filler.PutFile(file, FileSizeHint(path));
+  std::size_t size = 0;
+  std::ifstream file = OpenInputFile(path, &size);
+  if (file.is_open()) filler.PutFile(file, size);
 }
 
 }  // namespace
@@ -23,11 +24,12 @@ void FillHelpMap(std::string_view text, HelpMap& map) {
 }
 
 bool HelpMapsRead::Read(const std::string& path) {
-  text_.KeepFirst(0);
+  text_.Clear();
   was_read_ = true;
-  std::ifstream file = OpenInputFile(path);
+  std::size_t size = 0;
+  std::ifstream file = OpenInputFile(path, &size);
   if (!file.is_open()) return false;
-  text_.Reserve(FileSizeHint(path) + FileText::kPieceSize);
+  text_.Reserve(size + FileText::kPieceSize);
   try {
     while (text_.AppendPiece(file)) continue;
   } catch (const std::ios_base::failure&) {

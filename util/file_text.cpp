@@ -26,7 +26,8 @@ bool FileText::AppendPiece(std::istream& file) {
   }
   const std::size_t size = ReadPiece(file, room_.get() + size_, kPieceSize);
   size_ += size;
-  return size == kPieceSize;
+  read_ += size;
+  return size == kPieceSize && read_ <= kLongestFile;
 }
 
 }  // namespace velmohelp

@@ -19,6 +19,9 @@ class FileText {
   /// Valid until anything else is called.
   std::string_view bytes() const { return {room_.get(), size_}; }
 
+  /// Drops all, for another file.
+  void Clear() { size_ = read_ = 0; }
+
   /// Drops all but the last size bytes.
   void KeepLast(std::size_t size);
 
@@ -28,14 +31,17 @@ class FileText {
   /// Makes room for so many bytes in all; keeps those that are there.
   void Reserve(std::size_t size);
 
-  /// Appends the file's next piece; false when the file ends with it. What is
-  /// thrown when the file breaks leaves the pieces before.
+  /// Appends the file's next piece; false when the file ends with it, or has
+  /// become longer than kLongestFile: one that grows without an end has its
+  /// end there. What is thrown when the file breaks leaves the pieces before.
   bool AppendPiece(std::istream& file);
 
  private:
   std::unique_ptr<char[]> room_;
   std::size_t capacity_ = 0;
   std::size_t size_ = 0;
+  /// How many bytes of the file have come, those included that were dropped.
+  std::size_t read_ = 0;
 };
 
 }  // namespace velmohelp

@@ -4,25 +4,35 @@
 
 namespace velmohelp {
 
-std::ifstream OpenInputFile(const std::string& path) {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// 0 where nobody knows.
+std::uintmax_t SizeOf(const fs::path& path) {
+  std::error_code unknown;
+  const std::uintmax_t size = fs::file_size(path, unknown);
+  return unknown ? 0 : size;
+}
+
+}  // namespace
+
+std::ifstream OpenInputFile(const std::string& name, std::size_t* size) {
   std::ifstream file;
   file.exceptions(std::ios_base::badbit);
   std::error_code ignored;
-  if (!std::filesystem::is_other(path, ignored)) {
+  const fs::path path(name);
+  const std::uintmax_t known = SizeOf(path);
+  if (known <= kLongestFile && !fs::is_other(path, ignored)) {
     file.open(path, std::ios_base::in | std::ios_base::binary);
   }
+  if (size != nullptr) *size = known;
   return file;
 }
 
 std::size_t ReadPiece(std::istream& file, char* buffer, std::size_t size) {
   file.read(buffer, static_cast<std::streamsize>(size));
   return static_cast<std::size_t>(file.gcount());
-}
-
-std::size_t FileSizeHint(const std::string& path) {
-  std::error_code unknown;
-  const std::uintmax_t size = std::filesystem::file_size(path, unknown);
-  return unknown ? 0 : size;
 }
 
 }  // namespace velmohelp

@@ -52,9 +52,10 @@ VELMOHELP_API bool ValidateURL(std::string target, bool fetch);
 /// Reads a help map: one entry a line, key and value parted by TABs, the first
 /// entry of a key wins, lines without two fields are skipped. Empties map
 /// first. True when the file was read and map holds "VX_HOME"; false with the
-/// entries in map when it does not, and with an empty map when nothing, or a
-/// pipe or a device, can be opened. Throws std::ios_base::failure when an
-/// opened file cannot be read to its end; a directory is such a file.
+/// entries in map when it does not, and with an empty map when nothing, a pipe,
+/// a device or a file of 2 GiB and more lies there. Throws
+/// std::ios_base::failure when an opened file cannot be read to its end; a
+/// directory is such a file.
 VELMOHELP_API bool LoadMapFile(const std::string& path,
                                std::map<std::string, std::string>& map);
 
