@@ -26,14 +26,13 @@ Reads::~Reads() { before_read = nullptr; }
 }  // namespace velmohelp::testing
 
 /// Takes the place of the C library's, for the C++ library too.
-extern "C" VELMOHELP_API ssize_t read(int descriptor, void* bytes,
-                                      size_t size) {
+extern "C" VELMOHELP_API ssize_t read(int fd, void* buf, size_t nbytes) {
   using namespace velmohelp::testing;
   const int answer = before_read ? before_read(++number) : 0;
-  if (answer == 0) return syscall(SYS_read, descriptor, bytes, size);
+  if (answer == 0) return syscall(SYS_read, fd, buf, nbytes);
   if (answer == kZeroBytes) {
-    std::memset(bytes, 0, size);
-    return static_cast<ssize_t>(size);
+    std::memset(buf, 0, nbytes);
+    return static_cast<ssize_t>(nbytes);
   }
   errno = answer;
   return -1;
