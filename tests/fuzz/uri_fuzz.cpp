@@ -1,4 +1,4 @@
-// A URL, tested, taken apart and encoded. Regular expressions take no more.
+// A URL: tested, taken apart and encoded as the slow rules do it.
 #include <velmohelp/text.h>
 #include <velmohelp/velmohelp.h>
 
@@ -11,7 +11,7 @@
 namespace velmohelp::testing {
 
 void Check(Input input) {
-  const std::string text = input.Rest().substr(0, 1100);
+  const std::string text = input.Rest();
   Same(PathOfUri(text), OracleUriPath(text));
   Same(HostOfUri(text), OracleUriHost(text));
   Same(Unescaped(text), OracleUnescaped(text));

@@ -2,7 +2,6 @@
 
 #include <iconv.h>
 
-#include <regex>
 #include <sstream>
 
 #include "tests/support/key_oracle.h"

@@ -1,7 +1,6 @@
 #include "tests/support/uri_oracle.h"
 
 #include <cstdio>
-#include <regex>
 #include <vector>
 
 #include "tests/support/unicode_oracle.h"
@@ -20,48 +19,59 @@ std::string Printed(const char* format, char byte) {
   return text;
 }
 
-/// The parts of a reference by RFC 3986, appendix B: 4 is the authority, 5 the
-/// path.
-std::smatch PartsOf(const std::string& uri) {
-  static const std::regex kParts(
-      R"(^(([^:/?#]+):)?(//([^/?#]*))?([^?#]*)(\?([^#]*))?(#([^]*))?$)");
-  std::smatch parts;
-  std::regex_match(uri, parts, kParts);
-  return parts;
+/// What stands before the first such byte: all of the text without one.
+std::string Before(char byte, const std::string& text) {
+  return text.substr(0, text.find(byte));
+}
+
+/// A reference without its fragment, its query and its scheme.
+std::string HierarchyOf(const std::string& uri) {
+  std::string rest = Before('?', Before('#', uri));
+  const std::string scheme = Before(':', Before('/', rest));
+  const bool has_scheme = !scheme.empty() && rest[scheme.size()] == ':';
+  return has_scheme ? rest.substr(scheme.size() + 1) : rest;
+}
+
+std::string AuthorityOf(const std::string& uri) {
+  const std::string rest = HierarchyOf(uri);
+  return rest.find("//") == 0 ? Before('/', rest.substr(2)) : "";
+}
+
+bool IsHexDigit(char byte) {
+  return std::string("0123456789ABCDEFabcdef").find(byte) != std::string::npos;
 }
 
 bool IsEscape(const std::string& text) {
-  static const std::regex kEscape("%[0-9A-Fa-f]{2}");
-  return std::regex_match(text, kEscape);
+  return text.size() == 3 && text[0] == '%' && IsHexDigit(text[1]) &&
+         IsHexDigit(text[2]);
+}
+
+bool IsUriByte(char byte) {
+  return std::string(kUriCharacters).find(byte) != std::string::npos;
 }
 
 }  // namespace
 
 bool OracleIsUri(const std::string& text) {
-  std::string rest = text.substr(0, text.find('\0'));
-  if (rest.empty()) return false;
-  while (!rest.empty()) {
-    const bool is_escape = IsEscape(rest.substr(0, 3));
-    const bool is_character =
-        std::string(kUriCharacters).find(rest[0]) != std::string::npos;
-    if (!is_escape && !is_character) return false;
-    rest.erase(0, is_escape ? 3 : 1);
+  const std::string seen = Before('\0', text);
+  for (std::size_t at = 0; at < seen.size(); ++at) {
+    if (!IsUriByte(seen[at]) && !IsEscape(seen.substr(at, 3))) return false;
   }
-  return true;
+  return !seen.empty();
 }
 
-std::string OracleUriPath(const std::string& uri) { return PartsOf(uri)[5]; }
+std::string OracleUriPath(const std::string& uri) {
+  const std::string rest = HierarchyOf(uri);
+  if (rest.find("//") != 0) return rest;
+  return rest.substr(2 + AuthorityOf(uri).size());
+}
 
 std::optional<std::string> OracleUriHost(const std::string& uri) {
-  static const std::regex kLiteral(R"(\[([^\]]*)[^]*)");
-  std::string host = PartsOf(uri)[4];
+  std::string host = AuthorityOf(uri);
   while (host.find('@') != std::string::npos) {
     host.erase(0, host.find('@') + 1);
   }
-  std::smatch literal;
-  host = std::regex_match(host, literal, kLiteral)
-             ? literal[1].str()
-             : host.substr(0, host.find(':'));
+  host = host.find('[') == 0 ? Before(']', host.substr(1)) : Before(':', host);
   if (host.empty()) return std::nullopt;
   return OracleUnescaped(host);
 }
@@ -81,13 +91,11 @@ std::string OracleUnescaped(const std::string& text) {
 }
 
 std::string OracleEncodedUri(const std::string& text) {
-  const std::string seen = text.substr(0, text.find('\0'));
+  const std::string seen = Before('\0', text);
   if (!OracleIsUtf8(seen)) return "";
   std::string encoded;
   for (std::size_t at = 0; at < seen.size(); ++at) {
-    const bool stays =
-        IsEscape(seen.substr(at, 3)) ||
-        std::string(kUriCharacters).find(seen[at]) != std::string::npos;
+    const bool stays = IsUriByte(seen[at]) || IsEscape(seen.substr(at, 3));
     encoded += stays ? seen.substr(at, 1) : Printed("%%%02X", seen[at]);
   }
   return encoded.size() < 1024 ? encoded : "";

@@ -1,5 +1,5 @@
 // The generic URI syntax (RFC 3986) and the encoders a second time, slow and
-// obvious: by regular expressions, those of its appendix B among them.
+// obvious: parts are taken off from the end, as its appendix B has them.
 #ifndef TESTS_SUPPORT_URI_ORACLE_H_
 #define TESTS_SUPPORT_URI_ORACLE_H_
 
@@ -11,7 +11,7 @@ namespace velmohelp::testing {
 /// text is a URI up to its first zero byte.
 bool OracleIsUri(const std::string& text);
 
-/// See util/uri.h. Texts of some thousand bytes exhaust the stack.
+/// See util/uri.h.
 std::string OracleUriPath(const std::string& uri);
 std::optional<std::string> OracleUriHost(const std::string& uri);
 std::string OracleUnescaped(const std::string& text);
