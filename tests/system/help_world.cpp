@@ -53,6 +53,7 @@ HelpWorld::HelpWorld()
              {"bin", At("bin")},
              {"config", At("bin/host.resources/help/en_US/Foo.helpcfg")},
              {"settings", At("settings")},
+             {"tool", At(std::string(kFramework) + "QTV")},
              {"viewer", At("Viewer.app/bin/Viewer")},
              {"browser", At("Browser.app/bin/Browser")},
              {"installed", VELMO_TEST_INSTALLED_HELP "/" + folder}};
@@ -128,7 +129,7 @@ void HelpWorld::NameViewer(const std::string& app_id,
 }
 
 void HelpWorld::WriteTool(const std::string& lines) const {
-  WriteProgram(At(std::string(kFramework) + "QTV"), "#!/bin/sh\n" + lines);
+  WriteProgram("{tool}", "#!/bin/sh\n" + lines);
 }
 
 void HelpWorld::AnswerTool(bool runtime, bool viewer) const {

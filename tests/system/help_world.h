@@ -26,6 +26,7 @@ namespace velmohelp::testing {
 ///   {store}       the viewer's own folder
 ///   {settings}    the user's Preferences folder
 ///   {folder}      the content folder's name
+///   {tool}        the tool
 ///   {viewer}      the viewer's executable
 ///   {browser}     the browser's executable
 ///   {server}      the help server's URL, without a final "/"

@@ -2,13 +2,16 @@
 // applications load a plug-in, and makes the requests that its test sends.
 #include <dlfcn.h>
 #include <fcntl.h>
+#include <sys/mman.h>
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
+#include <velmohelp/state.h>
 #include <velmohelp/velmohelp.h>
 
 #include <algorithm>
 #include <clocale>
+#include <fstream>
 #include <functional>
 #include <map>
 
@@ -33,10 +36,10 @@ class Client {
     library_ = nullptr;
   }
 
-  /// The function of a type that is exported under a name.
-  template <typename Function>
-  Function* Find(const char* name) const {
-    return reinterpret_cast<Function*>(dlsym(library_, name));
+  /// What is exported under a name, a function or a variable of a type.
+  template <typename Type>
+  Type* Find(const char* name) const {
+    return reinterpret_cast<Type*>(dlsym(library_, name));
   }
 
  private:
@@ -77,6 +80,13 @@ std::string Status(Client& client, const Words&) {
 
 std::string Version(Client& client, const Words&) {
   return std::to_string(VELMO_FIND(client, GetVelmoHelpClientVersion)());
+}
+
+/// What requests leave in the variables that other modules may see: the
+/// viewer's ids and the number of entries in the help map.
+std::string State(Client& client, const Words&) {
+  return *VELMO_FIND(client, sAppID) + "." + *VELMO_FIND(client, sPublisherID) +
+         " " + std::to_string(VELMO_FIND(client, sHelpMap)->size());
 }
 
 /// Unloads the library and loads it again, that many times.
@@ -147,6 +157,26 @@ std::string TakeChild(Client&, const Words&) {
   return std::to_string(WEXITSTATUS(status));
 }
 
+/// What Linux would give without killing anybody, in KiB.
+long AvailableMemory() {
+  std::ifstream facts("/proc/meminfo");
+  std::string word;
+  while (word != "MemAvailable:" && facts >> word) {
+  }
+  long available = 0;
+  facts >> available;
+  return available;
+}
+
+/// Has that many MiB resident for good, where there is room for twice as much.
+std::string TakeMemory(Client&, const Words& words) {
+  const std::size_t size = std::stoul(words.at(1)) << 20U;
+  if (AvailableMemory() < static_cast<long>(size >> 9U)) return "no room";
+  void* memory = mmap(nullptr, size, PROT_READ | PROT_WRITE,
+                      MAP_PRIVATE | MAP_ANONYMOUS | MAP_POPULATE, -1, 0);
+  return memory == MAP_FAILED ? "no room" : "taken";
+}
+
 /// The most memory that one of the children waited for has ever had, in KiB.
 std::string PeakOfChildren(Client&, const Words&) {
   rusage usage = {};
@@ -165,6 +195,7 @@ const std::map<std::string, Request>& Requests() {
       {"search by name", SearchByName},
       {"status", Status},
       {"version", Version},
+      {"state", State},
       {"reload", Reload},
       {"load", Load},
       {"unload", Unload},
@@ -173,6 +204,7 @@ const std::map<std::string, Request>& Requests() {
       {"free descriptors", FreeDescriptors},
       {"start child", StartChild},
       {"take child", TakeChild},
+      {"take memory", TakeMemory},
       {"peak of children", PeakOfChildren}};
   return requests;
 }

@@ -1,0 +1,76 @@
+// A host that runs for weeks.
+#include <csignal>
+
+#include "tests/system/routes.h"
+
+namespace velmohelp::testing {
+namespace {
+
+/// Under sanitizers every program takes many times as long to start.
+constexpr int kRequests = VELMO_TEST_SANITIZED ? 500 : 10000;
+constexpr int kFirstRequests = 200;
+
+class ALongLivedHost : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    world_.Write("{installed}/intro.html", "<p>");
+    for (const char* program : {"{viewer}", "{tool}"}) {
+      world_.Remove(program);
+      std::filesystem::copy_file(VELMO_TEST_QUICK_PROGRAM,
+                                 world_.Expanded(program));
+    }
+    world_.start().environment.push_back(
+        world_.Expanded("QUICK_VIEWER={bin}/../Viewer.app"));
+    ASSERT_TRUE(world_.Initialise());
+  }
+
+  /// Requests of every kind; all but the last start a viewer.
+  void MakeRequests(int count) {
+    const std::vector<std::pair<Words, std::string>> requests = {
+        {Display("intro"), "0"},
+        {Open("http://localhost/"), "0"},
+        {Search("x"), "0"},
+        {{"status"}, "1"}};
+    for (int i = 0; i < count; ++i) {
+      const auto& [request, answer] = requests[static_cast<std::size_t>(i) % 4];
+      ASSERT_EQ(world_.Ask(request), answer);
+      EndViewers();
+    }
+  }
+
+  /// As the person at the keyboard does.
+  void EndViewers() {
+    for (const pid_t child : ChildrenOf(world_.Host().pid())) {
+      kill(child, SIGKILL);
+      AwaitEnd(child);
+    }
+  }
+
+  Words Facts() {
+    const HostProcess& host = world_.Host();
+    return {std::to_string(host.CountIn("task")),
+            std::to_string(host.CountIn("fd")), host.StatusLine("VmData")};
+  }
+  long ResidentKilobytes() {
+    return std::stol(world_.Host().StatusLine("VmRSS"));
+  }
+
+  HelpWorld world_;
+};
+
+/// A sanitizer's own memory grows.
+TEST_F(ALongLivedHost, IsAsItWasAfterThousandsOfRequests) {
+  MakeRequests(kFirstRequests);
+  const Words before = Facts();
+  const long resident = ResidentKilobytes();
+  MakeRequests(kRequests);
+  // What has ended since the last request waits for the next one.
+  EXPECT_LE(world_.Host().Zombies(), 3);
+  EXPECT_EQ(world_.Host().CountIn("task"), 1U);
+  if (VELMO_TEST_SANITIZED) return;
+  EXPECT_EQ(Facts(), before);
+  EXPECT_LE(ResidentKilobytes(), resident + 8);
+}
+
+}  // namespace
+}  // namespace velmohelp::testing
