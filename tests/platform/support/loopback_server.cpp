@@ -42,7 +42,15 @@ LoopbackServer::LoopbackServer(Talk talk)
   }
   getsockname(listener_, Any(address), &size);
   port_ = ntohs(address.sin_port);
-  thread_ = std::thread([this] { Accept(); });
+  std::promise<void> promise;
+  const std::future<void> started = promise.get_future();
+  thread_ = std::thread([this, running = std::move(promise)]() mutable {
+    running.set_value();
+    Accept();
+  });
+  // A thread that starts holds locks of the sanitizer's, which a copy of the
+  // process made at that moment would wait for.
+  started.wait();
 }
 
 LoopbackServer::~LoopbackServer() {
