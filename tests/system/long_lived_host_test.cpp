@@ -34,13 +34,15 @@ class ALongLivedHost : public ::testing::Test {
     for (int i = 0; i < count; ++i) {
       const auto& [request, answer] = requests[static_cast<std::size_t>(i) % 4];
       ASSERT_EQ(world_.Ask(request), answer);
-      EndViewers();
+      const auto children = ChildrenOf(world_.Host().pid());
+      ASSERT_LE(children.size(), 8U) << "after " << i << " requests";
+      End(children);
     }
   }
 
-  /// As the person at the keyboard does.
-  void EndViewers() {
-    for (const pid_t child : ChildrenOf(world_.Host().pid())) {
+  /// As the person at the keyboard ends a viewer.
+  static void End(const std::vector<pid_t>& children) {
+    for (const pid_t child : children) {
       kill(child, SIGKILL);
       AwaitEnd(child);
     }
