@@ -1,6 +1,7 @@
 #include "tests/system/chromium.h"
 
 #include <fcntl.h>
+#include <gtest/gtest.h>
 #include <poll.h>
 #include <sys/socket.h>
 #include <unistd.h>
@@ -63,11 +64,6 @@ std::optional<std::string> TitleIn(const std::string& targets,
   return targets.substr(start, targets.find('"', start) - start);
 }
 
-/// The page's address without its scheme is its title until it has another.
-bool IsOwnTitle(const std::string& title, const std::string& url) {
-  return !title.empty() && url.find(title) == std::string::npos;
-}
-
 }  // namespace
 
 bool IsChromiumInstalled() { return access(kProgram, X_OK) == 0; }
@@ -83,16 +79,16 @@ void InstallChromium(HelpWorld& world) {
   };
 }
 
-std::string AwaitTitle(const HelpWorld& world, const std::string& url) {
+void AwaitPage(const HelpWorld& world, const std::string& url,
+               const std::string& title) {
   std::string targets;
   for (int looks = kLooks; looks > 0; --looks) {
     const int port = DebuggingPort(world);
     targets = port == 0 ? "" : Get(port, "/json/list");
-    const auto title = TitleIn(targets, url);
-    if (title && IsOwnTitle(*title, url)) return *title;
+    if (TitleIn(targets, url) == title) return;
     poll(nullptr, 0, kMillisecondsBetweenLooks);
   }
-  return targets;
+  ADD_FAILURE() << "no page " << title << " at " << url << " in " << targets;
 }
 
 }  // namespace velmohelp::testing

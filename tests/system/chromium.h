@@ -14,9 +14,11 @@ bool IsChromiumInstalled();
 /// no name to ask the network for.
 void InstallChromium(HelpWorld& world);
 
-/// The title of the page that it shows at a URL, once that is not the URL; what
-/// else it shows when that takes too long.
-std::string AwaitTitle(const HelpWorld& world, const std::string& url);
+/// Waits until the page that it shows at a URL has this title. (Until the page
+/// is there, its address in some form is its title.) When that takes too long,
+/// the test fails with what is shown.
+void AwaitPage(const HelpWorld& world, const std::string& url,
+               const std::string& title);
 
 }  // namespace velmohelp::testing
 
