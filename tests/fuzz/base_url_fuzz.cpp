@@ -1,7 +1,6 @@
-// A base URL file: its URL is the slow rule's, the mistake in it included.
+// A base URL file: its lines, their fields and its URL are the slow rules', the
+// mistake in these included.
 #include <velmohelp/resolve.h>
-
-#include <stdexcept>
 
 #include "tests/fuzz/input.h"
 #include "tests/support/map_oracle.h"
@@ -10,13 +9,21 @@ namespace velmohelp::testing {
 
 void Check(Input input) {
   static FileInMemory file;
-  std::optional<std::string> url;
-  try {
-    url = ITEMInternal::GetHelpMapBaseUrl(file.Write(input.Rest()));
-  } catch (const std::out_of_range&) {
-    url = std::nullopt;
+  const std::string path = file.Write(input.Rest());
+  std::string line;
+  std::ifstream stream(path, std::ios_base::binary);
+  for (const std::string& expected_line : OracleLines(input.Rest())) {
+    Same(ITEMInternal::GetLine(stream, line) ? line : "no", expected_line);
+    std::deque<std::string> fields;
+    ITEMInternal::DelimitedStringToDeque('\t', line, fields);
+    Same(fields, OracleFields('\t', line));
   }
-  Same(url, OracleBaseUrl(input.Rest()));
+  const auto expected = OracleBaseUrl(input.Rest());
+  try {
+    Same(ITEMInternal::GetHelpMapBaseUrl(path), expected);
+  } catch (const std::out_of_range&) {
+    Same(expected.has_value(), false);
+  }
 }
 
 }  // namespace velmohelp::testing

@@ -1,6 +1,8 @@
-// A key in the first line, a help map in the rest: what the slow rules have.
+// A key in the first line, a help map in the rest: the slow rules' entries are
+// found, and loaded over another map's, across a file's pieces too.
 #include <velmohelp/resolve.h>
 
+#include "resolve/help_map.h"
 #include "resolve/help_map_text.h"
 #include "tests/fuzz/input.h"
 #include "tests/support/map_oracle.h"
@@ -10,19 +12,17 @@ namespace velmohelp::testing {
 void Check(Input input) {
   static FileInMemory file;
   const std::string key = input.Line();
-  const std::string path = file.Write(input.Rest());
-  auto expected = OracleMap(input.Rest());
-  std::map<std::string, std::string> map = {{"old", "entry"}};
-  Same(ITEMInternal::LoadMapFile(path, map), expected.contains("VX_HOME"));
-  Same(map, expected);
-  Same(FindEntry(input.Rest(), key).value_or(""), expected[key]);
-  std::string line;
-  std::ifstream stream(path, std::ios_base::binary);
-  for (const std::string& expected_line : OracleLines(input.Rest())) {
-    Same(ITEMInternal::GetLine(stream, line) ? line : "no", expected_line);
-    std::deque<std::string> fields;
-    ITEMInternal::DelimitedStringToDeque('\t', line, fields);
-    Same(fields, OracleFields('\t', line));
+  const std::string text = input.Rest().substr(0, FileText::kPieceSize);
+  const std::string line(FileText::kPieceSize - text.size() / 2, 'x');
+  const HelpMap expected = OracleMap(text);
+  const std::string value = expected.contains(key) ? expected.at(key) : "";
+  Same(FindEntry(text, key).value_or(""), value);
+  HelpMap map;
+  ITEMInternal::LoadMapFile(file.Write(text.substr(text.size() / 2)), map);
+  for (const std::string& whole : {text, line + '\n' + text}) {
+    const bool complete = ITEMInternal::LoadMapFile(file.Write(whole), map);
+    Same(map, expected);
+    Same(complete, map.contains("VX_HOME"));
   }
 }
 
