@@ -14,12 +14,12 @@ namespace velmohelp {
 inline constexpr std::size_t kLongestFile = 0x7FFFFFFF;
 
 /// Opens a file for binary reading; a hard read error will raise
-/// std::ios_base::failure. The stream is not open when path is empty, nothing
+/// std::ios_base::failure. The stream is not open when name is empty, nothing
 /// can be opened there, a pipe or a device lies there (opening or reading one
 /// could block the host for ever), or a file that is longer than kLongestFile.
 /// size: gets the file's size, 0 where nobody knows. It is a hint: text that
 /// grows as it is read is copied, and its memory touched, many times.
-std::ifstream OpenInputFile(const std::string& path,
+std::ifstream OpenInputFile(const std::string& name,
                             std::size_t* size = nullptr);
 
 /// Reads up to size bytes; the number read is below size only at the end.

@@ -128,7 +128,7 @@ class FileThatBreaks : public ::testing::TestWithParam<bool> {
   static constexpr int kFirst = 100'000;
   static constexpr int kLines = 9'000;
 
-  std::string Line(int line) const {
+  static std::string Line(int line) {
     const bool reversed = GetParam();
     const int number = kFirst + (reversed ? kLines - line : line);
     return std::to_string(number) + "\tvalue\n";
