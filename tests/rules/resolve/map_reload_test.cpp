@@ -11,6 +11,7 @@
 #include "tests/rules/support/random_text.h"
 #include "tests/rules/support/temp_folder.h"
 #include "tests/support/sentence.h"
+#include "util/file_text.h"
 
 namespace velmohelp::testing {
 namespace {
@@ -107,6 +108,25 @@ TEST(ReloadOfRandomFiles, LeavesWhatAFirstLoadGives) {
     FillHelpMap(text, map);
     ASSERT_EQ(map, fresh) << text;
   }
+}
+
+/// The first piece is put in order; what follows meets the entries of it.
+TEST(AFileThatLosesItsOrderBehindItsFirstPiece, KeepsTheFirstEntryOfAKey) {
+  constexpr int kFirst = 10'000;
+  constexpr int kLast = 20'000;
+  std::string text;
+  HelpMap expected;
+  for (int number = kFirst; number < kLast; ++number) {
+    expected[std::to_string(number)] = "first";
+    text += std::to_string(number) + "\tfirst\n";
+  }
+  ASSERT_GT(text.size(), FileText::kPieceSize);
+  expected["10000a"] = expected["0"] = "between";
+  text += "10001\tagain\n10000a\tbetween\n0\tbetween\n10000\tagain\n";
+  const TempFolder folder;
+  HelpMap map = MapOf("abc", "old");
+  ITEMInternal::LoadMapFile(folder.Write("x", text), map);
+  EXPECT_EQ(map, expected);
 }
 
 /// Gives its text and then breaks.
