@@ -8,7 +8,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// 0 where nobody knows.
+/// 0 where nobody knows, as of all that is no regular file.
 std::uintmax_t SizeOf(const fs::path& path) {
   std::error_code unknown;
   const std::uintmax_t size = fs::file_size(path, unknown);
@@ -23,7 +23,8 @@ std::ifstream OpenInputFile(const std::string& name, std::size_t* size) {
   std::error_code ignored;
   const fs::path path(name);
   const std::uintmax_t known = SizeOf(path);
-  if (known <= kLongestFile && !fs::is_other(path, ignored)) {
+  const bool may_block = known == 0 && fs::is_other(path, ignored);
+  if (known <= kLongestFile && !may_block) {
     file.open(path, std::ios_base::in | std::ios_base::binary);
   }
   if (size != nullptr) *size = known;

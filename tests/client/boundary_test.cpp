@@ -6,6 +6,7 @@
 #include <velmohelp/velmohelp.h>
 
 #include <fstream>
+#include <string_view>
 
 #include "client/state.h"
 #include "tests/client/recording_machine.h"
@@ -18,6 +19,7 @@ namespace {
 using testing::ClientWorld;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
+using std::string_view_literals::operator""sv;
 using testing::RecordingMachine;
 
 constexpr std::size_t kMegabyte = 1024UL * 1024UL;
@@ -144,7 +146,8 @@ struct Room {
   const char* sentence;
   long size;
   long answer;
-  const char* out;
+  /// All of the caller's memory.
+  std::string_view out;
 };
 
 class EncoderRoom : public ::testing::TestWithParam<Room> {};
@@ -153,13 +156,13 @@ TEST_P(EncoderRoom, IsOneByteMoreThanTheText) {
   char out[] = "untouched";
   const long answer = VelmoHelpEncodeURIComponent("a b", out, GetParam().size);
   EXPECT_EQ(answer, GetParam().answer);
-  EXPECT_STREQ(out, GetParam().out);
+  EXPECT_EQ(std::string_view(out, sizeof out - 1), GetParam().out);
 }
 
 INSTANTIATE_TEST_SUITE_P(
     , EncoderRoom,
-    ::testing::Values(Room{"text and end", 6, 5, "a%20b"},
-                      Room{"more than that", 9, 5, "a%20b"},
+    ::testing::Values(Room{"text and end", 6, 5, "a%20b\0hed"sv},
+                      Room{"more than that", 9, 5, "a%20b\0hed"sv},
                       Room{"no room for the end", 5, -1, "untouched"},
                       Room{"none", 0, -1, "untouched"},
                       Room{"less than none", -1, -1, "untouched"}),
