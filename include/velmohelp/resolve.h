@@ -59,11 +59,12 @@ VELMOHELP_API bool ValidateURL(std::string target, bool fetch);
 VELMOHELP_API bool LoadMapFile(const std::string& path,
                                std::map<std::string, std::string>& map);
 
-/// The first line of a base URL file; "" when there is none. In a line with
-/// "://[" (an IPv6 host, whose zone follows a "%") the first "%", wherever it
-/// stands, becomes "%25", unless a "%25" stands before the first "]". Throws
-/// std::out_of_range for a line with "://[" but neither "]" nor "%", and
-/// std::ios_base::failure as LoadMapFile does.
+/// The first line of a base URL file; "" when nothing, a pipe, a device or a
+/// file of 2 GiB and more lies there. In a line with "://[" (an IPv6 host,
+/// whose zone follows a "%") the first "%", wherever it stands, becomes "%25",
+/// unless a "%25" stands before the first "]". Throws std::out_of_range for a
+/// line with "://[" but neither "]" nor "%", and std::ios_base::failure as
+/// LoadMapFile does.
 VELMOHELP_API std::string GetHelpMapBaseUrl(const std::string& path);
 
 /// AppendToPath of folder and "helpmap.txt" or "helpmapBaseUrl.txt".

@@ -114,14 +114,10 @@ TEST_F(OwnMachine, IsOfflineWithADeadNameServer) {
 
 /// Help that is on the machine is shown all the same.
 TEST_F(OwnMachine, ShowsItsOwnHelpWithoutAnInterface) {
-  Put("Library/Application Support/Velmo/Help/{folder}/intro.html", "<p>");
+  InstallIntroPage();
   Start([] { return true; });
   EXPECT_EQ(world_.Ask(Display("intro")), "0");
-  EXPECT_EQ(world_.Started(),
-            world_.Expanded(Viewer(
-                "HELP",
-                "\"file:///Library/Application%20Support/Velmo/Help//{folder}"
-                "/intro.html\"")));
+  ExpectTheInstalledIntroPageInTheViewer();
 }
 
 }  // namespace

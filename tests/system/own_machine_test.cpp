@@ -5,19 +5,14 @@
 namespace velmohelp::testing {
 namespace {
 
-constexpr char kHelp[] = "Application Support/Velmo/Help/{folder}/intro.html";
 constexpr char kAdminFile[] = "com.velmo.VelmoOnlineHelp.conf";
 
 TEST_F(OwnMachine, HasItsInstalledContent) {
-  Put(std::string("Library/") + kHelp, "<p>");
+  InstallIntroPage();
   world_.SetUserPreference("0");
   Start();
   EXPECT_EQ(world_.Ask(Display("intro")), "0");
-  EXPECT_EQ(world_.Started(),
-            world_.Expanded(Viewer(
-                "HELP",
-                "\"file:///Library/Application%20Support/Velmo/Help//{folder}"
-                "/intro.html\"")));
+  ExpectTheInstalledIntroPageInTheViewer();
 }
 
 TEST_F(OwnMachine, HasItsFrameworks) {

@@ -33,6 +33,17 @@ class OwnMachine : public ::testing::Test {
     world_.Write(Folder() + "/" + name, text);
   }
 
+  void InstallIntroPage() {
+    Put("Library/Application Support/Velmo/Help/{folder}/intro.html", "<p>");
+  }
+  void ExpectTheInstalledIntroPageInTheViewer() {
+    EXPECT_EQ(world_.Started(),
+              world_.Expanded(Viewer(
+                  "HELP",
+                  "\"file:///Library/Application%20Support/Velmo/Help//{folder}"
+                  "/intro.html\"")));
+  }
+
   /// Initialises a client on that machine, once this has been done there.
   void Start(const std::function<bool()>& step = &RaiseLoopback) {
     world_.start().preparation = [folder = Folder(), step] {
