@@ -136,7 +136,9 @@ TEST_F(Running, LeavesAChildOfTheHostsThatHasAnOldNumberToTheHost) {
   AwaitNextTick();
   const pid_t child = ForkAs(number);
   if (child == 0) _exit(3);
-  if (child < 0) GTEST_SKIP() << "this system does not let a test choose";
+  if (child < 0) {
+    GTEST_SKIP() << "this system does not let a test choose a process's number";
+  }
   testing::AwaitEndOfChildren();
   machine().RunToEnd(tool, {});
   int status = 0;

@@ -3,24 +3,17 @@
 #include <gtest/gtest.h>
 #include <sched.h>
 
-#include <cstdlib>
-
 #include "platform/linux/linux_machine.h"
 #include "tests/platform/support/children.h"
+#include "tests/platform/support/namespaces.h"
 
 namespace velmohelp {
 namespace {
 
-/// Moves this process to a network where nothing is but a loopback interface
-/// that is down.
-bool EnterEmptyNetwork() {
-  return unshare(CLONE_NEWNET) == 0 ||
-         unshare(CLONE_NEWUSER | CLONE_NEWNET) == 0;
-}
+using testing::RunIp;
 
-bool RunIp(const std::string& arguments) {
-  return std::system(("ip " + arguments).c_str()) == 0;
-}
+/// Nothing is in it but a loopback interface that is down.
+bool EnterEmptyNetwork() { return testing::EnterNamespaces(CLONE_NEWNET); }
 
 class Reach : public ::testing::Test {
  protected:

@@ -20,9 +20,6 @@ bool EnterOwnFiles(const std::string& folder);
 /// Makes localhost reachable there.
 bool RaiseLoopback();
 
-/// Runs ip(8) with the rights of that machine's administrator.
-bool RunIp(const std::string& arguments);
-
 }  // namespace velmohelp::testing
 
 #endif  // TESTS_SYSTEM_OWN_MACHINE_H_
