@@ -10,7 +10,7 @@
 #include <sstream>
 #include <string>
 
-#include "tests/examples/scratch_folder.h"
+#include "tests/support/scratch_folder.h"
 #include "tests/support/sentence.h"
 
 namespace velmohelp {

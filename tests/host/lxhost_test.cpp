@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/host/process.h"
-#include "tests/platform/support/temporary_directory.h"
+#include "tests/support/temporary_directory.h"
 
 namespace velmohelp::testing {
 namespace {

@@ -5,7 +5,7 @@
 #include "client/this_machine.h"
 #include "platform/scripted/scripted_machine.h"
 #include "tests/host/lua_state.h"
-#include "tests/platform/support/temporary_directory.h"
+#include "tests/support/temporary_directory.h"
 
 namespace velmohelp::testing {
 namespace {

@@ -3,8 +3,8 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
-#include "tests/platform/support/world.h"
 #include "tests/support/sentence.h"
+#include "tests/support/world.h"
 
 namespace velmohelp {
 namespace {

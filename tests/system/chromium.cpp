@@ -8,7 +8,7 @@
 
 #include <optional>
 
-#include "tests/platform/support/loopback_server.h"
+#include "tests/support/loopback_server.h"
 
 namespace velmohelp::testing {
 namespace {

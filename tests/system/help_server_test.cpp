@@ -1,6 +1,6 @@
 // The help server: what its answers make of a page, over http, https and
 // through a proxy.
-#include "tests/platform/support/children.h"
+#include "tests/support/children.h"
 #include "tests/system/own_machine.h"
 #include "tests/system/routes.h"
 #include "tests/system/tunnels.h"

@@ -5,8 +5,8 @@
 
 #include <sstream>
 
-#include "tests/platform/support/children.h"
-#include "tests/platform/support/start_facts.h"
+#include "tests/support/children.h"
+#include "tests/support/start_facts.h"
 
 namespace velmohelp::testing {
 namespace {

@@ -8,9 +8,9 @@
 #include <optional>
 #include <string>
 
-#include "tests/platform/support/http_server.h"
-#include "tests/platform/support/temporary_directory.h"
 #include "tests/support/help_config.h"
+#include "tests/support/http_server.h"
+#include "tests/support/temporary_directory.h"
 #include "tests/system/host_process.h"
 
 namespace velmohelp::testing {

@@ -8,8 +8,8 @@
 
 #include <csignal>
 
-#include "tests/platform/support/children.h"
-#include "tests/platform/support/start_facts.h"
+#include "tests/support/children.h"
+#include "tests/support/start_facts.h"
 #include "tests/system/routes.h"
 
 namespace velmohelp::testing {

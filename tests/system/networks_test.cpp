@@ -1,5 +1,5 @@
 // Networks of every kind: whether the help server can be reached through them.
-#include "tests/platform/support/namespaces.h"
+#include "tests/support/namespaces.h"
 #include "tests/system/name_server.h"
 #include "tests/system/own_machine_world.h"
 

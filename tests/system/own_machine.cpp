@@ -10,7 +10,7 @@
 #include <cstring>
 #include <filesystem>
 
-#include "tests/platform/support/namespaces.h"
+#include "tests/support/namespaces.h"
 
 namespace velmohelp::testing {
 namespace {

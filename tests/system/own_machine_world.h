@@ -3,7 +3,7 @@
 #ifndef TESTS_SYSTEM_OWN_MACHINE_WORLD_H_
 #define TESTS_SYSTEM_OWN_MACHINE_WORLD_H_
 
-#include "tests/platform/support/children.h"
+#include "tests/support/children.h"
 #include "tests/system/own_machine.h"
 #include "tests/system/routes.h"
 

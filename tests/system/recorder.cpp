@@ -4,7 +4,7 @@
 
 #include <fstream>
 
-#include "tests/platform/support/start_facts.h"
+#include "tests/support/start_facts.h"
 
 namespace {
 

@@ -2,7 +2,7 @@
 #ifndef TESTS_SYSTEM_TUNNELS_H_
 #define TESTS_SYSTEM_TUNNELS_H_
 
-#include "tests/platform/support/loopback_server.h"
+#include "tests/support/loopback_server.h"
 #include "tests/system/certificates.h"
 
 namespace velmohelp::testing {

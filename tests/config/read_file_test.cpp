@@ -1,0 +1,155 @@
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <velmohelp/config.h>
+
+#include "tests/support/key_oracle.h"
+#include "tests/support/random_text.h"
+#include "tests/support/sentence.h"
+#include "tests/support/temp_folder.h"
+
+namespace velmohelp::testing {
+namespace {
+
+using namespace std::string_literals;
+
+constexpr std::size_t kPiece = 1023;
+const std::string kOpening = "k=\"";
+
+/// `k="` and as many letters as fill the first piece.
+const std::string kFullPiece = kOpening + std::string(kPiece - 3, 'a');
+
+struct Row {
+  const char* sentence;
+  std::string bytes;
+  std::string value;
+};
+
+class Pieces : public ::testing::TestWithParam<Row> {};
+
+TEST_P(Pieces, AreTakenUpToTheirFirstZeroByte) {
+  const TempFolder folder;
+  XMLParser parser;
+  ASSERT_TRUE(parser.ReadFileToBuffer(folder.Write("x", GetParam().bytes)));
+  EXPECT_EQ(parser.GetKey("k"), GetParam().value);
+}
+
+const std::string kLetters(kPiece - 3, 'a');
+const std::string kLettersLessOne(kPiece - 4, 'a');
+
+const Row kRows[] = {
+    {"a file of one piece is whole", "k=\"b\"", "b"},
+    {"a value runs on over the border of a piece", kFullPiece + "b\"",
+     kLetters + "b"},
+    {"a quote may be the last byte of a piece",
+     kOpening + kLettersLessOne + "\"", kLettersLessOne},
+    {"a zero byte drops the rest of its piece", "k=\"b\"\0k=\"c\""s, "b"},
+    {"a value cut by a zero byte in the only piece is none", "k=\"b\0c\""s, ""},
+    {"a value cut by a zero byte goes on with the next piece",
+     kOpening + "b\0"s + std::string(kPiece - 5, 'x') + "c\"", "bc"},
+    {"a zero byte at the end of a piece drops itself alone",
+     kOpening + kLettersLessOne + "\0b\""s, kLettersLessOne + "b"},
+    {"a zero byte at the start of a piece drops all of it",
+     kFullPiece + "\0"s + std::string(kPiece - 1, 'x') + "b\"", kLetters + "b"},
+    {"a zero byte at the start of the last piece drops all of it",
+     kFullPiece + "\0b\""s, ""},
+    {"a second zero byte of a piece drops nothing more",
+     kOpening + "b\0x\0"s + std::string(kPiece - 7, 'x') + "c\"", "bc"},
+};
+
+INSTANTIATE_TEST_SUITE_P(OfAFile, Pieces, ::testing::ValuesIn(kRows),
+                         SentenceOf());
+
+TEST(PiecesOfRandomFiles, AreTakenAsTheSlowReaderTakesThem) {
+  const TempFolder folder;
+  RandomText random(std::string(700, 'a') + "\0"s);
+  for (const std::size_t pieces : {1U, 2U, 63U, 64U, 65U, 128U, 200U}) {
+    for (const int more : {-1, 0, 1, 500}) {
+      const std::size_t size = pieces * kPiece + static_cast<std::size_t>(more);
+      const std::string bytes = kOpening + random.Next(size - 4) + "\"";
+      XMLParser parser;
+      ASSERT_TRUE(parser.ReadFileToBuffer(folder.Write("x", bytes)));
+      EXPECT_EQ(parser.GetKey("k"), OracleKey(OracleBuffer(bytes), "k"));
+    }
+  }
+}
+
+class Unreadable : public ::testing::Test {
+ protected:
+  /// Reads path with a parser that has read a good file before.
+  void ExpectFalseAndEmpty(const std::string& path) {
+    XMLParser parser;
+    ASSERT_TRUE(parser.ReadFileToBuffer(folder.Write("good", "k=\"v\"")));
+    ASSERT_EQ(parser.GetKey("k"), "v");
+    EXPECT_FALSE(parser.ReadFileToBuffer(path));
+    EXPECT_EQ(parser.GetKey("k"), "");
+  }
+  const TempFolder folder;
+};
+
+TEST_F(Unreadable, IsAnEmptyPath) { ExpectFalseAndEmpty(""); }
+
+TEST_F(Unreadable, IsAMissingFile) {
+  ExpectFalseAndEmpty(folder.Path("missing"));
+}
+
+TEST_F(Unreadable, IsADirectory) { ExpectFalseAndEmpty(folder.Path()); }
+
+TEST_F(Unreadable, IsAFileBelowAFile) {
+  ExpectFalseAndEmpty(folder.Write("file", "") + "/x");
+}
+
+TEST_F(Unreadable, IsAPipeWhichNobodyOpensAndNobodyWaitsFor) {
+  ASSERT_EQ(mkfifo(folder.Path("pipe").c_str(), 0600), 0);
+  ExpectFalseAndEmpty(folder.Path("pipe"));
+}
+
+TEST_F(Unreadable, IsADeviceThatNeverEnds) { ExpectFalseAndEmpty("/dev/zero"); }
+
+TEST_F(Unreadable, IsAFileThatTheUserMayNotRead) {
+  if (geteuid() == 0) GTEST_SKIP() << "root may read every file";
+  const std::string path = folder.Write("x", "k=\"w\"");
+  chmod(path.c_str(), 0);
+  ExpectFalseAndEmpty(path);
+}
+
+TEST(Parser, HasNoKeysBeforeItHasReadAFile) {
+  EXPECT_EQ(XMLParser().GetKey("k"), "");
+  EXPECT_EQ(XMLParser().GetKey(""), "");
+}
+
+TEST(Parser, ReadsAnEmptyFile) {
+  const TempFolder folder;
+  XMLParser parser;
+  EXPECT_TRUE(parser.ReadFileToBuffer(folder.Write("x", "")));
+  EXPECT_EQ(parser.GetKey("k"), "");
+}
+
+TEST(Parser, ForgetsTheFileBefore) {
+  const TempFolder folder;
+  XMLParser parser;
+  parser.ReadFileToBuffer(folder.Write("a", "k=\"v\""));
+  EXPECT_TRUE(parser.ReadFileToBuffer(folder.Write("b", "j=\"w\"")));
+  EXPECT_EQ(parser.GetKey("k"), "");
+  EXPECT_EQ(parser.GetKey("j"), "w");
+}
+
+TEST(Parser, ReadsAHundredMegabytesOfZeroBytesToTheirEnd) {
+  const TempFolder folder;
+  const std::string path = folder.Write("x", "");
+  std::filesystem::resize_file(path, kPiece * 100'000);
+  std::ofstream(path, std::ios_base::app) << "k=\"v\"";
+  XMLParser parser;
+  EXPECT_TRUE(parser.ReadFileToBuffer(path));
+  EXPECT_EQ(parser.GetKey("k"), "v");
+}
+
+TEST(Parser, ReadsBinaryBytesAsTheyAre) {
+  const TempFolder folder;
+  const std::string all = AllBytes().substr(1);
+  XMLParser parser;
+  parser.ReadFileToBuffer(folder.Write("x", all + "k=\"\r\n\x1A\xFF\""));
+  EXPECT_EQ(parser.GetKey("k"), "\r\n\x1A\xFF");
+}
+
+}  // namespace
+}  // namespace velmohelp::testing

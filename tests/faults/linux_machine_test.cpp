@@ -1,0 +1,161 @@
+// Memory runs out at each allocation of each question to this system, one run
+// an allocation: the machine says so or cannot answer, loses no descriptor and
+// no child, and answers the next time.
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <filesystem>
+#include <new>
+
+#include "tests/faults/exhaustion.h"
+#include "tests/support/children.h"
+#include "tests/support/sentence.h"
+#include "tests/support/world.h"
+
+namespace velmohelp::testing {
+namespace {
+
+constexpr std::int16_t kUserDomain = -32763;
+constexpr std::uint32_t kPreferencesFolder = 0x70726566;  // 'pref'
+
+/// Puts what is asked for on the machine, and returns its path or name.
+using Prepare = std::string (*)(World& world);
+/// The answer is the right one.
+using Ask = bool (*)(Machine& machine, const std::string& asked);
+
+struct Question {
+  const char* sentence;
+  Prepare prepare;
+  Ask ask;
+};
+
+class MemoryOfTheMachine : public ::testing::TestWithParam<Question> {
+ protected:
+  /// False when the question took fewer allocations than that.
+  bool AskExhaustedAt(std::size_t nth, Shortage shortage) {
+    const Exhaustion exhaustion(nth, shortage);
+    try {
+      GetParam().ask(world_->machine(), asked_);
+    } catch (const std::bad_alloc&) {
+      return true;
+    }
+    return Exhaustion::Came();
+  }
+
+  void ExpectAnAnswerAfterEachShortage(Shortage shortage) {
+    const auto open_before = OpenDescriptors();
+    for (std::size_t nth = 1; AskExhaustedAt(nth, shortage); ++nth) {
+      EXPECT_TRUE(GetParam().ask(world_->machine(), asked_)) << nth;
+      EXPECT_EQ(OpenDescriptors(), open_before) << nth;
+    }
+  }
+
+  static std::ptrdiff_t OpenDescriptors() {
+    const std::filesystem::directory_iterator all("/proc/self/fd");
+    return std::distance(begin(all), end(all));
+  }
+
+  std::unique_ptr<World> world_ = MakeLinuxWorld();
+  std::string asked_ = GetParam().prepare(*world_);
+};
+
+TEST_P(MemoryOfTheMachine, LosesNothingAndAnswersTheNextTime) {
+  ASSERT_TRUE(GetParam().ask(world_->machine(), asked_));
+  ExpectAnAnswerAfterEachShortage(Shortage::kOneAllocation);
+  ExpectAnAnswerAfterEachShortage(Shortage::kFromThenOn);
+}
+
+std::string Nothing(World& /*world*/) { return ""; }
+
+const Question kFiles[] = {
+    {"FileExists", [](World& world) { return world.AddFile("a file"); },
+     [](Machine& machine, const std::string& asked) {
+       return machine.FileExists(asked) && machine.FindFile(asked);
+     }},
+    {"StandardFolder",
+     [](World& world) { return world.SetPreferencesFolder(); },
+     [](Machine& machine, const std::string& asked) {
+       return machine.StandardFolder(kUserDomain, kPreferencesFolder, true) ==
+              asked;
+     }},
+    {"ResourcesDirectory", Nothing,
+     [](Machine& machine, const std::string& /*asked*/) {
+       machine.ResourcesDirectory();
+       return true;
+     }},
+    {"BundleDirectory",
+     [](World& world) {
+       return world.AddBundle("com.example.memory" + std::to_string(getpid()));
+     },
+     [](Machine& machine, const std::string& asked) {
+       const std::string name = std::filesystem::path(asked).stem();
+       return machine.BundleDirectory(name) == asked;
+     }},
+    {"ApplicationExecutable",
+     [](World& world) { return world.AddApplication("Viewer.app"); },
+     [](Machine& machine, const std::string& asked) {
+       return machine.ApplicationExecutable(asked) == asked + "/AppRun";
+     }},
+    {"Preference",
+     [](World& world) -> std::string {
+       world.SetUserPreference("com.example.memory", "Key", "a value");
+       return "com.example.memory";
+     },
+     [](Machine& machine, const std::string& asked) {
+       return machine.Preference(asked, "Key",
+                                 PreferenceScope::kCurrentUserAnyHost) ==
+              "a value";
+     }},
+};
+
+const Question kPrograms[] = {
+    {"RunToEnd", [](World& world) { return world.AddProgram("good", 0); },
+     [](Machine& machine, const std::string& asked) {
+       return machine.RunToEnd(asked, {}) == 0;
+     }},
+    {"FirstOutput",
+     [](World& world) { return world.AddSpeaker("speaker", "/a b"); },
+     [](Machine& machine, const std::string& asked) {
+       return machine.FirstOutput(asked, {"speak"}) == "/a b";
+     }},
+    {"StartProgram",
+     [](World& world) { return world.AddLastingProgram("viewer"); },
+     [](Machine& machine, const std::string& asked) {
+       return machine.StartProgram(asked, {"HELP", "Foo", "en_US", "page"});
+     }},
+    {"HostReachability", Nothing,
+     [](Machine& machine, const std::string& /*asked*/) {
+       return machine.HostReachability("localhost").has_value();
+     }},
+    {"FetchText", [](World& world) { return world.AddText("a page.html"); },
+     [](Machine& machine, const std::string& asked) {
+       return machine.FetchText(asked);
+     }},
+};
+
+INSTANTIATE_TEST_SUITE_P(Files, MemoryOfTheMachine, ::testing::ValuesIn(kFiles),
+                         SentenceOf());
+INSTANTIATE_TEST_SUITE_P(Programs, MemoryOfTheMachine,
+                         ::testing::ValuesIn(kPrograms), SentenceOf());
+
+/// Those that were started and not waited for are remembered all the same.
+TEST(ProgramsOfAShortMachine, LeaveNoZombies) {
+  const auto world = MakeLinuxWorld();
+  const std::string speaker = world->AddSpeaker("speaker", "a text");
+  const std::string good = world->AddProgram("good", 0);
+  bool came = true;
+  for (std::size_t nth = 1; came; ++nth) {
+    try {
+      const Exhaustion exhaustion(nth, Shortage::kFromThenOn);
+      world->machine().FirstOutput(speaker, {"speak"});
+    } catch (const std::bad_alloc&) {
+    }
+    came = Exhaustion::Came();
+  }
+  AwaitEndOfChildren();
+  EXPECT_EQ(world->machine().RunToEnd(good, {}), 0);
+  EXPECT_TRUE(Children().empty());
+}
+
+}  // namespace
+}  // namespace velmohelp::testing

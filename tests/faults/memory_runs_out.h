@@ -1,0 +1,58 @@
+// Entry points, and what they answer when memory runs out.
+#ifndef TESTS_FAULTS_MEMORY_RUNS_OUT_H_
+#define TESTS_FAULTS_MEMORY_RUNS_OUT_H_
+
+#include <gtest/gtest.h>
+
+#include <optional>
+#include <set>
+
+#include "tests/faults/exhaustion.h"
+#include "tests/support/client_world.h"
+#include "tests/support/sentence.h"
+
+namespace velmohelp::testing {
+
+/// Where the client stands before a call: as at load, or initialised on a
+/// machine with a browser alone, with a viewer too, or with a network too.
+void AtLoad(ClientWorld& world);
+void Initialised(ClientWorld& world);
+void WithViewer(ClientWorld& world);
+void Online(ClientWorld& world);
+
+struct EntryPoint {
+  const char* sentence;
+  /// Each answer that the call has when memory runs out; none where it takes
+  /// no memory.
+  std::set<long> codes_of_exhaustion;
+  long (*call)();
+  void (*prepare)(ClientWorld&) = AtLoad;
+  /// What it answers with memory enough.
+  long code = 0;
+};
+
+void PrintTo(const EntryPoint& point, std::ostream* out);
+
+/// A world with help for the page "page", for any search, and a name "Foo" for
+/// the words "a" and "b".
+class MemoryRunsOut : public ::testing::TestWithParam<EntryPoint> {
+ protected:
+  MemoryRunsOut();
+
+  /// The codes of one run for each allocation. After each the call works.
+  std::set<long> CodesOf(Shortage shortage);
+
+  /// Memory that is short while such a preference is read leaves online help
+  /// on, and the call goes on.
+  bool ReadsOnlinePreferences() const;
+
+ private:
+  /// The call's code; nullopt when it took fewer allocations than that.
+  std::optional<long> CallExhaustedAt(std::size_t nth, Shortage shortage);
+
+  ClientWorld world_;
+};
+
+}  // namespace velmohelp::testing
+
+#endif  // TESTS_FAULTS_MEMORY_RUNS_OUT_H_

@@ -1,0 +1,49 @@
+#include "tests/faults/readers.h"
+
+#include <velmohelp/config.h>
+#include <velmohelp/resolve.h>
+
+#include "platform/linux/files.h"
+#include "platform/linux/preference_file.h"
+
+namespace velmohelp::testing {
+
+std::string Entry(const std::string& key) { return key + "\t=\"1\"\n"; }
+
+std::string LongText() {
+  std::string text = "[Preferences]\n" + Entry("VX_HOME") + Entry("first");
+  while (text.size() < 300'000) text += "no entry\n";
+  return text + Entry("last");
+}
+
+std::string FileIn(const TempFolder& folder) { return folder.Path("x"); }
+
+Keys InConfiguration(const TempFolder& folder) {
+  XMLParser parser;
+  parser.ReadFileToBuffer(FileIn(folder));
+  Keys keys = kAllKeys;
+  std::erase_if(keys,
+                [&](const auto& key) { return parser.GetKey(key) != "1"; });
+  return keys;
+}
+
+Keys InHelpMap(const TempFolder& folder) {
+  std::map<std::string, std::string> map;
+  const bool complete = ITEMInternal::LoadMapFile(FileIn(folder), map);
+  EXPECT_EQ(complete, map.contains("VX_HOME"));
+  Keys keys = kAllKeys;
+  std::erase_if(keys, [&](const auto& key) { return !map.contains(key); });
+  return keys;
+}
+
+Keys InPreferences(const TempFolder& folder) {
+  constexpr std::size_t kLimit = 1U << 20U;
+  const auto text = ReadAll(OpenRegularFile(FileIn(folder)), kLimit);
+  Keys keys = kAllKeys;
+  std::erase_if(keys, [&](const auto& key) {
+    return !PreferenceInText(text.value_or(""), key);
+  });
+  return keys;
+}
+
+}  // namespace velmohelp::testing

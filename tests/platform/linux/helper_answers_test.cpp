@@ -1,0 +1,182 @@
+// What is made of what a helper does.
+#include "platform/linux/helper_answers.h"
+
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+
+#include <csignal>
+
+#include "platform/linux/browser_command.h"
+#include "tests/support/children.h"
+#include "tests/support/sentence.h"
+#include "tests/support/temporary_directory.h"
+
+namespace velmohelp {
+namespace {
+
+using std::chrono::milliseconds;
+using namespace std::string_literals;
+
+constexpr Patience kShort{milliseconds(50), milliseconds(50), milliseconds(50)};
+
+/// A folder of helpers that a test writes.
+class Helpers : public ::testing::Test {
+ protected:
+  ~Helpers() override { testing::EndChildren(); }
+
+  HelperAnswers Answers(Patience patience = {}) {
+    return {directory_.path(), programs_, patience};
+  }
+  void Write(const std::string& name, const std::string& lines) {
+    directory_.WriteScript("velmohelp-" + name, lines);
+  }
+  const testing::TemporaryDirectory& directory() const { return directory_; }
+
+ private:
+  testing::TemporaryDirectory directory_;
+  Programs programs_{""};
+};
+
+TEST_F(Helpers, ThatAreMissingCannot) {
+  EXPECT_FALSE(Answers().HostReachability("localhost"));
+  EXPECT_FALSE(Answers().FetchText("http://localhost/"));
+  EXPECT_FALSE(Answers().OpenInBrowser("http://localhost/"));
+}
+
+struct ReachRow {
+  const char* sentence;
+  const char* lines;
+  bool answered = false;
+  bool reachable = false;
+  bool connection_required = false;
+};
+
+class ReachHelper : public Helpers,
+                    public ::testing::WithParamInterface<ReachRow> {};
+
+TEST_P(ReachHelper, IsTakenAtItsWord) {
+  Write("reach", GetParam().lines);
+  const auto answer = Answers().HostReachability("a host");
+  ASSERT_EQ(answer.has_value(), GetParam().answered);
+  if (!answer) return;
+  EXPECT_EQ(answer->reachable, GetParam().reachable);
+  EXPECT_EQ(answer->connection_required, GetParam().connection_required);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, ReachHelper,
+    ::testing::Values(
+        ReachRow{"reachable", "echo reachable", true, true, false},
+        ReachRow{"on connection", "echo connection required", true, true, true},
+        ReachRow{"unreachable", "echo unreachable", true, false, false},
+        ReachRow{"in two pieces", "printf reach; echo able", true, true, false},
+        ReachRow{"with the host as its one argument",
+                 "test \"$#$1\" = '1a host' && echo reachable", true, true,
+                 false},
+        ReachRow{"no answer", "exit 0"},
+        ReachRow{"half an answer", "printf re"},
+        ReachRow{"no line end", "printf reachable"},
+        ReachRow{"more than an answer", "echo reachable; echo x"},
+        ReachRow{"nonsense", "echo yes"}, ReachRow{"a crash", "kill -SEGV $$"},
+        ReachRow{"an endless answer", "exec yes"}),
+    testing::SentenceOf());
+
+TEST_F(Helpers, AreNotAskedAboutHalfAText) {
+  Write("reach", "echo reachable");
+  Write("fetch", "echo text");
+  EXPECT_FALSE(Answers().HostReachability("localhost\0x"s));
+  EXPECT_FALSE(Answers().FetchText("http://localhost/\0x"s));
+}
+
+TEST_F(Helpers, SayThatThereIsAText) {
+  Write("fetch", "test \"$1\" = 'http://a/?b c' && echo text");
+  EXPECT_TRUE(Answers().FetchText("http://a/?b c"));
+  EXPECT_FALSE(Answers().FetchText("http://a/"));
+}
+
+TEST_F(Helpers, AreEndedWhenTheyAreLate) {
+  Write("reach", "exec sleep 1000");
+  EXPECT_FALSE(Answers(kShort).HostReachability("localhost"));
+  ASSERT_EQ(testing::Children().size(), 1U);
+  siginfo_t end = {};
+  waitid(P_ALL, 0, &end, WEXITED | WNOWAIT);
+  EXPECT_EQ(end.si_status, SIGKILL);
+  EXPECT_FALSE(Answers(kShort).FetchText("http://localhost/"));
+}
+
+TEST_F(Helpers, AreReapedLater) {
+  Write("reach", "exec sleep 1000");
+  Write("fetch", "echo text");
+  EXPECT_FALSE(Answers(kShort).HostReachability("localhost"));
+  testing::AwaitEndOfChildren();
+  EXPECT_TRUE(Answers().FetchText("http://localhost/"));
+  testing::AwaitEndOfChildren();
+  EXPECT_FALSE(Answers().OpenInBrowser("http://localhost/"));
+  EXPECT_TRUE(testing::Children().empty());
+}
+
+TEST_F(Helpers, KeepTheHostWaitingForSecondsOnly) {
+  using std::chrono::seconds;
+  EXPECT_EQ(Patience().reach, seconds(5));
+  EXPECT_EQ(Patience().browser, seconds(10));
+  EXPECT_EQ(Patience().fetch, seconds(65));
+}
+
+TEST_F(Helpers, ThatAnswerAndLingerAreLate) {
+  Write("fetch", "echo text; exec sleep 1000");
+  EXPECT_FALSE(Answers(kShort).FetchText("http://localhost/"));
+}
+
+TEST_F(Helpers, HaveTheBrowserStarted) {
+  const std::string browser =
+      directory().WriteScript("a browser", "printf '%s|' \"$@\" > \"$1\"");
+  const std::string report = directory() / "report";
+  Write("browser", "printf 'start\\0003\\000%s\\000%s\\000two words\\000' '" +
+                       browser + "' '" + report + "'");
+  EXPECT_TRUE(Answers().OpenInBrowser("http://localhost/"));
+  testing::AwaitEndOfChildren();
+  EXPECT_EQ(testing::FileText(report), report + "|two words|");
+}
+
+TEST_F(Helpers, FailWhenTheBrowserCannotBeStarted) {
+  Write("browser", "printf 'start\\0001\\000/nonexistent\\000'");
+  EXPECT_FALSE(Answers().OpenInBrowser("http://localhost/"));
+}
+
+TEST_F(Helpers, OpenTheBrowserThemselves) {
+  Write("browser", "printf 'opened\\000'");
+  EXPECT_TRUE(Answers().OpenInBrowser("http://localhost/"));
+}
+
+struct CommandRow {
+  const char* sentence;
+  std::string answer;
+  std::optional<Arguments> command;
+};
+
+class BrowserAnswer : public ::testing::TestWithParam<CommandRow> {};
+
+TEST_P(BrowserAnswer, IsACommandLine) {
+  EXPECT_EQ(ParseBrowserAnswer(GetParam().answer), GetParam().command);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, BrowserAnswer,
+    ::testing::Values(
+        CommandRow{"opened already", "opened\0"s, Arguments{}},
+        CommandRow{"a program alone", "start\0001\0/b\0"s, Arguments{"/b"}},
+        CommandRow{"empty words are words", "start\0003\0/b\0\0x y\0"s,
+                   Arguments{"/b", "", "x y"}},
+        CommandRow{"nothing", "", {}},
+        CommandRow{"a word is missing", "start\0003\0/b\0x\0"s, {}},
+        CommandRow{"the last word is cut", "start\0002\0/b\0x"s, {}},
+        CommandRow{"a word too many", "start\0001\0/b\0x\0"s, {}},
+        CommandRow{"no program", "start\0000\0"s, {}},
+        CommandRow{"a relative program", "start\0001\0b\0"s, {}},
+        CommandRow{"an empty program", "start\0001\0\0"s, {}},
+        CommandRow{"opened and more", "opened\0x\0"s, {}},
+        CommandRow{"another word", "run\0001\0/b\0"s, {}}),
+    testing::SentenceOf());
+
+}  // namespace
+}  // namespace velmohelp
