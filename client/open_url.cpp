@@ -4,9 +4,9 @@
 #include <velmohelp/text.h>
 #include <velmohelp/velmohelp.h>
 
-#include "client/guarded.h"
 #include "client/request.h"
 #include "client/state.h"
+#include "exports/guarded.h"
 
 namespace velmohelp {
 namespace {

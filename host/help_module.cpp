@@ -1,6 +1,6 @@
 #include "host/help_module.h"
 
-#include "client/result_codes.h"
+#include "exports/result_codes.h"
 #include "host/named_integer.h"
 
 namespace velmohelp {

@@ -98,7 +98,7 @@ class Machine {
 };
 
 /// The machine that this library was built for. Each system's folder defines
-/// it; only client/this_machine.cpp asks for it.
+/// it; only exports/this_machine.cpp asks for it.
 Machine& NativeMachine();
 
 }  // namespace velmohelp

@@ -6,7 +6,7 @@
 #include <string>
 
 #include "platform/machine.h"
-#include "resolve/help_map.h"
+#include "resolve/help_map/help_map.h"
 
 namespace velmohelp {
 

@@ -16,10 +16,14 @@ struct Layer {
 
 const std::vector<Layer>& Layers() {
   static const std::vector<Layer> layers = {
+      {"exports/",
+       {"exports/", "client/", "config/", "resolve/", "online/", "platform/",
+        "util/"}},
       {"client/",
-       {"client/", "config/", "resolve/", "online/", "platform/", "util/"}},
+       {"client/", "exports/", "config/", "resolve/", "online/", "platform/",
+        "util/"}},
       {"config/", {"config/", "platform/", "util/"}},
-      {"resolve/", {"resolve/", "platform/", "util/"}},
+      {"resolve/", {"resolve/", "client/", "platform/", "util/"}},
       {"online/", {"online/", "platform/", "util/"}},
       {"platform/", {"platform/", "util/"}},
       // The library and its helper programs share the words they speak in.

@@ -5,7 +5,7 @@
 #include <optional>
 
 #include "client/state.h"
-#include "client/this_machine.h"
+#include "exports/this_machine.h"
 #include "platform/unsupported/unsupported_machine.h"
 #include "tests/support/client_world.h"
 #include "tests/support/sentence.h"

@@ -5,7 +5,7 @@
 #include <velmohelp/velmohelp.h>
 
 #include "client/state.h"
-#include "client/this_machine.h"
+#include "exports/this_machine.h"
 #include "platform/scripted/scripted_machine.h"
 #include "tests/support/sentence.h"
 

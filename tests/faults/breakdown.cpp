@@ -6,7 +6,7 @@
 #include <iterator>
 #include <ostream>
 
-#include "client/this_machine.h"
+#include "exports/this_machine.h"
 #include "platform/scripted/fault_machine.h"
 #include "tests/support/client_state.h"
 

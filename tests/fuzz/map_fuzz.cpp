@@ -2,8 +2,8 @@
 // found, and loaded over another map's, across a file's pieces too.
 #include <velmohelp/resolve.h>
 
-#include "resolve/help_map.h"
-#include "resolve/help_map_text.h"
+#include "resolve/help_map/entry_parser.h"
+#include "resolve/help_map/help_map.h"
 #include "tests/fuzz/input.h"
 #include "tests/support/map_oracle.h"
 

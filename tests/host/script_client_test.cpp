@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 #include <velmohelp/script_host.h>
 
-#include "client/this_machine.h"
+#include "exports/this_machine.h"
 #include "platform/scripted/scripted_machine.h"
 #include "tests/host/lua_state.h"
 #include "tests/support/temporary_directory.h"

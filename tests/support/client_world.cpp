@@ -8,7 +8,7 @@
 #include <fstream>
 #include <ostream>
 
-#include "client/this_machine.h"
+#include "exports/this_machine.h"
 #include "tests/support/client_state.h"
 
 namespace velmohelp::testing {

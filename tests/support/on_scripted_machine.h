@@ -8,7 +8,7 @@
 #include <string>
 
 #include "client/state.h"
-#include "client/this_machine.h"
+#include "exports/this_machine.h"
 #include "platform/scripted/scripted_machine.h"
 
 namespace velmohelp::testing {

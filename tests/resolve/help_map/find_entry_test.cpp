@@ -2,8 +2,8 @@
 // be the one that the map would give.
 #include <gtest/gtest.h>
 
-#include "resolve/help_map.h"
-#include "resolve/help_map_text.h"
+#include "resolve/help_map/entry_parser.h"
+#include "resolve/help_map/help_map.h"
 #include "tests/support/random_text.h"
 
 namespace velmohelp::testing {

@@ -5,8 +5,8 @@
 
 #include <sstream>
 
-#include "resolve/help_map.h"
-#include "resolve/help_map_filler.h"
+#include "resolve/help_map/builder.h"
+#include "resolve/help_map/help_map.h"
 #include "tests/support/failing_memory.h"
 #include "tests/support/random_text.h"
 #include "tests/support/sentence.h"

@@ -1,6 +1,6 @@
 #include <velmohelp/resolve.h>
 
-#include "resolve/help_map.h"
+#include "resolve/help_map/help_map.h"
 #include "util/input_file.h"
 
 namespace velmohelp {

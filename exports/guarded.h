@@ -1,6 +1,6 @@
 // The border between the client and its callers.
-#ifndef CLIENT_GUARDED_H_
-#define CLIENT_GUARDED_H_
+#ifndef EXPORTS_GUARDED_H_
+#define EXPORTS_GUARDED_H_
 
 #include <exception>
 
@@ -20,4 +20,4 @@ Code Guarded(Code failure, Request request) {
 
 }  // namespace velmohelp
 
-#endif  // CLIENT_GUARDED_H_
+#endif  // EXPORTS_GUARDED_H_

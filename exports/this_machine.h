@@ -1,7 +1,7 @@
 // The one place where the client's machine is named. Everything below the
 // client is handed it.
-#ifndef CLIENT_THIS_MACHINE_H_
-#define CLIENT_THIS_MACHINE_H_
+#ifndef EXPORTS_THIS_MACHINE_H_
+#define EXPORTS_THIS_MACHINE_H_
 
 #include "platform/machine.h"
 
@@ -16,4 +16,4 @@ void UseMachine(Machine* machine);
 
 }  // namespace velmohelp
 
-#endif  // CLIENT_THIS_MACHINE_H_
+#endif  // EXPORTS_THIS_MACHINE_H_

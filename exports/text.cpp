@@ -3,7 +3,7 @@
 
 #include <cstring>
 
-#include "client/guarded.h"
+#include "exports/guarded.h"
 
 long VelmoHelpEncodeURIComponent(const char* in, char* out, long outSize) {
   constexpr long kNotWritten = -1;

@@ -1,8 +1,8 @@
 // The two tables of named result codes, as scripts see them. Their values are
 // the enumerations of <velmohelp/velmohelp.h>; the two numberings differ on
 // purpose, and names that no operation answers stay all the same.
-#ifndef CLIENT_RESULT_CODES_H_
-#define CLIENT_RESULT_CODES_H_
+#ifndef EXPORTS_RESULT_CODES_H_
+#define EXPORTS_RESULT_CODES_H_
 
 #include <velmohelp/script_host.h>
 #include <velmohelp/velmohelp.h>
@@ -50,4 +50,4 @@ inline constexpr ResultCodeTable<13> kDisplayPageReturnCode = {
 
 }  // namespace velmohelp
 
-#endif  // CLIENT_RESULT_CODES_H_
+#endif  // EXPORTS_RESULT_CODES_H_

@@ -1,4 +1,4 @@
-#include "client/this_machine.h"
+#include "exports/this_machine.h"
 
 namespace velmohelp {
 namespace {

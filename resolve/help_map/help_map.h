@@ -1,6 +1,6 @@
 // Help maps ("helpmap.txt"): which page belongs to a page id.
-#ifndef RESOLVE_HELP_MAP_H_
-#define RESOLVE_HELP_MAP_H_
+#ifndef RESOLVE_HELP_MAP_HELP_MAP_H_
+#define RESOLVE_HELP_MAP_HELP_MAP_H_
 
 #include <map>
 #include <optional>
@@ -67,4 +67,4 @@ std::string WithZoneSeparatorEncoded(std::string base_url);
 
 }  // namespace velmohelp
 
-#endif  // RESOLVE_HELP_MAP_H_
+#endif  // RESOLVE_HELP_MAP_HELP_MAP_H_

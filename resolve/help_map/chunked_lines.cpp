@@ -1,6 +1,6 @@
-#include "resolve/help_map_lines.h"
+#include "resolve/help_map/chunked_lines.h"
 
-#include "resolve/help_map_text.h"
+#include "resolve/help_map/entry_parser.h"
 
 namespace velmohelp {
 

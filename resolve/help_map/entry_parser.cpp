@@ -1,4 +1,4 @@
-#include "resolve/help_map_text.h"
+#include "resolve/help_map/entry_parser.h"
 
 #include "util/word_scan.h"
 

@@ -1,7 +1,7 @@
-#include "resolve/help_map_filler.h"
+#include "resolve/help_map/builder.h"
 
-#include "resolve/help_map_lines.h"
-#include "resolve/help_map_order.h"
+#include "resolve/help_map/chunked_lines.h"
+#include "resolve/help_map/entry_order.h"
 
 namespace velmohelp {
 namespace {

@@ -1,7 +1,7 @@
 #include <velmohelp/platform.h>
 
 #include "client/state_views.h"
-#include "client/this_machine.h"
+#include "exports/this_machine.h"
 #include "platform/folders.h"
 #include "platform/help_tool.h"
 #include "platform/launch.h"

@@ -1,12 +1,12 @@
 // Puts the entries of a help map's text into a map.
-#ifndef RESOLVE_HELP_MAP_FILLER_H_
-#define RESOLVE_HELP_MAP_FILLER_H_
+#ifndef RESOLVE_HELP_MAP_BUILDER_H_
+#define RESOLVE_HELP_MAP_BUILDER_H_
 
 #include <istream>
 #include <string_view>
 
-#include "resolve/help_map.h"
-#include "resolve/help_map_text.h"
+#include "resolve/help_map/entry_parser.h"
+#include "resolve/help_map/help_map.h"
 
 namespace velmohelp {
 
@@ -45,4 +45,4 @@ class HelpMapFiller {
 
 }  // namespace velmohelp
 
-#endif  // RESOLVE_HELP_MAP_FILLER_H_
+#endif  // RESOLVE_HELP_MAP_BUILDER_H_

@@ -1,7 +1,7 @@
 #include <velmohelp/resolve.h>
 
 #include "client/state_views.h"
-#include "client/this_machine.h"
+#include "exports/this_machine.h"
 #include "resolve/page_target.h"
 #include "resolve/url_check.h"
 

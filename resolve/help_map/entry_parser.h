@@ -1,6 +1,6 @@
 // The text of a help map file: one entry a line, key and value parted by TABs.
-#ifndef RESOLVE_HELP_MAP_TEXT_H_
-#define RESOLVE_HELP_MAP_TEXT_H_
+#ifndef RESOLVE_HELP_MAP_ENTRY_PARSER_H_
+#define RESOLVE_HELP_MAP_ENTRY_PARSER_H_
 
 #include <optional>
 #include <string_view>
@@ -44,4 +44,4 @@ std::optional<std::string_view> FindEntry(std::string_view text,
 
 }  // namespace velmohelp
 
-#endif  // RESOLVE_HELP_MAP_TEXT_H_
+#endif  // RESOLVE_HELP_MAP_ENTRY_PARSER_H_

@@ -4,7 +4,7 @@
 #include <velmohelp/script_host.h>
 #include <velmohelp/velmohelp.h>
 
-#include "client/result_codes.h"
+#include "exports/result_codes.h"
 
 // Null in a process that offers no script engine: a C program links and loads
 // the library without them.

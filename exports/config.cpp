@@ -1,7 +1,7 @@
 #include <velmohelp/config.h>
 
 #include "client/state_views.h"
-#include "client/this_machine.h"
+#include "exports/this_machine.h"
 
 using velmohelp::ConfigView;
 using velmohelp::ThisMachine;

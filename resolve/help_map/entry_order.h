@@ -1,6 +1,6 @@
 // The order of a help map's entries.
-#ifndef RESOLVE_HELP_MAP_ORDER_H_
-#define RESOLVE_HELP_MAP_ORDER_H_
+#ifndef RESOLVE_HELP_MAP_ENTRY_ORDER_H_
+#define RESOLVE_HELP_MAP_ENTRY_ORDER_H_
 
 #include <string_view>
 #include <vector>
@@ -23,4 +23,4 @@ std::vector<EntryPlace> EntriesByKey(std::string_view text);
 
 }  // namespace velmohelp
 
-#endif  // RESOLVE_HELP_MAP_ORDER_H_
+#endif  // RESOLVE_HELP_MAP_ENTRY_ORDER_H_

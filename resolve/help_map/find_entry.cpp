@@ -1,5 +1,5 @@
 // One entry of a help map's text, found without taking the text apart.
-#include "resolve/help_map_text.h"
+#include "resolve/help_map/entry_parser.h"
 #include "util/word_scan.h"
 
 namespace velmohelp {

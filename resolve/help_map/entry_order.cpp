@@ -1,10 +1,10 @@
-#include "resolve/help_map_order.h"
+#include "resolve/help_map/entry_order.h"
 
 #include <algorithm>
 #include <array>
 #include <span>
 
-#include "resolve/help_map_text.h"
+#include "resolve/help_map/entry_parser.h"
 
 namespace velmohelp {
 namespace {

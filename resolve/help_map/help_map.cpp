@@ -1,10 +1,10 @@
-#include "resolve/help_map.h"
+#include "resolve/help_map/help_map.h"
 
 #include <velmohelp/resolve.h>
 #include <velmohelp/text.h>
 
-#include "resolve/help_map_filler.h"
-#include "resolve/help_map_text.h"
+#include "resolve/help_map/builder.h"
+#include "resolve/help_map/entry_parser.h"
 #include "util/input_file.h"
 
 namespace velmohelp {

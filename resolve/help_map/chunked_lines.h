@@ -1,6 +1,6 @@
 // A help map file as it is read.
-#ifndef RESOLVE_HELP_MAP_LINES_H_
-#define RESOLVE_HELP_MAP_LINES_H_
+#ifndef RESOLVE_HELP_MAP_CHUNKED_LINES_H_
+#define RESOLVE_HELP_MAP_CHUNKED_LINES_H_
 
 #include <istream>
 #include <string_view>
@@ -36,4 +36,4 @@ class HelpMapLines {
 
 }  // namespace velmohelp
 
-#endif  // RESOLVE_HELP_MAP_LINES_H_
+#endif  // RESOLVE_HELP_MAP_CHUNKED_LINES_H_

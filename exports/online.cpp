@@ -1,7 +1,7 @@
 #include <velmohelp/online.h>
 
 #include "client/state.h"
-#include "client/this_machine.h"
+#include "exports/this_machine.h"
 #include "online/network_status.h"
 
 using velmohelp::ThisMachine;
