@@ -70,7 +70,7 @@ enum ITEMConversionFlag { kConversionStrict = 0, kConversionLenient = 1 };
 
 /* From U+10000 on a pair of units, whole or not at all.
  * 3: an illegal sequence; in strict mode also a surrogate, which lenient mode
- * writes unchanged. */
+ * writes unchanged. A full target is reported (2) before a strict surrogate. */
 VELMOHELP_API ITEMConversionResult
 ITEMConvertUTF8toUTF16(const ITEMUTF8** source, const ITEMUTF8* sourceEnd,
                        ITEMUTF16** target, ITEMUTF16* targetEnd, int flag);
@@ -95,7 +95,8 @@ VELMOHELP_API ITEMConversionResult
 ITEMConvertUTF16toUTF32(const ITEMUTF16** source, const ITEMUTF16* sourceEnd,
                         ITEMUTF32** target, ITEMUTF32* targetEnd, int flag);
 
-/* Strict mode stops with 3 at a surrogate. It skips a value of 0x110000 or
+/* A full target is reported (2) before the value is looked at.
+ * Strict mode stops with 3 at a surrogate. It skips a value of 0x110000 or
  * more and goes on; the call then ends with 3, source at its end, unless it
  * stops earlier with 2 or 3 of its own.
  * Lenient mode writes a surrogate unchanged and U+FFFD for 0x110000 or more. */

@@ -106,7 +106,9 @@ Outcome OracleUtf8To16(const ITEMUTF8* source, std::size_t size,
     ITEMUTF32 c = 0;
     std::size_t length = 0;
     o.result = Read(source + o.consumed, size - o.consumed, c, length);
-    if (o.result == kComplete && !lenient && (IsHigh(c) || IsLow(c))) {
+    if (o.result == kComplete && o.produced == room) {
+      o.result = kTargetExhausted;
+    } else if (o.result == kComplete && !lenient && (IsHigh(c) || IsLow(c))) {
       o.result = kIllegal;
     }
     if (o.result == kComplete) o.result = Write(Utf16Units(c), target, room, o);
@@ -180,7 +182,9 @@ Outcome OracleUtf32To16(const ITEMUTF32* source, std::size_t size,
   bool skipped = false;
   for (; o.consumed < size && o.result == kComplete; ++o.consumed) {
     const ITEMUTF32 c = source[o.consumed];
-    if (c >= 0x110000 && !lenient) {
+    if (o.produced == room) {
+      o.result = kTargetExhausted;
+    } else if (c >= 0x110000 && !lenient) {
       skipped = true;
     } else if (!lenient && (IsHigh(c) || IsLow(c))) {
       o.result = kIllegal;

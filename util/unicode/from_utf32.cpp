@@ -134,7 +134,7 @@ struct Utf32ToUtf16 {
   ITEMConversionResult Step(Cursor<const ITEMUTF32>& source,
                             Cursor<ITEMUTF16>& target) const {
     const ITEMUTF32 value = *source.at();
-    const bool skip = !lenient && value > kLastCodePoint;
+    const bool skip = !lenient && value > kLastCodePoint && !target.empty();
     *skipped = *skipped || skip;
     const auto result =
         skip ? kConversionComplete : PutUtf16(value, lenient, target);

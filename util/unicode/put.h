@@ -14,16 +14,17 @@ inline ITEMConversionResult PutUtf32(ITEMUTF32 value,
   return kConversionComplete;
 }
 
-/// Strict mode refuses what has no form in UTF-16 before it asks for room: what
-/// is not written needs none.
+/// Looks for room for one unit before strict mode refuses a value: callers that
+/// convert in pieces rely on a full target to be reported first.
 inline ITEMConversionResult PutUtf16(ITEMUTF32 value, bool lenient,
                                      Cursor<ITEMUTF16>& target) {
+  if (target.empty()) return kConversionTargetExhausted;
   if (!lenient && (IsSurrogate(value) || value > kLastCodePoint)) {
     return kConversionSourceIllegal;
   }
   if (value > kLastCodePoint) value = kReplacement;
   const bool paired = value >= kFirstPaired;
-  if (target.left() < (paired ? 2 : 1)) return kConversionTargetExhausted;
+  if (paired && target.left() < 2) return kConversionTargetExhausted;
   if (paired) {
     value -= kFirstPaired;
     target.Put(kHighSurrogate + (value >> 10));

@@ -111,6 +111,11 @@ TEST(NarrowToWide, RefusesASurrogateInStrictModeOnly) {
   EXPECT_EQ(Wide("\xED\xA0\x80", true), std::wstring(1, 0xD800));
 }
 
+TEST(NarrowToWide, RefusesASurrogateAtTheStartOfAPiece) {
+  EXPECT_THAT([] { Wide(std::string(256, 'x') + "\xED\xA0\x80"); },
+              ThrowsMessage<Sequence>("Bad UTF-8 sequence."));
+}
+
 TEST(BoundedNarrow, ReturnsBothPositions) {
   const std::wstring text = L"ab\u20AC";
   char target[4] = {'.', '.', '.', '.'};
@@ -160,6 +165,20 @@ TEST(BoundedWide, StopsBeforeAnIncompleteSequence) {
                                          std::end(target), false);
   EXPECT_EQ(source, text.data() + 2);
   EXPECT_EQ(end, target + 2);
+}
+
+TEST(BoundedWide, StopsAtAFullTargetBeforeASurrogate) {
+  const std::string text = "a\xED\xA0\x80";
+  wchar_t target[2];
+  const auto [source, end] =
+      convert_utf(text.data(), text.data() + 4, target, target + 1, false);
+  EXPECT_EQ(source, text.data() + 1);
+  EXPECT_EQ(end, target + 1);
+  EXPECT_THAT(
+      [&] {
+        convert_utf(text.data(), text.data() + 4, target, target + 2, false);
+      },
+      ThrowsMessage<Sequence>("Bad UTF-8 sequence."));
 }
 
 TEST(BoundedWide, NeedsATargetOnlyForASource) {
