@@ -1,4 +1,4 @@
-// UTF-8 as RFC 3629 has it: surrogate code points are not part of it.
+// UTF-8 as RFC 3629 defines it: without surrogates.
 #ifndef UTIL_UTF8_H_
 #define UTIL_UTF8_H_
 
@@ -7,6 +7,7 @@
 
 namespace velmohelp {
 
+/// Whether text is valid UTF-8. Zero bytes are valid.
 bool IsUtf8(std::string_view text);
 
 /// How many UTF-16 units the text takes. text: valid UTF-8.

@@ -7,8 +7,8 @@
 namespace velmohelp::unicode {
 namespace {
 
-/// Moves over legal text, as far as whole blocks go. Text that is not legal
-/// stops it before or in the block.
+/// Moves over whole blocks of legal text. Stops where a block is not legal: the
+/// single steps then stop at the sequence itself.
 void SkipBlocks([[maybe_unused]] Cursor<const ITEMUTF8>& source) {
 #ifdef VELMO_UNICODE_LANES
   while (source.left() >= kByteLanes) {
@@ -23,34 +23,33 @@ void SkipBlocks([[maybe_unused]] Cursor<const ITEMUTF8>& source) {
 #endif
 }
 
-bool AreLegal(Cursor<const ITEMUTF8> source) {
+/// Whether the source, which is not empty, begins with a whole legal sequence.
+bool BeginsLegally(const Cursor<const ITEMUTF8>& source) {
+  return TrailingBytes(*source.at()) < source.left() &&
+         IsLegalSequence(source.at());
+}
+
+}  // namespace
+
+bool IsLegalUtf8(const ITEMUTF8* first, const ITEMUTF8* last) {
+  Cursor<const ITEMUTF8> source(first, last);
+  if (source.empty()) return first == last;
   SkipBlocks(source);
   while (!source.empty()) {
-    const std::size_t trailing = TrailingBytes(*source.at());
-    if (trailing >= source.left() || !IsLegalSequence(source.at())) {
-      return false;
-    }
-    source.Advance(trailing + 1);
+    if (!BeginsLegally(source)) return false;
+    source.Advance(TrailingBytes(*source.at()) + 1);
   }
   return true;
 }
 
-}  // namespace
 }  // namespace velmohelp::unicode
-
-using velmohelp::unicode::AreLegal;
-using velmohelp::unicode::Cursor;
-using velmohelp::unicode::IsLegalSequence;
-using velmohelp::unicode::TrailingBytes;
 
 bool ITEMisLegalUTF8Sequence(const ITEMUTF8* source,
                              const ITEMUTF8* sourceEnd) {
-  const Cursor<const ITEMUTF8> range(source, sourceEnd);
-  return !range.empty() && TrailingBytes(*source) < range.left() &&
-         IsLegalSequence(source);
+  const velmohelp::unicode::Cursor<const ITEMUTF8> range(source, sourceEnd);
+  return !range.empty() && velmohelp::unicode::BeginsLegally(range);
 }
 
 bool ITEMisLegalUTF8String(const ITEMUTF8* source, const ITEMUTF8* sourceEnd) {
-  const Cursor<const ITEMUTF8> range(source, sourceEnd);
-  return range.empty() ? source == sourceEnd : AreLegal(range);
+  return velmohelp::unicode::IsLegalUtf8(source, sourceEnd);
 }

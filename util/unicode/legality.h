@@ -1,4 +1,4 @@
-// Legality of UTF-8, for the library's own use.
+// Whether bytes are valid UTF-8: the one place that knows.
 #ifndef UTIL_UNICODE_LEGALITY_H_
 #define UTIL_UNICODE_LEGALITY_H_
 
@@ -8,11 +8,13 @@
 
 namespace velmohelp::unicode {
 
-/// Whether a text is UTF-8 as ITEMisLegalUTF8String sees it: surrogates pass,
-/// and so do zero bytes.
+/// Whether a range is legal UTF-8. Surrogates are legal here, and so are zero
+/// bytes; IsUtf8 in util/utf8.h refuses surrogates.
+bool IsLegalUtf8(const ITEMUTF8* first, const ITEMUTF8* last);
+
 inline bool IsLegalUtf8(std::string_view text) {
   const auto* bytes = reinterpret_cast<const ITEMUTF8*>(text.data());
-  return ITEMisLegalUTF8String(bytes, bytes + text.size());
+  return IsLegalUtf8(bytes, bytes + text.size());
 }
 
 }  // namespace velmohelp::unicode
