@@ -1,4 +1,10 @@
-// Four code points at once, on their way into UTF-8 or UTF-16.
+// Four code points at once, to UTF-8 or UTF-16: every lane of 32 bits gets the
+// longest form that fits, right-aligned, and a mask of the bytes that belong to
+// the form that the code point really has. In memory order:
+//
+//     code point   U+0041        U+00E9        U+20AC        U+1F600
+//     units        .. .. .. 41   .. .. C3 A9   .. E2 82 AC   F0 9F 98 80
+//     mask         00 00 00 FF   00 00 FF FF   00 FF FF FF   FF FF FF FF
 #ifndef UTIL_UNICODE_CODE_POINT_BLOCK_H_
 #define UTIL_UNICODE_CODE_POINT_BLOCK_H_
 
@@ -8,16 +14,14 @@
 
 namespace velmohelp::unicode {
 
-/// As much room in each lane as the longest form takes, the units in the order
-/// of the memory, the last unit last; where a form is shorter, its first lanes
-/// are not kept.
+/// What Compress takes: units, and ones in the mask where it keeps them.
 struct Encoded {
   Words units;
-  Words kept;
+  Words mask;
 };
 
-/// The code points are below 0x80000000.
-VELMO_INLINE Words From(Words code_points, std::int32_t bound) {
+/// The code points are below 0x80000000, so that a signed comparison will do.
+VELMO_INLINE Words AtLeast(Words code_points, std::int32_t bound) {
   return (Words)((Signed)code_points >= bound);
 }
 
@@ -25,12 +29,14 @@ VELMO_INLINE bool HasSurrogates(Words code_points) {
   return Any((code_points & 0xFFFFF800) == 0xD800);
 }
 
-/// Four bytes in each lane, up to 0x1FFFFF. Six bits go into each, all marked
-/// as trailing ones; the first then gets the rest of a lead byte's mark.
+/// Up to 0x1FFFFF. Six bits go into each byte, and every byte gets the mark of
+/// a trailing one; the lead byte then gets the rest of its length mark:
+///     code point   ........ ...aaabb bbbbcccc ccdddddd
+///     bytes        ..aaa ..bbbbbb ..cccccc ..dddddd
 VELMO_INLINE Encoded ToUtf8(Words c) {
-  const Words two = From(c, 0x80);
-  const Words three = From(c, 0x800);
-  const Words four = From(c, 0x10000);
+  const Words two = AtLeast(c, 0x80);
+  const Words three = AtLeast(c, 0x800);
+  const Words four = AtLeast(c, 0x10000);
   const Words bytes = (c >> 18) | ((c >> 4) & 0x3F00) | ((c << 10) & 0x3F0000) |
                       ((c << 24) & 0x3F000000);
   const Words lead =
@@ -40,12 +46,12 @@ VELMO_INLINE Encoded ToUtf8(Words c) {
           (four & 0xFF) | (three & 0xFF00) | (two & 0xFF0000) | 0xFF000000};
 }
 
-/// Two units in each lane, up to 0x10FFFF.
+/// Up to 0x10FFFF: a surrogate pair, or the unit itself in the second place.
 VELMO_INLINE Encoded ToUtf16(Words c) {
-  const Words two = From(c, 0x10000);
-  const Words first = (c >> 10) + (0xD800 - (0x10000 >> 10));
-  const Words second = (c & 0x03FF) | 0xDC00;
-  return {(two & (first | (second << 16))) | (~two & (c << 16)),
+  const Words two = AtLeast(c, 0x10000);
+  const Words high = (c >> 10) + (0xD800 - (0x10000 >> 10));
+  const Words low = (c & 0x03FF) | 0xDC00;
+  return {(two & (high | (low << 16))) | (~two & (c << 16)),
           (two & 0xFFFF) | 0xFFFF0000};
 }
 

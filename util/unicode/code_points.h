@@ -9,7 +9,8 @@
 namespace velmohelp::unicode {
 
 inline constexpr ITEMUTF32 kReplacement = 0xFFFD;
-inline constexpr ITEMUTF32 kFirstPaired = 0x10000;  ///< two units from here on
+/// UTF-16 needs a surrogate pair from this code point on.
+inline constexpr ITEMUTF32 kFirstPaired = 0x10000;
 inline constexpr ITEMUTF32 kLastCodePoint = 0x10FFFF;
 inline constexpr ITEMUTF32 kHighSurrogate = 0xD800;
 inline constexpr ITEMUTF32 kLowSurrogate = 0xDC00;
@@ -30,8 +31,8 @@ constexpr ITEMUTF32 PairedCodePoint(ITEMUTF32 high, ITEMUTF32 low) {
   return kFirstPaired + ((high - kHighSurrogate) << 10) + (low - kLowSurrogate);
 }
 
-/// How many bytes a lead byte announces behind itself. 4 and 5, of the forms
-/// that UTF-8 once had, are never legal, but they can run past the source.
+/// How many trailing bytes a lead byte announces. 4 and 5 are of the longer
+/// forms that UTF-8 once had: never legal, but they can run past the source.
 constexpr std::size_t TrailingBytes(ITEMUTF8 lead) {
   if (lead < 0xC0) return 0;
   if (lead < 0xE0) return 1;
@@ -42,9 +43,8 @@ constexpr std::size_t TrailingBytes(ITEMUTF8 lead) {
 
 constexpr bool IsTrailingByte(ITEMUTF8 byte) { return (byte & 0xC0) == 0x80; }
 
-/// The least and the greatest second byte, so that no character has a longer
-/// form than it needs and none lies above U+10FFFF. ED has no rule of its own:
-/// surrogates are legal here.
+/// The bounds of the second byte rule out overlong forms and code points above
+/// U+10FFFF. ED has no bound of its own: surrogates are legal here.
 constexpr bool IsSecondByte(ITEMUTF8 lead, ITEMUTF8 second) {
   if (lead == 0xE0) return second >= 0xA0 && second <= 0xBF;
   if (lead == 0xF0) return second >= 0x90 && second <= 0xBF;
@@ -52,7 +52,8 @@ constexpr bool IsSecondByte(ITEMUTF8 lead, ITEMUTF8 second) {
   return IsTrailingByte(second);
 }
 
-/// Whether the 1 + TrailingBytes(*bytes) bytes, all readable, are legal.
+/// Whether the sequence at bytes is legal. All of its 1 + TrailingBytes(*bytes)
+/// bytes are readable.
 constexpr bool IsLegalSequence(const ITEMUTF8* bytes) {
   const ITEMUTF8 lead = bytes[0];
   if (lead < 0x80) return true;
@@ -64,7 +65,7 @@ constexpr bool IsLegalSequence(const ITEMUTF8* bytes) {
 /// The code point of a legal sequence with this many trailing bytes.
 constexpr ITEMUTF32 DecodeLegal(const ITEMUTF8* bytes, std::size_t trailing) {
   if (trailing == 0) return bytes[0];
-  ITEMUTF32 value = bytes[0] & (0x3FU >> trailing);  // without the length marks
+  ITEMUTF32 value = bytes[0] & (0x3FU >> trailing);  // without the length mark
   for (std::size_t i = 1; i <= trailing; ++i) {
     value = (value << 6) | (bytes[i] & 0x3FU);
   }

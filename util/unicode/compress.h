@@ -1,139 +1,107 @@
-// Writing the lanes that hold something, one behind the other.
-#ifndef UTIL_UNICODE_SQUEEZE_H_
-#define UTIL_UNICODE_SQUEEZE_H_
+// Compress: writes the lanes that a mask keeps, without gaps, by PEXT (parallel
+// bit extract), eight bytes at a time:
+//
+//     lanes   a  b  c  d  e  f  g  h
+//     mask    FF 00 FF FF 00 00 FF 00
+//     PEXT    a  c  d  g  0  0  0  0     all eight bytes are stored,
+//             ----------->               then the target moves on by four
+//
+// The next store overwrites the zeros. Those of the last one land behind the
+// block's own units, where the caller's buffer may hold something already:
+//
+//     target  [units of the block][overshoot] ...
+//
+// SavedOvershoot puts that back, so that the caller sees it unchanged.
+#ifndef UTIL_UNICODE_COMPRESS_H_
+#define UTIL_UNICODE_COMPRESS_H_
 
 #include <velmohelp/unicode.h>
 
-#include "util/unicode/cursor.h"
 #include "util/unicode/lanes.h"
-
-namespace velmohelp::unicode {
-
-// A kernel converts as many whole blocks as it can:
-//   Plain(source, target): those that every x86-64 can;
-//   Wide(source, target): all, with VELMO_WIDE.
 
 #ifdef VELMO_UNICODE_LANES
 
-/// Whether the instructions of VELMO_WIDE are there, and quick: AMD's family
-/// 17h takes hundreds of cycles for the one that Squeeze is built on.
-/// VELMO_UNICODE_PLAIN is for the tests of a processor that has not.
-inline bool HasWideInstructions() {
-#ifdef VELMO_UNICODE_PLAIN
-  return false;
-#else
-  return __builtin_cpu_supports("avx2") && __builtin_cpu_supports("bmi2") &&
-         !__builtin_cpu_is("amdfam17h");
-#endif
-}
+namespace velmohelp::unicode {
 
-/// The most that one write reaches beyond the units that it is for. Squeezing
-/// needs room for all lanes and this.
+/// The most units that a store reaches past the block's own. Compress needs
+/// room for all lanes and these.
 template <typename Unit>
-inline constexpr std::size_t kBeyond = sizeof(Unit) == 8 ? 4 : 8 / sizeof(Unit);
+inline constexpr std::size_t kOvershoot = sizeof(Unit) == 8 ? 4
+                                                            : 8 / sizeof(Unit);
 
-/// Target units that the writes of a block reach, but that are not its own.
+/// The target units past the end of a block, as they were before its stores.
 template <typename Unit>
-class Beyond {
+class SavedOvershoot {
  public:
-  VELMO_INLINE explicit Beyond(Unit* end) : end_(end) {
+  VELMO_INLINE explicit SavedOvershoot(Unit* end) : end_(end) {
     std::memcpy(units_, end, sizeof units_);
   }
-  VELMO_INLINE void PutBack() const {
+  VELMO_INLINE void Restore() const {
     std::memcpy(end_, units_, sizeof units_);
   }
 
  private:
   Unit* end_;
-  Unit units_[kBeyond<Unit>];
+  Unit units_[kOvershoot<Unit>];
 };
 
-/// How many units of this width a mask keeps.
-template <typename Unit>
-VELMO_WIDE VELMO_INLINE std::size_t Kept(std::uint64_t mask) {
-  return static_cast<std::size_t>(_mm_popcnt_u64(mask)) / (8 * sizeof(Unit));
-}
-
-/// The lanes as numbers of 64 bits, out of which one instruction takes the bits
-/// that a mask has.
+/// The lanes as numbers of 64 bits, which is what PEXT works on.
 template <typename Lanes>
-struct Numbers {
-  VELMO_WIDE VELMO_INLINE explicit Numbers(Lanes lanes) {
+struct Halves {
+  VELMO_BMI2 VELMO_INLINE explicit Halves(Lanes lanes) {
     std::memcpy(number, &lanes, sizeof lanes);
   }
   static constexpr std::size_t kCount = sizeof(Lanes) / 8;
   std::uint64_t number[kCount];
 };
 
-/// How many lanes are kept.
+/// How many units of this width the mask keeps of eight bytes.
+template <typename Unit>
+VELMO_BMI2 VELMO_INLINE std::size_t KeptOfHalf(std::uint64_t mask) {
+  return static_cast<std::size_t>(_mm_popcnt_u64(mask)) / (8 * sizeof(Unit));
+}
+
+/// How many units of this width the mask keeps.
 template <typename Unit, typename Lanes>
-VELMO_WIDE VELMO_INLINE std::size_t KeptIn(Lanes kept) {
+VELMO_BMI2 VELMO_INLINE std::size_t Kept(Lanes mask) {
   return static_cast<std::size_t>(_mm_popcnt_u32(
-             static_cast<unsigned>(_mm_movemask_epi8((__m128i)kept)))) /
+             static_cast<unsigned>(_mm_movemask_epi8((__m128i)mask)))) /
          sizeof(Unit);
 }
 
-/// Writes the units of the lanes where kept has ones.
+/// Writes the units that the mask keeps and moves `to` past them.
 template <typename Unit, typename Lanes>
-VELMO_WIDE VELMO_INLINE void Squeeze(Lanes lanes, Lanes kept, Unit*& to) {
-  const Numbers units(lanes);
-  const Numbers masks(kept);
-  for (std::size_t i = 0; i < Numbers<Lanes>::kCount; ++i) {
-    const std::uint64_t taken = _pext_u64(units.number[i], masks.number[i]);
-    std::memcpy(to, &taken, sizeof taken);
-    to += Kept<Unit>(masks.number[i]);
+VELMO_BMI2 VELMO_INLINE void Compress(Lanes lanes, Lanes mask, Unit*& to) {
+  const Halves units(lanes);
+  const Halves masks(mask);
+  for (std::size_t i = 0; i < Halves<Lanes>::kCount; ++i) {
+    const std::uint64_t kept = _pext_u64(units.number[i], masks.number[i]);
+    std::memcpy(to, &kept, sizeof kept);
+    to += KeptOfHalf<Unit>(masks.number[i]);
   }
 }
 
-/// The same for code points, in their low and high 16 bits. Few texts have any
-/// bits up there.
-VELMO_WIDE VELMO_INLINE void SqueezeWide(Units low, Units high, Units kept,
-                                         ITEMUTF32*& to) {
+/// The same for code points, given as their low and high 16 bits. Few texts
+/// have any high bits, and PEXT is not spent on zeros.
+VELMO_BMI2 VELMO_INLINE void CompressWidened(Units low, Units high, Units mask,
+                                             ITEMUTF32*& to) {
   const bool any_high = Any(high != 0);
-  const Numbers lows(low);
-  const Numbers highs(high);
-  const Numbers masks(kept);
-  for (std::size_t i = 0; i < Numbers<Units>::kCount; ++i) {
-    const std::uint64_t mask = masks.number[i];
-    const Longs taken = {_pext_u64(lows.number[i], mask), 0};
-    Longs above = {};
-    if (any_high) above[0] = _pext_u64(highs.number[i], mask);
-    const Words four = FirstHalf((Units)taken, (Units)above);
-    Store(to, FirstHalf(four, Words{}));
-    Store(to + 2, SecondHalf(four, Words{}));
-    to += Kept<ITEMUTF16>(mask);
+  const Halves lows(low);
+  const Halves highs(high);
+  const Halves masks(mask);
+  for (std::size_t i = 0; i < Halves<Units>::kCount; ++i) {
+    const std::uint64_t keep = masks.number[i];
+    const Longs kept_low = {_pext_u64(lows.number[i], keep), 0};
+    Longs kept_high = {};
+    if (any_high) kept_high[0] = _pext_u64(highs.number[i], keep);
+    const Words four = InterleaveLow((Units)kept_low, (Units)kept_high);
+    Store(to, InterleaveLow(four, Words{}));
+    Store(to + 2, InterleaveHigh(four, Words{}));
+    to += KeptOfHalf<ITEMUTF16>(keep);
   }
-}
-
-/// On copies of the cursors: those of the caller would be written to memory and
-/// read again for every block, and each block would wait for that.
-template <typename Kernel, typename Source, typename Target>
-VELMO_WIDE void RunWide(Kernel kernel, Cursor<Source>& source,
-                        Cursor<Target>& target) {
-  auto from = source;
-  auto to = target;
-  kernel.Wide(from, to);
-  source = from;
-  target = to;
-}
-
-#endif
-
-/// Moves both cursors over what the kernel takes on this processor.
-template <typename Kernel, typename Source, typename Target>
-void RunKernel([[maybe_unused]] Kernel kernel,
-               [[maybe_unused]] Cursor<Source>& source,
-               [[maybe_unused]] Cursor<Target>& target) {
-#ifdef VELMO_UNICODE_LANES
-  if (source.left() < kUnitLanes || target.left() < kUnitLanes) return;
-  if (HasWideInstructions()) {
-    RunWide(kernel, source, target);
-  } else {
-    kernel.Plain(source, target);
-  }
-#endif
 }
 
 }  // namespace velmohelp::unicode
 
-#endif  // UTIL_UNICODE_SQUEEZE_H_
+#endif
+#endif  // UTIL_UNICODE_COMPRESS_H_

@@ -1,4 +1,4 @@
-// The frame of all six converters.
+// A position in a caller's buffer.
 #ifndef UTIL_UNICODE_CURSOR_H_
 #define UTIL_UNICODE_CURSOR_H_
 
@@ -9,14 +9,14 @@
 
 namespace velmohelp::unicode {
 
-/// Whether a caller's range holds anything. The addresses are compared as
-/// numbers, since those of an inverted range need not belong together.
+/// Whether a caller's range holds anything. Compares the addresses as numbers:
+/// those of an inverted range need not belong to the same buffer.
 inline bool HoldsUnits(const void* first, const void* last) {
   return first != nullptr && reinterpret_cast<std::uintptr_t>(first) <
                                  reinterpret_cast<std::uintptr_t>(last);
 }
 
-/// A position in a buffer, and how many units there are from it on.
+/// A position, and how many units are left from there to the buffer's end.
 template <typename Unit>
 class Cursor {
  public:
@@ -34,7 +34,7 @@ class Cursor {
     left_ -= units;
   }
 
-  void Put(ITEMUTF32 unit) {
+  void Write(ITEMUTF32 unit) {
     *at_ = static_cast<Unit>(unit);
     Advance(1);
   }
@@ -43,41 +43,6 @@ class Cursor {
   Unit* at_;
   std::size_t left_;
 };
-
-/// After text that the vectors leave alone, this many characters go one by one
-/// before they are tried again: text that is full of such pays them seldom.
-inline constexpr int kStepsBetweenBlocks = 16;
-
-/// Runs one conversion. The direction has
-///   void Blocks(source, target): moves both over as many whole characters as
-///     it likes to take at once, maybe none;
-///   ITEMConversionResult Step(source, target): moves both over one character,
-///     or neither; the source is not empty.
-template <typename Direction, typename Source, typename Target>
-ITEMConversionResult Convert(Direction direction, Cursor<Source>& source,
-                             Cursor<Target>& target) {
-  while (!source.empty()) {
-    direction.Blocks(source, target);
-    for (int i = 0; i < kStepsBetweenBlocks && !source.empty(); ++i) {
-      const ITEMConversionResult result = direction.Step(source, target);
-      if (result != kConversionComplete) return result;
-    }
-  }
-  return kConversionComplete;
-}
-
-/// The same between a caller's cursors, which are written back.
-template <typename Direction, typename Source, typename Target>
-ITEMConversionResult Convert(Direction direction, Source** source,
-                             Source* source_end, Target** target,
-                             Target* target_end) {
-  Cursor<Source> from(*source, source_end);
-  Cursor<Target> to(*target, target_end);
-  const ITEMConversionResult result = Convert(direction, from, to);
-  *source = from.at();
-  *target = to.at();
-  return result;
-}
 
 }  // namespace velmohelp::unicode
 

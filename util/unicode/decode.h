@@ -1,20 +1,20 @@
-// Reading one character. The source is not empty and is not moved.
-#ifndef UTIL_UNICODE_TAKE_H_
-#define UTIL_UNICODE_TAKE_H_
+// Reads one character. The source is not empty, and is not moved.
+#ifndef UTIL_UNICODE_DECODE_H_
+#define UTIL_UNICODE_DECODE_H_
 
 #include "util/unicode/code_points.h"
 #include "util/unicode/cursor.h"
 
 namespace velmohelp::unicode {
 
-/// A character, or why there is none.
-struct Taken {
+/// A character and its length in units, or why it cannot be read.
+struct Decoded {
   ITEMConversionResult result = kConversionComplete;
   ITEMUTF32 value = 0;
   std::size_t units = 1;
 };
 
-inline Taken TakeUtf8(const Cursor<const ITEMUTF8>& source) {
+inline Decoded DecodeUtf8(const Cursor<const ITEMUTF8>& source) {
   const std::size_t trailing = TrailingBytes(*source.at());
   if (trailing >= source.left()) return {.result = kConversionSourceExhausted};
   if (!IsLegalSequence(source.at())) {
@@ -23,9 +23,10 @@ inline Taken TakeUtf8(const Cursor<const ITEMUTF8>& source) {
   return {.value = DecodeLegal(source.at(), trailing), .units = trailing + 1};
 }
 
-/// A high surrogate at the end of the source stands for itself in strict mode
-/// too: a caller could not tell an exhausted source from a complete one.
-inline Taken TakeUtf16(const Cursor<const ITEMUTF16>& source, bool lenient) {
+/// A high surrogate at the end of the source is a character of its own, in
+/// strict mode too: no result of UTF-16 says that the source is exhausted.
+inline Decoded DecodeUtf16(const Cursor<const ITEMUTF16>& source,
+                           bool lenient) {
   const ITEMUTF32 unit = *source.at();
   const bool last = source.left() == 1;
   if (!IsSurrogate(unit) || (last && IsHighSurrogate(unit))) {
@@ -40,4 +41,4 @@ inline Taken TakeUtf16(const Cursor<const ITEMUTF16>& source, bool lenient) {
 
 }  // namespace velmohelp::unicode
 
-#endif  // UTIL_UNICODE_TAKE_H_
+#endif  // UTIL_UNICODE_DECODE_H_

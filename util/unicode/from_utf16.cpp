@@ -1,6 +1,7 @@
-#include "util/unicode/put.h"
-#include "util/unicode/squeeze_utf8.h"
-#include "util/unicode/take.h"
+#include "util/unicode/compress_utf8.h"
+#include "util/unicode/convert.h"
+#include "util/unicode/decode.h"
+#include "util/unicode/encode.h"
 #include "util/unicode/utf16_block.h"
 
 namespace velmohelp::unicode {
@@ -15,13 +16,13 @@ VELMO_INLINE void CopyPlain(Cursor<const ITEMUTF16>& source,
     const auto first = Load<Units>(source.at());
     const auto second = Load<Units>(source.at() + kUnitLanes);
     if (Any(((first | second) & 0xFF80) != 0)) return;
-    Store(target.at(), Narrowed(first, second));
+    Store(target.at(), Narrow(first, second));
     source.Advance(kByteLanes);
     target.Advance(kByteLanes);
   }
 }
 
-/// All but surrogates.
+/// Blocks without surrogates.
 VELMO_INLINE void CopyPlain(Cursor<const ITEMUTF16>& source,
                             Cursor<ITEMUTF32>& target) {
   while (source.left() >= kUnitLanes && target.left() >= kUnitLanes) {
@@ -33,94 +34,71 @@ VELMO_INLINE void CopyPlain(Cursor<const ITEMUTF16>& source,
   }
 }
 
-VELMO_WIDE VELMO_INLINE std::size_t CopyBlock(const Utf16Block& block,
-                                              ITEMUTF8* to) {
-  return CopyForms(
+/// Returns how many target units it wrote.
+VELMO_BMI2 VELMO_INLINE std::size_t WriteBlock(const Utf16Block& block,
+                                               ITEMUTF8* to) {
+  return WriteUtf8(
       HasSurrogates(block.unit) ? ToUtf8(block) : ToUtf8(block.unit), to);
 }
 
-VELMO_WIDE VELMO_INLINE std::size_t CopyBlock(const Utf16Block& block,
-                                              ITEMUTF32* to) {
+VELMO_BMI2 VELMO_INLINE std::size_t WriteBlock(const Utf16Block& block,
+                                               ITEMUTF32* to) {
   const Utf16Values v = CodePoints(block);
-  const std::size_t units = KeptIn<ITEMUTF16>(v.kept);
-  const Beyond beyond(to + units);
-  SqueezeWide(v.low, v.high, v.kept, to);
-  beyond.PutBack();
+  const std::size_t units = Kept<ITEMUTF16>(v.mask);
+  const SavedOvershoot overshoot(to + units);
+  CompressWidened(v.low, v.high, v.mask, to);
+  overshoot.Restore();
   return units;
 }
 
-/// The most units that a block becomes.
+/// The most target units that a block becomes.
 template <typename Unit>
 inline constexpr std::size_t kMost = kUnitLanes*(sizeof(Unit) == 1 ? 3 : 1);
 
-/// All of the text but what only single steps can judge.
+/// Stops at a lone surrogate, which single steps have to judge.
 template <typename Unit>
-VELMO_WIDE VELMO_INLINE void CopyBlocks(Cursor<const ITEMUTF16>& source,
-                                        Cursor<Unit>& target) {
+VELMO_BMI2 VELMO_INLINE void ConvertBlocks(Cursor<const ITEMUTF16>& source,
+                                           Cursor<Unit>& target) {
   while (true) {
     CopyPlain(source, target);
     if (source.left() < kUnitLanes ||
-        target.left() < kMost<Unit> + kBeyond<Unit>) {
+        target.left() < kMost<Unit> + kOvershoot<Unit>) {
       return;
     }
     const Utf16Block block(Load<Units>(source.at()));
     if (!IsPaired(block)) return;
-    target.Advance(CopyBlock(block, target.at()));
+    target.Advance(WriteBlock(block, target.at()));
     source.Advance(WholeCharacters(block));
   }
 }
 
 #endif
 
-/// The blocks of both directions.
-struct Kernel {
+/// The direction from UTF-16 to UTF-8 or UTF-32.
+template <typename Unit>
+struct FromUtf16 {
+  bool lenient;
+
 #ifdef VELMO_UNICODE_LANES
-  template <typename Unit>
-  VELMO_INLINE void Plain(Cursor<const ITEMUTF16>& source,
-                          Cursor<Unit>& target) const {
+  VELMO_INLINE static void Sse2(Cursor<const ITEMUTF16>& source,
+                                Cursor<Unit>& target) {
     CopyPlain(source, target);
   }
-  template <typename Unit>
-  VELMO_WIDE VELMO_INLINE void Wide(Cursor<const ITEMUTF16>& source,
-                                    Cursor<Unit>& target) const {
-    CopyBlocks(source, target);
+  VELMO_BMI2 VELMO_INLINE static void Bmi2(Cursor<const ITEMUTF16>& source,
+                                           Cursor<Unit>& target) {
+    ConvertBlocks(source, target);
   }
 #endif
-};
 
-struct Utf16ToUtf8 {
-  bool lenient;
-
-  static void Blocks(Cursor<const ITEMUTF16>& source,
-                     Cursor<ITEMUTF8>& target) {
-    RunKernel(Kernel(), source, target);
+  Decoded Decode(const Cursor<const ITEMUTF16>& source) const {
+    return DecodeUtf16(source, lenient);
   }
-
-  ITEMConversionResult Step(Cursor<const ITEMUTF16>& source,
-                            Cursor<ITEMUTF8>& target) const {
-    const Taken character = TakeUtf16(source, lenient);
-    if (character.result != kConversionComplete) return character.result;
-    const auto result = PutUtf8(character.value, target);
-    if (result == kConversionComplete) source.Advance(character.units);
-    return result;
-  }
-};
-
-struct Utf16ToUtf32 {
-  bool lenient;
-
-  static void Blocks(Cursor<const ITEMUTF16>& source,
-                     Cursor<ITEMUTF32>& target) {
-    RunKernel(Kernel(), source, target);
-  }
-
-  ITEMConversionResult Step(Cursor<const ITEMUTF16>& source,
-                            Cursor<ITEMUTF32>& target) const {
-    const Taken character = TakeUtf16(source, lenient);
-    if (character.result != kConversionComplete) return character.result;
-    const auto result = PutUtf32(character.value, target);
-    if (result == kConversionComplete) source.Advance(character.units);
-    return result;
+  static ITEMConversionResult Encode(ITEMUTF32 value, Cursor<Unit>& target) {
+    if constexpr (sizeof(Unit) == 1) {
+      return EncodeUtf8(value, target);
+    } else {
+      return EncodeUtf32(value, target);
+    }
   }
 };
 
@@ -128,19 +106,20 @@ struct Utf16ToUtf32 {
 }  // namespace velmohelp::unicode
 
 using velmohelp::unicode::Convert;
-using velmohelp::unicode::Utf16ToUtf32;
-using velmohelp::unicode::Utf16ToUtf8;
+using velmohelp::unicode::FromUtf16;
 
 ITEMConversionResult ITEMConvertUTF16toUTF8(const ITEMUTF16** source,
                                             const ITEMUTF16* sourceEnd,
                                             ITEMUTF8** target,
                                             ITEMUTF8* targetEnd, int flag) {
-  return Convert(Utf16ToUtf8{flag != 0}, source, sourceEnd, target, targetEnd);
+  return Convert(FromUtf16<ITEMUTF8>{flag != 0}, source, sourceEnd, target,
+                 targetEnd);
 }
 
 ITEMConversionResult ITEMConvertUTF16toUTF32(const ITEMUTF16** source,
                                              const ITEMUTF16* sourceEnd,
                                              ITEMUTF32** target,
                                              ITEMUTF32* targetEnd, int flag) {
-  return Convert(Utf16ToUtf32{flag != 0}, source, sourceEnd, target, targetEnd);
+  return Convert(FromUtf16<ITEMUTF32>{flag != 0}, source, sourceEnd, target,
+                 targetEnd);
 }

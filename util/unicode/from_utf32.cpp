@@ -1,6 +1,7 @@
 #include "util/unicode/code_point_block.h"
-#include "util/unicode/put.h"
-#include "util/unicode/squeeze_utf8.h"
+#include "util/unicode/compress_utf8.h"
+#include "util/unicode/convert.h"
+#include "util/unicode/encode.h"
 
 namespace velmohelp::unicode {
 namespace {
@@ -14,24 +15,27 @@ struct Values {
              Load<Longs>(from + 6)} {}
 
   /// Whether a value has any of these bits.
-  VELMO_INLINE bool Have(ITEMUTF32 bits) const {
+  VELMO_INLINE bool HaveAny(ITEMUTF32 bits) const {
     const Longs found = (pair[0] | pair[1] | pair[2] | pair[3]) & bits;
     return (found[0] | found[1]) != 0;
   }
 
-  VELMO_INLINE Words First() const { return Narrowed(pair[0], pair[1]); }
-  VELMO_INLINE Words Second() const { return Narrowed(pair[2], pair[3]); }
-  VELMO_INLINE Units AsUnits() const { return Narrowed(First(), Second()); }
+  // Their low 32 and 16 bits.
+  VELMO_INLINE Words FirstFour() const { return Narrow(pair[0], pair[1]); }
+  VELMO_INLINE Words SecondFour() const { return Narrow(pair[2], pair[3]); }
+  VELMO_INLINE Units AsUnits() const {
+    return Narrow(FirstFour(), SecondFour());
+  }
 
   Longs pair[4];
 };
 
-/// All but surrogates and what needs two units.
+/// Blocks of values up to 0xFFFF without surrogates.
 VELMO_INLINE void CopyPlain(Cursor<const ITEMUTF32>& source,
                             Cursor<ITEMUTF16>& target) {
   while (source.left() >= kUnitLanes && target.left() >= kUnitLanes) {
     const Values values(source.at());
-    if (values.Have(~0xFFFFUL)) return;
+    if (values.HaveAny(~0xFFFFUL)) return;
     const Units units = values.AsUnits();
     if (HasSurrogates(units)) return;
     Store(target.at(), units);
@@ -46,58 +50,61 @@ VELMO_INLINE void CopyPlain(Cursor<const ITEMUTF32>& source,
   while (source.left() >= kByteLanes && target.left() >= kByteLanes) {
     const Values first(source.at());
     const Values second(source.at() + kUnitLanes);
-    if (first.Have(~0x7FUL) || second.Have(~0x7FUL)) return;
-    Store(target.at(), Narrowed(first.AsUnits(), second.AsUnits()));
+    if (first.HaveAny(~0x7FUL) || second.HaveAny(~0x7FUL)) return;
+    Store(target.at(), Narrow(first.AsUnits(), second.AsUnits()));
     source.Advance(kByteLanes);
     target.Advance(kByteLanes);
   }
 }
 
-VELMO_WIDE VELMO_INLINE bool HasForm(Words code_points, ITEMUTF16* /*to*/) {
-  return !Any(From(code_points, 0x110000));
+// The form in the target's units, and whether every value has one. All values
+// are below 0x200000.
+VELMO_BMI2 VELMO_INLINE bool HasForm(Words values, ITEMUTF16* /*to*/) {
+  return !Any(AtLeast(values, 0x110000));
 }
-VELMO_WIDE VELMO_INLINE bool HasForm(Words /*any*/, ITEMUTF8* /*to*/) {
+VELMO_BMI2 VELMO_INLINE bool HasForm(Words /*any*/, ITEMUTF8* /*to*/) {
   return true;
 }
-VELMO_WIDE VELMO_INLINE Encoded Encode(Words code_points, ITEMUTF16*) {
-  return ToUtf16(code_points);
+VELMO_BMI2 VELMO_INLINE Encoded ToUnits(Words values, ITEMUTF16* /*to*/) {
+  return ToUtf16(values);
 }
-VELMO_WIDE VELMO_INLINE Encoded Encode(Words code_points, ITEMUTF8*) {
-  return ToUtf8(code_points);
+VELMO_BMI2 VELMO_INLINE Encoded ToUnits(Words values, ITEMUTF8* /*to*/) {
+  return ToUtf8(values);
 }
 
-/// All of the text but what only single steps can judge.
+/// Stops at a surrogate and at a value that the target has no form for: single
+/// steps have to judge both.
 template <typename Unit>
-VELMO_WIDE VELMO_INLINE void CopyBlocks(Cursor<const ITEMUTF32>& source,
-                                        Cursor<Unit>& target) {
+VELMO_BMI2 VELMO_INLINE void ConvertBlocks(Cursor<const ITEMUTF32>& source,
+                                           Cursor<Unit>& target) {
   constexpr std::size_t kMost = kUnitLanes * 4 / sizeof(Unit);
   while (true) {
     CopyPlain(source, target);
-    if (source.left() < kUnitLanes || target.left() < kMost + kBeyond<Unit>) {
+    if (source.left() < kUnitLanes ||
+        target.left() < kMost + kOvershoot<Unit>) {
       return;
     }
     const Values values(source.at());
-    if (values.Have(~0x1FFFFFUL)) return;
-    const Words low = values.First();
-    const Words high = values.Second();
+    if (values.HaveAny(~0x1FFFFFUL)) return;
+    const Words low = values.FirstFour();
+    const Words high = values.SecondFour();
     Unit* to = target.at();
     if constexpr (sizeof(Unit) == 1) {
-      if (!values.Have(~0xFFFFUL) && !HasSurrogates(values.AsUnits())) {
-        target.Advance(CopyForms(ToUtf8(values.AsUnits()), to));
+      if (!values.HaveAny(~0xFFFFUL) && !HasSurrogates(values.AsUnits())) {
+        target.Advance(WriteUtf8(ToUtf8(values.AsUnits()), to));
         source.Advance(kUnitLanes);
         continue;
       }
     }
     if (HasSurrogates(low) || HasSurrogates(high)) return;
     if (!HasForm(low, to) || !HasForm(high, to)) return;
-    const Encoded first = Encode(low, to);
-    const Encoded second = Encode(high, to);
-    const std::size_t units =
-        KeptIn<Unit>(first.kept) + KeptIn<Unit>(second.kept);
-    const Beyond beyond(to + units);
-    Squeeze(first.units, first.kept, to);
-    Squeeze(second.units, second.kept, to);
-    beyond.PutBack();
+    const Encoded first = ToUnits(low, to);
+    const Encoded second = ToUnits(high, to);
+    const std::size_t units = Kept<Unit>(first.mask) + Kept<Unit>(second.mask);
+    const SavedOvershoot overshoot(to + units);
+    Compress(first.units, first.mask, to);
+    Compress(second.units, second.mask, to);
+    overshoot.Restore();
     source.Advance(kUnitLanes);
     target.Advance(units);
   }
@@ -105,59 +112,52 @@ VELMO_WIDE VELMO_INLINE void CopyBlocks(Cursor<const ITEMUTF32>& source,
 
 #endif
 
-/// The blocks of both directions.
-struct Kernel {
+/// What both directions from UTF-32 share.
+template <typename Unit>
+struct FromUtf32 {
+  bool lenient;
+
 #ifdef VELMO_UNICODE_LANES
-  template <typename Unit>
-  VELMO_INLINE void Plain(Cursor<const ITEMUTF32>& source,
-                          Cursor<Unit>& target) const {
+  VELMO_INLINE static void Sse2(Cursor<const ITEMUTF32>& source,
+                                Cursor<Unit>& target) {
     CopyPlain(source, target);
   }
-  template <typename Unit>
-  VELMO_WIDE VELMO_INLINE void Wide(Cursor<const ITEMUTF32>& source,
-                                    Cursor<Unit>& target) const {
-    CopyBlocks(source, target);
+  VELMO_BMI2 VELMO_INLINE static void Bmi2(Cursor<const ITEMUTF32>& source,
+                                           Cursor<Unit>& target) {
+    ConvertBlocks(source, target);
   }
 #endif
 };
 
-struct Utf32ToUtf16 {
-  bool lenient;
-  /// Set when strict mode has skipped a value that is no code point.
-  bool* skipped;
-
-  static void Blocks(Cursor<const ITEMUTF32>& source,
-                     Cursor<ITEMUTF16>& target) {
-    RunKernel(Kernel(), source, target);
+struct Utf32ToUtf8 : FromUtf32<ITEMUTF8> {
+  Decoded Decode(const Cursor<const ITEMUTF32>& source) const {
+    if (!lenient && IsSurrogate(*source.at())) {
+      return {.result = kConversionSourceIllegal};
+    }
+    return {.value = *source.at()};
   }
-
-  ITEMConversionResult Step(Cursor<const ITEMUTF32>& source,
-                            Cursor<ITEMUTF16>& target) const {
-    const ITEMUTF32 value = *source.at();
-    const bool skip = !lenient && value > kLastCodePoint && !target.empty();
-    *skipped = *skipped || skip;
-    const auto result =
-        skip ? kConversionComplete : PutUtf16(value, lenient, target);
-    if (result == kConversionComplete) source.Advance(1);
-    return result;
+  static ITEMConversionResult Encode(ITEMUTF32 value,
+                                     Cursor<ITEMUTF8>& target) {
+    return EncodeUtf8(value, target);
   }
 };
 
-struct Utf32ToUtf8 {
-  bool lenient;
+struct Utf32ToUtf16 : FromUtf32<ITEMUTF16> {
+  /// Set when strict mode has skipped a value above 0x10FFFF.
+  bool* skipped;
 
-  static void Blocks(Cursor<const ITEMUTF32>& source,
-                     Cursor<ITEMUTF8>& target) {
-    RunKernel(Kernel(), source, target);
+  static Decoded Decode(const Cursor<const ITEMUTF32>& source) {
+    return {.value = *source.at()};
   }
-
-  ITEMConversionResult Step(Cursor<const ITEMUTF32>& source,
-                            Cursor<ITEMUTF8>& target) const {
-    const ITEMUTF32 value = *source.at();
-    if (!lenient && IsSurrogate(value)) return kConversionSourceIllegal;
-    const auto result = PutUtf8(value, target);
-    if (result == kConversionComplete) source.Advance(1);
-    return result;
+  /// Skipping a value needs room for one unit too, though it uses none: the
+  /// room is looked for before the value is.
+  ITEMConversionResult Encode(ITEMUTF32 value,
+                              Cursor<ITEMUTF16>& target) const {
+    if (lenient || value <= kLastCodePoint || target.empty()) {
+      return EncodeUtf16(value, lenient, target);
+    }
+    *skipped = true;
+    return kConversionComplete;
   }
 };
 
@@ -173,7 +173,7 @@ ITEMConversionResult ITEMConvertUTF32toUTF16(const ITEMUTF32** source,
                                              ITEMUTF16** target,
                                              ITEMUTF16* targetEnd, int flag) {
   bool skipped = false;
-  const auto result = Convert(Utf32ToUtf16{flag != 0, &skipped}, source,
+  const auto result = Convert(Utf32ToUtf16{{flag != 0}, &skipped}, source,
                               sourceEnd, target, targetEnd);
   return result == kConversionComplete && skipped ? kConversionSourceIllegal
                                                   : result;
@@ -183,5 +183,6 @@ ITEMConversionResult ITEMConvertUTF32toUTF8(const ITEMUTF32** source,
                                             const ITEMUTF32* sourceEnd,
                                             ITEMUTF8** target,
                                             ITEMUTF8* targetEnd, int flag) {
-  return Convert(Utf32ToUtf8{flag != 0}, source, sourceEnd, target, targetEnd);
+  return Convert(Utf32ToUtf8{{flag != 0}}, source, sourceEnd, target,
+                 targetEnd);
 }

@@ -1,8 +1,9 @@
 #include <algorithm>
 
-#include "util/unicode/put.h"
-#include "util/unicode/squeeze.h"
-#include "util/unicode/take.h"
+#include "util/unicode/compress.h"
+#include "util/unicode/convert.h"
+#include "util/unicode/decode.h"
+#include "util/unicode/encode.h"
 #include "util/unicode/utf8_block.h"
 
 namespace velmohelp::unicode {
@@ -11,20 +12,19 @@ namespace {
 #ifdef VELMO_UNICODE_LANES
 
 VELMO_INLINE void StoreAscii(ITEMUTF16* to, Bytes bytes) {
-  Store(to, FirstHalf(bytes, Bytes{}));
-  Store(to + kUnitLanes, SecondHalf(bytes, Bytes{}));
+  Store(to, InterleaveLow(bytes, Bytes{}));
+  Store(to + kUnitLanes, InterleaveHigh(bytes, Bytes{}));
 }
 
 VELMO_INLINE void StoreAscii(ITEMUTF32* to, Bytes bytes) {
-  StoreWidened(to, FirstHalf(bytes, Bytes{}));
-  StoreWidened(to + kUnitLanes, SecondHalf(bytes, Bytes{}));
+  StoreWidened(to, InterleaveLow(bytes, Bytes{}));
+  StoreWidened(to + kUnitLanes, InterleaveHigh(bytes, Bytes{}));
 }
 
-/// Asks for the memory where the units of a block that comes later will stand.
-/// UTF-32 writes eight times what it reads: in a long text the stores would
-/// wait for memory. Nothing is read or written there, and it may lie beyond the
-/// target.
-VELMO_INLINE void FetchAhead(const ITEMUTF32* to) {
+/// Prefetches the target of a later block. UTF-32 writes eight times what it
+/// reads: in a long text the stores would wait for memory. A prefetch reads and
+/// writes nothing, so it may reach past the target's end.
+VELMO_INLINE void PrefetchAhead(const ITEMUTF32* to) {
   constexpr std::size_t kAhead = 256;
   constexpr std::size_t kLine = 64 / sizeof *to;
   for (std::size_t unit = 0; unit < kByteLanes; unit += kLine) {
@@ -32,7 +32,7 @@ VELMO_INLINE void FetchAhead(const ITEMUTF32* to) {
   }
 }
 
-VELMO_INLINE void FetchAhead(const ITEMUTF16* /*to*/) {}
+VELMO_INLINE void PrefetchAhead(const ITEMUTF16* /*to*/) {}
 
 /// ASCII, block by block.
 template <typename Unit>
@@ -47,31 +47,34 @@ VELMO_INLINE void CopyAscii(Cursor<const ITEMUTF8>& source,
   }
 }
 
-VELMO_WIDE VELMO_INLINE void SqueezeBlock(const Utf8Values& v, ITEMUTF16* to) {
-  Squeeze(FirstHalf(v.low, v.middle), FirstHalf(v.kept, v.kept), to);
-  Squeeze(SecondHalf(v.low, v.middle), SecondHalf(v.kept, v.kept), to);
+VELMO_BMI2 VELMO_INLINE void CompressBlock(const Utf8Values& v, ITEMUTF16* to) {
+  Compress(InterleaveLow(v.low, v.middle), InterleaveLow(v.mask, v.mask), to);
+  Compress(InterleaveHigh(v.low, v.middle), InterleaveHigh(v.mask, v.mask), to);
 }
 
-VELMO_WIDE VELMO_INLINE void SqueezeBlock(const Utf8Values& v, ITEMUTF32* to) {
-  SqueezeWide(FirstHalf(v.low, v.middle), FirstHalf(v.high, Bytes{}),
-              FirstHalf(v.kept, v.kept), to);
-  SqueezeWide(SecondHalf(v.low, v.middle), SecondHalf(v.high, Bytes{}),
-              SecondHalf(v.kept, v.kept), to);
+VELMO_BMI2 VELMO_INLINE void CompressBlock(const Utf8Values& v, ITEMUTF32* to) {
+  CompressWidened(InterleaveLow(v.low, v.middle),
+                  InterleaveLow(v.high, Bytes{}), InterleaveLow(v.mask, v.mask),
+                  to);
+  CompressWidened(InterleaveHigh(v.low, v.middle),
+                  InterleaveHigh(v.high, Bytes{}),
+                  InterleaveHigh(v.mask, v.mask), to);
 }
 
-/// The same where blocks are wide. UTF-32 is bound by its stores, of which
-/// these are twice as long.
-VELMO_INLINE void CopyAsciiWide(Cursor<const ITEMUTF8>& source,
+/// CopyAscii for processors with AVX2.
+VELMO_INLINE void CopyAsciiAvx2(Cursor<const ITEMUTF8>& source,
                                 Cursor<ITEMUTF16>& target) {
   CopyAscii(source, target);
 }
 
+/// Returns how many characters it wrote. UTF-32 is bound by its stores, and
+/// those of AVX2 are twice as wide.
 [[gnu::target("avx2"), gnu::noinline]] std::size_t StoreAscii32(
     const ITEMUTF8* from, std::size_t size, ITEMUTF32* to) {
   std::size_t done = 0;
   for (; size - done >= kByteLanes; done += kByteLanes) {
     if (Any(Load<Bytes>(from + done))) break;
-    FetchAhead(to + done);
+    PrefetchAhead(to + done);
     for (std::size_t i = done; i < done + kByteLanes; i += 4) {
       const __m128i four = _mm_loadu_si32(from + i);
       _mm256_storeu_si256(reinterpret_cast<__m256i*>(to + i),
@@ -81,7 +84,7 @@ VELMO_INLINE void CopyAsciiWide(Cursor<const ITEMUTF8>& source,
   return done;
 }
 
-VELMO_INLINE void CopyAsciiWide(Cursor<const ITEMUTF8>& source,
+VELMO_INLINE void CopyAsciiAvx2(Cursor<const ITEMUTF8>& source,
                                 Cursor<ITEMUTF32>& target) {
   const std::size_t done = StoreAscii32(
       source.at(), std::min(source.left(), target.left()), target.at());
@@ -89,26 +92,27 @@ VELMO_INLINE void CopyAsciiWide(Cursor<const ITEMUTF8>& source,
   target.Advance(done);
 }
 
-/// All of the text but what only single steps can judge.
+/// Stops at what may be illegal, and at surrogates where the direction refuses
+/// them: single steps have to judge both.
 template <typename Direction, typename Unit>
-VELMO_WIDE VELMO_INLINE void CopyBlocks(Direction direction,
-                                        Cursor<const ITEMUTF8>& source,
-                                        Cursor<Unit>& target) {
+VELMO_BMI2 VELMO_INLINE void ConvertBlocks(Direction direction,
+                                           Cursor<const ITEMUTF8>& source,
+                                           Cursor<Unit>& target) {
   while (source.left() >= kByteLanes &&
-         target.left() >= kByteLanes + kBeyond<Unit>) {
+         target.left() >= kByteLanes + kOvershoot<Unit>) {
     const auto bytes = Load<Bytes>(source.at());
     if (!Any(bytes)) {
-      CopyAsciiWide(source, target);
+      CopyAsciiAvx2(source, target);
       continue;
     }
-    FetchAhead(target.at());
+    PrefetchAhead(target.at());
     const Utf8Block block(bytes);
-    if (!IsLegal(block) || !direction.Takes(block)) return;
+    if (!IsLegal(block) || !direction.Accepts(block)) return;
     const Utf8Values values = direction.Values(block);
-    const std::size_t units = KeptIn<ITEMUTF8>(values.kept);
-    const Beyond<Unit> beyond(target.at() + units);
-    SqueezeBlock(values, target.at());
-    beyond.PutBack();
+    const std::size_t units = Kept<ITEMUTF8>(values.mask);
+    const SavedOvershoot<Unit> overshoot(target.at() + units);
+    CompressBlock(values, target.at());
+    overshoot.Restore();
     source.Advance(WholeCharacters(source.at()));
     target.Advance(units);
   }
@@ -119,20 +123,16 @@ VELMO_WIDE VELMO_INLINE void CopyBlocks(Direction direction,
 struct Utf8ToUtf16 {
   bool lenient;
 
-  void Blocks(Cursor<const ITEMUTF8>& source, Cursor<ITEMUTF16>& target) const {
-    RunKernel(*this, source, target);
-  }
-
 #ifdef VELMO_UNICODE_LANES
-  VELMO_INLINE static void Plain(Cursor<const ITEMUTF8>& source,
-                                 Cursor<ITEMUTF16>& target) {
+  VELMO_INLINE static void Sse2(Cursor<const ITEMUTF8>& source,
+                                Cursor<ITEMUTF16>& target) {
     CopyAscii(source, target);
   }
-  VELMO_WIDE VELMO_INLINE void Wide(Cursor<const ITEMUTF8>& source,
+  VELMO_BMI2 VELMO_INLINE void Bmi2(Cursor<const ITEMUTF8>& source,
                                     Cursor<ITEMUTF16>& target) const {
-    CopyBlocks(*this, source, target);
+    ConvertBlocks(*this, source, target);
   }
-  VELMO_INLINE bool Takes(const Utf8Block& block) const {
+  VELMO_INLINE bool Accepts(const Utf8Block& block) const {
     return lenient || !HasSurrogates(block);
   }
   VELMO_INLINE static Utf8Values Values(const Utf8Block& block) {
@@ -140,43 +140,38 @@ struct Utf8ToUtf16 {
   }
 #endif
 
-  ITEMConversionResult Step(Cursor<const ITEMUTF8>& source,
-                            Cursor<ITEMUTF16>& target) const {
-    const Taken character = TakeUtf8(source);
-    if (character.result != kConversionComplete) return character.result;
-    const auto result = PutUtf16(character.value, lenient, target);
-    if (result == kConversionComplete) source.Advance(character.units);
-    return result;
+  static Decoded Decode(const Cursor<const ITEMUTF8>& source) {
+    return DecodeUtf8(source);
+  }
+  ITEMConversionResult Encode(ITEMUTF32 value,
+                              Cursor<ITEMUTF16>& target) const {
+    return EncodeUtf16(value, lenient, target);
   }
 };
 
+/// Accepts surrogates in strict mode too, and so has no flag.
 struct Utf8ToUtf32 {
-  void Blocks(Cursor<const ITEMUTF8>& source, Cursor<ITEMUTF32>& target) const {
-    RunKernel(*this, source, target);
-  }
-
 #ifdef VELMO_UNICODE_LANES
-  VELMO_INLINE static void Plain(Cursor<const ITEMUTF8>& source,
-                                 Cursor<ITEMUTF32>& target) {
+  VELMO_INLINE static void Sse2(Cursor<const ITEMUTF8>& source,
+                                Cursor<ITEMUTF32>& target) {
     CopyAscii(source, target);
   }
-  VELMO_WIDE VELMO_INLINE void Wide(Cursor<const ITEMUTF8>& source,
+  VELMO_BMI2 VELMO_INLINE void Bmi2(Cursor<const ITEMUTF8>& source,
                                     Cursor<ITEMUTF32>& target) const {
-    CopyBlocks(*this, source, target);
+    ConvertBlocks(*this, source, target);
   }
-  VELMO_INLINE static bool Takes(const Utf8Block& /*block*/) { return true; }
+  VELMO_INLINE static bool Accepts(const Utf8Block& /*block*/) { return true; }
   VELMO_INLINE static Utf8Values Values(const Utf8Block& block) {
     return CodePoints(block);
   }
 #endif
 
-  static ITEMConversionResult Step(Cursor<const ITEMUTF8>& source,
-                                   Cursor<ITEMUTF32>& target) {
-    const Taken character = TakeUtf8(source);
-    if (character.result != kConversionComplete) return character.result;
-    const auto result = PutUtf32(character.value, target);
-    if (result == kConversionComplete) source.Advance(character.units);
-    return result;
+  static Decoded Decode(const Cursor<const ITEMUTF8>& source) {
+    return DecodeUtf8(source);
+  }
+  static ITEMConversionResult Encode(ITEMUTF32 value,
+                                     Cursor<ITEMUTF32>& target) {
+    return EncodeUtf32(value, target);
   }
 };
 

@@ -1,5 +1,8 @@
-// Many units at a time, where the processor is an x86-64. Elsewhere, and with
-// VELMO_UNICODE_PORTABLE, all text goes one character at a time.
+// Vectors of 16 bytes, on x86-64. Elsewhere, and with VELMO_UNICODE_PORTABLE,
+// there are none and every character is converted in a step of its own.
+//
+// All diagrams here and in the blocks show lane 0, which is the lowest address,
+// on the left.
 #ifndef UTIL_UNICODE_LANES_H_
 #define UTIL_UNICODE_LANES_H_
 
@@ -12,19 +15,19 @@
 #include <cstdint>
 #include <cstring>
 
-/// Everything here is part of the loop that uses it, and is compiled with the
-/// instructions that the loop may use.
+/// A function that becomes part of the loop that calls it, so that it is
+/// compiled with the instructions that the loop may use.
 #define VELMO_INLINE [[gnu::always_inline]] inline
 
-/// For loops that are entered only where HasWideInstructions() is true. Not for
-/// AVX2, though it is there: GCC would then make every constant anew for every
-/// block, with three instructions where a memory operand does.
-#define VELMO_WIDE [[gnu::target("avx,bmi,bmi2,popcnt")]]
+/// Only for code that runs where HasFastBmi2() is true. It leaves AVX2 out,
+/// which is there too: GCC would build every constant again for each block,
+/// with three instructions in place of one memory operand.
+#define VELMO_BMI2 [[gnu::target("avx,bmi,bmi2,popcnt")]]
 
 namespace velmohelp::unicode {
 
-// Arithmetic and comparisons work lane by lane; a comparison gives lanes of all
-// ones or all zeros.
+// Operators work lane by lane. A comparison gives a mask: all ones in the lanes
+// where it is true, all zeros in the others.
 using Bytes = std::uint8_t __attribute__((vector_size(16)));
 using Units = std::uint16_t __attribute__((vector_size(16)));
 using Words = std::uint32_t __attribute__((vector_size(16)));
@@ -45,87 +48,99 @@ VELMO_INLINE void Store(void* to, Lanes lanes) {
   _mm_storeu_si128(static_cast<__m128i*>(to), (__m128i)lanes);
 }
 
-/// Whether the topmost bit of any byte is set; for a comparison, whether it was
-/// true anywhere.
+/// Whether any byte has its top bit set. Of a mask: whether it has any ones. Of
+/// text: whether a byte is not ASCII.
 template <typename Lanes>
 VELMO_INLINE bool Any(Lanes lanes) {
   return _mm_movemask_epi8((__m128i)lanes) != 0;
 }
 
-/// Every lane takes the value from so many bytes before, the first ones zero.
+/// Moves every byte up by this many bytes; zeros come in at the bottom. Each
+/// lane then holds what preceded it:
+///     a b c d ... o p   up by 1   0 a b c ... n o
 template <int bytes, typename Lanes>
-VELMO_INLINE Lanes FromBefore(Lanes lanes) {
+VELMO_INLINE Lanes ShiftLanesUp(Lanes lanes) {
   return (Lanes)_mm_slli_si128((__m128i)lanes, bytes);
 }
 
-/// Every lane takes the value from so many bytes behind, the last ones zero.
+/// Moves every byte down; zeros come in at the top. Each lane then holds what
+/// followed it:
+///     a b c d ... o p   down by 1   b c d e ... p 0
 template <int bytes, typename Lanes>
-VELMO_INLINE Lanes FromBehind(Lanes lanes) {
+VELMO_INLINE Lanes ShiftLanesDown(Lanes lanes) {
   return (Lanes)_mm_srli_si128((__m128i)lanes, bytes);
 }
 
-/// Unsigned; what compilers make of the operator takes twice as long.
+/// Unsigned. The maximum equals the byte where the byte is at least the bound;
+/// what compilers make of the operator takes twice as long.
 VELMO_INLINE Bytes AtLeast(Bytes bytes, std::uint8_t bound) {
   const Bytes bounds = Bytes{} + bound;
   return (Bytes)_mm_max_epu8((__m128i)bytes, (__m128i)bounds) == bytes;
 }
 
-/// There are no shifts of bytes: those of units do, without what has come over
-/// the border between two bytes.
+/// Bits within each byte. x86 shifts no lanes of 8 bits, so this shifts lanes
+/// of 16 and clears the bits that came across from the neighbouring byte.
 template <int bits>
-VELMO_INLINE Bytes ShiftLeft(Bytes bytes) {
+VELMO_INLINE Bytes ShiftBitsLeft(Bytes bytes) {
   return (Bytes)((Units)bytes << bits) &
          static_cast<std::uint8_t>(0xFF << bits);
 }
 template <int bits>
-VELMO_INLINE Bytes ShiftRight(Bytes bytes) {
+VELMO_INLINE Bytes ShiftBitsRight(Bytes bytes) {
   return (Bytes)((Units)bytes >> bits) &
          static_cast<std::uint8_t>(0xFF >> bits);
 }
 
-/// The first or the second half of low and high, lane for lane one wider lane.
-VELMO_INLINE Units FirstHalf(Bytes low, Bytes high) {
+/// Interleaves the lower (or the upper) half of the lanes of both. Read as
+/// lanes of twice the width, each has its low part from `low`:
+///     low    a b c d | e f g h
+///     high   A B C D | E F G H
+///     InterleaveLow    aA bB cC dD
+///     InterleaveHigh   eE fF gG hH
+VELMO_INLINE Units InterleaveLow(Bytes low, Bytes high) {
   return (Units)_mm_unpacklo_epi8((__m128i)low, (__m128i)high);
 }
-VELMO_INLINE Units SecondHalf(Bytes low, Bytes high) {
+VELMO_INLINE Units InterleaveHigh(Bytes low, Bytes high) {
   return (Units)_mm_unpackhi_epi8((__m128i)low, (__m128i)high);
 }
-VELMO_INLINE Words FirstHalf(Units low, Units high) {
+VELMO_INLINE Words InterleaveLow(Units low, Units high) {
   return (Words)_mm_unpacklo_epi16((__m128i)low, (__m128i)high);
 }
-VELMO_INLINE Words SecondHalf(Units low, Units high) {
+VELMO_INLINE Words InterleaveHigh(Units low, Units high) {
   return (Words)_mm_unpackhi_epi16((__m128i)low, (__m128i)high);
 }
-VELMO_INLINE Longs FirstHalf(Words low, Words high) {
+VELMO_INLINE Longs InterleaveLow(Words low, Words high) {
   return (Longs)_mm_unpacklo_epi32((__m128i)low, (__m128i)high);
 }
-VELMO_INLINE Longs SecondHalf(Words low, Words high) {
+VELMO_INLINE Longs InterleaveHigh(Words low, Words high) {
   return (Longs)_mm_unpackhi_epi32((__m128i)low, (__m128i)high);
 }
 
-/// The low half of each of the lanes of both; the high halves are zero.
-VELMO_INLINE Bytes Narrowed(Units first, Units second) {
+/// The lanes of both with half the width, those of `first` first. The upper
+/// half of each lane is zero beforehand.
+VELMO_INLINE Bytes Narrow(Units first, Units second) {
   return (Bytes)_mm_packus_epi16((__m128i)first, (__m128i)second);
 }
-/// SSE2 packs signed words only: they pass when the sign is made from bit 15.
-VELMO_INLINE Units Narrowed(Words first, Words second) {
-  const auto sign = [](Words w) {
+/// SSE2 saturates signed words: a lane passes unchanged when the bits above its
+/// bit 15 are copies of that bit.
+VELMO_INLINE Units Narrow(Words first, Words second) {
+  const auto sign_extend = [](Words w) {
     return _mm_srai_epi32((__m128i)(w << 16), 16);
   };
-  return (Units)_mm_packs_epi32(sign(first), sign(second));
+  return (Units)_mm_packs_epi32(sign_extend(first), sign_extend(second));
 }
-VELMO_INLINE Words Narrowed(Longs first, Longs second) {
+VELMO_INLINE Words Narrow(Longs first, Longs second) {
   return (Words)_mm_shuffle_ps((__m128)first, (__m128)second, 0x88);
 }
 
-/// Writes eight units as UTF-32.
+/// Writes eight units as UTF-32, zero-extended.
 VELMO_INLINE void StoreWidened(std::uint64_t* to, Units units) {
-  const Words first = FirstHalf(units, Units{});
-  const Words second = SecondHalf(units, Units{});
-  Store(to, FirstHalf(first, Words{}));
-  Store(to + 2, SecondHalf(first, Words{}));
-  Store(to + 4, FirstHalf(second, Words{}));
-  Store(to + 6, SecondHalf(second, Words{}));
+  const Words first = InterleaveLow(units, Units{});
+  const Words second = InterleaveHigh(units, Units{});
+  Store(to, InterleaveLow(first, Words{}));
+  Store(to + 2, InterleaveHigh(first, Words{}));
+  Store(to + 4, InterleaveLow(second, Words{}));
+  Store(to + 6, InterleaveHigh(second, Words{}));
 }
 
 }  // namespace velmohelp::unicode

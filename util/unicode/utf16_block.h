@@ -1,4 +1,13 @@
-// Eight units of UTF-16 at once.
+// Eight units of UTF-16 at once, which begin between two characters. Of a pair,
+// the code point is computed in the lane of the high surrogate, and the lane of
+// the low one is dropped:
+//
+//     unit    0041    D83D    DE00    20AC
+//     value   00041   1F600   -       020AC
+//     mask    FFFF    FFFF    0000    FFFF
+//
+// A high surrogate in the last lane belongs to a pair that the block cuts: it
+// is dropped too, and the next block begins with it.
 #ifndef UTIL_UNICODE_UTF16_BLOCK_H_
 #define UTIL_UNICODE_UTF16_BLOCK_H_
 
@@ -8,11 +17,12 @@
 
 namespace velmohelp::unicode {
 
+inline constexpr Units kLastUnit = {0, 0, 0, 0, 0, 0, 0, 0xFFFF};
+
 VELMO_INLINE bool HasSurrogates(Units units) {
   return Any((units & 0xF800) == 0xD800);
 }
 
-/// A block that begins between characters.
 struct Utf16Block {
   VELMO_INLINE explicit Utf16Block(Units block)
       : unit(block),
@@ -20,69 +30,77 @@ struct Utf16Block {
         low((block & 0xFC00) == 0xDC00) {}
 
   Units unit;
-  Units high, low;  ///< the unit is such a surrogate
+  Units high, low;  ///< masks: the unit is a high, a low surrogate
 };
 
-/// Whether every low surrogate follows a high one and no high one is followed
-/// by anything else. The block's end may cut a pair.
+/// Whether a low surrogate follows each high one and nothing else. The block
+/// may cut the last pair.
 VELMO_INLINE bool IsPaired(const Utf16Block& b) {
-  return !Any(b.low ^ FromBefore<2>(b.high));
+  return !Any(b.low ^ ShiftLanesUp<2>(b.high));
 }
 
-/// A code point for each unit, as its low and high 16 bits, and where there is
-/// one: for a pair in the first unit's lane. Nowhere for a pair that the end of
-/// the block cuts.
+/// Code points as their low and high 16 bits, and the mask of the lanes that
+/// hold one.
 struct Utf16Values {
   Units low, high;
-  Units kept;
+  Units mask;
 };
 
-/// The ten bits of a high surrogate count from 0x10000: the upper four, plus
-/// one, are the code point's high half.
+/// A pair is 0x10000 + hhhhhhhhhh llllllllll, ten bits from each surrogate. The
+/// top four bits of the high surrogate's ten, plus one for the 0x10000, are the
+/// code point's high half:
+///     high surrogate   110110hh hhHHHHHH        low   110111LL LLLLLLLL
+///     high half        hhhh + 1                 low half   HHHHHHLL LLLLLLLL
 VELMO_INLINE Utf16Values CodePoints(const Utf16Block& b) {
-  const Units second = FromBehind<2>(b.unit);
-  const Units low = (b.unit << 10) | (second & 0x03FF);
+  const Units next = ShiftLanesDown<2>(b.unit);
+  const Units low = (b.unit << 10) | (next & 0x03FF);
   const Units high = ((b.unit >> 6) & 0x0F) + 1;
-  constexpr Units kLast = {0, 0, 0, 0, 0, 0, 0, 0xFFFF};
   return {(b.high & low) | (~b.high & b.unit), b.high & high,
-          ~(b.low | (b.high & kLast))};
+          ~(b.low | (b.high & kLastUnit))};
 }
 
-/// Room for three bytes in the lanes of a unit: the first in `first`, the
-/// others in `rest`, in the order of the memory and right-aligned. Where a form
-/// is shorter, its lanes are not kept.
-struct Utf8Forms {
-  Units first, first_kept;
-  Units rest, rest_kept;
+/// Up to three bytes of UTF-8 for each unit, right-aligned, in memory order:
+/// lane i of `first` holds the first of three bytes in its upper half, lane i
+/// of `rest` the other two. The masks have ones where a byte is kept.
+/// Interleaved:
+///     unit    U+0041        U+00E9        U+20AC
+///     first   .. ..         .. ..         .. E2
+///     rest    .. 41         C3 A9         82 AC
+struct Utf8Lanes {
+  Units first, first_mask;
+  Units rest, rest_mask;
 };
 
-/// For units that are characters: xxx, 110yyyyy 10zzzzzz and so on.
-VELMO_INLINE Utf8Forms ToUtf8(Units unit) {
+/// For a block without surrogates:
+///     0xxxxxxx, 110yyyyy 10xxxxxx, 1110zzzz 10yyyyyy 10xxxxxx
+VELMO_INLINE Utf8Lanes ToUtf8(Units unit) {
   const Units one = (unit & 0xFF80) == 0;
-  const Units two = (unit & 0xF800) == 0;
+  const Units up_to_two = (unit & 0xF800) == 0;
   const Units last = (one & unit) | (~one & ((unit & 0x3F) | 0x80));
-  const Units middle = ((unit >> 6) & 0x3F) | 0x80 | (two & 0xC0);
-  return {((unit >> 12) | 0xE0) << 8, ~two & 0xFF00, (last << 8) | middle,
+  const Units middle = ((unit >> 6) & 0x3F) | 0x80 | (up_to_two & 0xC0);
+  return {((unit >> 12) | 0xE0) << 8, ~up_to_two & 0xFF00, (last << 8) | middle,
           0xFF00 | (~one & 0x00FF)};
 }
 
-/// The same with pairs: each half of one becomes two of its four bytes. The
-/// third byte has the high one's last two bits, which are where they were; to
-/// add 0x10000 is to add 0x40 to the bits that the high one holds.
-VELMO_INLINE Utf8Forms ToUtf8(const Utf16Block& b) {
-  constexpr Units kLast = {0, 0, 0, 0, 0, 0, 0, 0xFFFF};
-  const Utf8Forms plain = ToUtf8(b.unit);
+/// The same with pairs. Each surrogate gives two of the pair's four bytes, in
+/// `rest`. With 0x10000 added as 0x40 to the high surrogate's ten bits:
+///     high   00000aaa bbbbbbCC   ->   11110aaa 10bbbbbb
+///     low    110111cc ccdddddd   ->   10CCcccc 10dddddd
+/// The third byte's CC are the last two bits of the high surrogate.
+VELMO_INLINE Utf8Lanes ToUtf8(const Utf16Block& b) {
+  const Utf8Lanes plain = ToUtf8(b.unit);
   const Units bits = b.unit - (0xD800 - 0x40);
   const Units high = ((bits << 6) & 0x3F00) | (bits >> 8) | 0x80F0;
   const Units low = ((b.unit & 0x3F) << 8) | ((b.unit >> 6) & 0x0F) |
-                    ((FromBefore<2>(b.unit) & 3) << 4) | 0x8080;
+                    ((ShiftLanesUp<2>(b.unit) & 3) << 4) | 0x8080;
   const Units paired = b.high | b.low;
-  return {plain.first, plain.first_kept & ~paired,
+  return {plain.first, plain.first_mask & ~paired,
           (b.high & high) | (b.low & low) | (~paired & plain.rest),
-          plain.rest_kept & ~(b.high & kLast)};
+          plain.rest_mask & ~(b.high & kLastUnit)};
 }
 
-/// Length of the block without a pair that its end cuts.
+/// How many units the block's whole characters have: all but a high surrogate
+/// in the last lane.
 VELMO_INLINE std::size_t WholeCharacters(const Utf16Block& b) {
   return kUnitLanes - static_cast<std::size_t>(b.high[7] & 1);
 }
