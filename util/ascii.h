@@ -1,10 +1,10 @@
-// ASCII letters and digits, whatever locale the host has set.
+// ASCII letters and digits, in whatever locale the host runs.
 #ifndef UTIL_ASCII_H_
 #define UTIL_ASCII_H_
 
 namespace velmohelp {
 
-/// The value of a digit of either case, -1 for any other character.
+/// The value of a hexadecimal digit of either case, -1 for any other character.
 constexpr int HexValue(char c) {
   if (c >= '0' && c <= '9') return c - '0';
   if (c >= 'A' && c <= 'F') return c - 'A' + 10;

@@ -8,7 +8,7 @@ namespace {
 
 constexpr unsigned char kFirstUpper = 0x80;
 
-/// The characters of the bytes 0x80 to 0xFF, in UTF-8. Source: the character
+/// The characters of bytes 0x80 to 0xFF, in UTF-8. Source: the character
 /// set's mapping table in the Unicode Character Database's vendor mappings
 /// (the lower half is ASCII).
 constexpr std::array<std::string_view, 128> kUpperHalf = {
@@ -142,8 +142,8 @@ constexpr std::array<std::string_view, 128> kUpperHalf = {
     "ˇ",
 };
 
-/// Takes the first character off text.
-std::string_view TakeCharacter(std::string_view& text) {
+/// Removes the first character from text and returns it.
+std::string_view PopCharacter(std::string_view& text) {
   std::size_t length = 1;
   while (length < text.size() &&
          (static_cast<unsigned char>(text[length]) & 0xC0) == 0x80) {
@@ -172,7 +172,7 @@ std::string MacRomanToUtf8(std::string_view bytes) {
 std::optional<std::string> Utf8ToMacRoman(std::string_view text) {
   std::string bytes;
   while (!text.empty()) {
-    const std::string_view character = TakeCharacter(text);
+    const std::string_view character = PopCharacter(text);
     if (character.size() == 1) {
       bytes += character;
       continue;

@@ -8,11 +8,10 @@
 
 namespace velmohelp {
 
-/// Every byte stands for a character.
+/// Every byte is a character.
 std::string MacRomanToUtf8(std::string_view bytes);
 
-/// nullopt when the text has a character that is not in the set. text: valid
-/// UTF-8.
+/// text: valid UTF-8. nullopt when it has a character that is not in the set.
 std::optional<std::string> Utf8ToMacRoman(std::string_view text);
 
 }  // namespace velmohelp

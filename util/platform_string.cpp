@@ -11,7 +11,7 @@
 namespace velmohelp {
 namespace {
 
-/// Platform calls take C strings: what comes behind a zero byte is not seen.
+/// Platform calls take C strings: they do not see what follows a zero byte.
 std::string UpToZero(const std::string& text) {
   return text.substr(0, text.find('\0'));
 }
@@ -67,8 +67,8 @@ char* GetCharFromCFStringRef(const PlatformString* text) {
   if (text == nullptr) return nullptr;
   const std::string& utf8 = text->utf8();
   const std::size_t room = 3 * velmohelp::Utf16Length(utf8);
-  // The NUL counts, although the buffer has a byte more than is offered: so it
-  // always has been, and a text that just fits is refused.
+  // The NUL has to fit too, although the buffer has one byte more than `room`:
+  // a text of exactly that length is refused, on purpose.
   if (utf8.size() + 1 > room) return nullptr;
   auto* buffer = static_cast<char*>(std::calloc(room + 1, 1));
   if (buffer != nullptr) utf8.copy(buffer, utf8.size());

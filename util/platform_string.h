@@ -1,4 +1,4 @@
-// Making texts in the platform's own form.
+// Makes platform strings.
 #ifndef UTIL_PLATFORM_STRING_H_
 #define UTIL_PLATFORM_STRING_H_
 
@@ -12,8 +12,8 @@ namespace velmohelp {
 
 using PlatformStringPtr = std::unique_ptr<const ITEMInternal::PlatformString>;
 
-/// The text of bytes up to the first zero byte; null when they are not valid
-/// in the encoding (a TextEncoding; any other one has no valid bytes).
+/// The string of the bytes up to the first zero byte. Null when they are not
+/// valid in the encoding, and for any encoding that is not a TextEncoding.
 PlatformStringPtr MakePlatformString(const std::string& bytes,
                                      std::uint32_t encoding);
 

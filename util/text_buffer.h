@@ -1,4 +1,4 @@
-// The longest text that the client hands to the machine or takes from it.
+// The longest text that the client passes to the machine or accepts from it.
 #ifndef UTIL_TEXT_BUFFER_H_
 #define UTIL_TEXT_BUFFER_H_
 
@@ -10,7 +10,7 @@ namespace velmohelp {
 /// Paths and encoded URLs pass through a buffer of this size.
 inline constexpr std::size_t kTextBufferSize = 1024;
 
-/// text has room in the buffer, its terminating NUL included.
+/// Whether text fits into the buffer with its terminating NUL.
 inline bool FitsTextBuffer(const std::string& text) {
   return text.size() < kTextBufferSize;
 }

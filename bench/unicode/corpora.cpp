@@ -28,12 +28,12 @@ void Append(std::string& text, unsigned c) {
   put(0x80 | (c & 0x3F));
 }
 
-/// Lengths of words as running text has them: many short, few long.
+/// Lengths of words as in running text: many short, few long.
 std::size_t WordLength(Random& random) {
   return 1 + Below(random, 6) + Below(random, 7);
 }
 
-void AppendBlank(std::string& text, Random& random) {
+void AppendSpace(std::string& text, Random& random) {
   switch (Below(random, 12)) {
     case 0:
       text += ", ";
@@ -50,7 +50,7 @@ void AppendAscii(std::string& text, Random& random) {
   for (std::size_t n = WordLength(random); n != 0; --n) {
     Append(text, 'a' + static_cast<unsigned>(Below(random, 26)));
   }
-  AppendBlank(text, random);
+  AppendSpace(text, random);
 }
 
 /// About one letter of eight has an accent, as in French or Czech.
@@ -60,17 +60,17 @@ void AppendLatin(std::string& text, Random& random) {
     Append(text, accent ? 0xE0 + static_cast<unsigned>(Below(random, 32))
                         : 'a' + static_cast<unsigned>(Below(random, 26)));
   }
-  AppendBlank(text, random);
+  AppendSpace(text, random);
 }
 
 void AppendCyrillic(std::string& text, Random& random) {
   for (std::size_t n = WordLength(random); n != 0; --n) {
     Append(text, 0x430 + static_cast<unsigned>(Below(random, 32)));
   }
-  AppendBlank(text, random);
+  AppendSpace(text, random);
 }
 
-/// Sentences without blanks between words; now and then a number or a name.
+/// Sentences without spaces between words; now and then a name in Latin script.
 void AppendCjk(std::string& text, Random& random) {
   for (std::size_t n = 4 + Below(random, 24); n != 0; --n) {
     Append(text, 0x4E00 + static_cast<unsigned>(Below(random, 0x5000)));
@@ -82,7 +82,7 @@ void AppendCjk(std::string& text, Random& random) {
   }
 }
 
-/// One to four of them between blanks, and sometimes a word.
+/// One to four emoji between spaces, and sometimes a word.
 void AppendEmoji(std::string& text, Random& random) {
   for (std::size_t n = 1 + Below(random, 4); n != 0; --n) {
     Append(text, 0x1F300 + static_cast<unsigned>(Below(random, 0x350)));
@@ -91,7 +91,7 @@ void AppendEmoji(std::string& text, Random& random) {
   if (Below(random, 8) == 0) AppendAscii(text, random);
 }
 
-/// A paragraph of a web page: markup, and text that is accented here and there.
+/// A paragraph of a web page: markup, and text with an accent here and there.
 void AppendHtml(std::string& text, Random& random) {
   text += "<p class=\"text\"><a href=\"/wiki/";
   AppendAscii(text, random);

@@ -1,4 +1,4 @@
-// The texts that the converters are measured on, made here from a fixed seed.
+// The texts that the converters are measured on, generated from a fixed seed.
 #ifndef BENCH_UNICODE_CORPORA_H_
 #define BENCH_UNICODE_CORPORA_H_
 
@@ -15,8 +15,8 @@ struct Corpus {
 };
 
 /// ASCII, Latin, Cyrillic, CJK, emoji and HTML text, each of at most size bytes
-/// and whole characters. Words and their lengths follow a generator, not a
-/// short text over and over, which a branch predictor would learn by heart.
+/// and whole characters. Random words of random lengths: a branch predictor
+/// would learn a short text that repeats.
 std::vector<Corpus> MakeCorpora(std::size_t size);
 
 }  // namespace velmohelp::bench

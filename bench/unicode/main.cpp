@@ -1,5 +1,6 @@
-// unicode_bench [--quick] [--json FILE]: the converters beside their peers, as
-// a table. --quick: fewer rounds, the small size only.
+// unicode_bench [--quick] [--json FILE] [--only PREFIX]: compares the
+// converters with other libraries' and prints a table. --quick: fewer rounds,
+// the small size only. --only: the rows that begin with PREFIX.
 #include <cstdio>
 #include <cstring>
 #include <string>
@@ -13,7 +14,7 @@ namespace {
 struct Options {
   bool quick = false;
   const char* json = nullptr;
-  std::string_view only;  // measure what begins with this
+  std::string_view only;  // measure the rows that begin with this
 };
 
 struct Row {
@@ -23,13 +24,13 @@ struct Row {
 
   double Ours() const { return medians.candidates.at("ours"); }
 
-  /// How many times a peer's time is ours; 0 for a peer that cannot do it.
+  /// A peer's time divided by ours; 0 for a peer that cannot do the job.
   double Ratio(const std::string& peer) const {
     const auto found = medians.candidates.find(peer);
     return found == medians.candidates.end() ? 0 : found->second / Ours();
   }
 
-  /// The least of the ratios.
+  /// The peer that is fastest, and its ratio.
   std::pair<std::string, double> BestPeer() const {
     std::pair<std::string, double> best{"", 0};
     for (const auto& [name, time] : medians.candidates) {
@@ -48,7 +49,7 @@ struct Row {
   double OfFloor() const { return medians.floor / Ours(); }
 };
 
-/// What a row has to reach.
+/// What a row is meant to reach.
 struct Target {
   std::string text;
   bool met;
@@ -79,8 +80,9 @@ Target TargetOf(const Row& row) {
 
 void PrintHead() {
   std::printf(
-      "Speeds in gigabytes of source a second, medians; ratios: how many times "
-      "as fast.\n\n| %-18s | %-8s | %6s | %6s | %-12s | %6s | %6s | %6s | %7s "
+      "Medians, in gigabytes of source per second; ratios: how many times as "
+      "fast as the peer.\n\n| %-18s | %-8s | %6s | %6s | %-12s | %6s | %6s | "
+      "%6s | %7s "
       "| "
       "%-12s | %-13s | %s |\n",
       "what", "corpus", "size", "ours", "best peer", kIcu, kIconv, kGlib,
@@ -120,7 +122,7 @@ void Print(const Row& row) {
   std::fflush(stdout);
 }
 
-/// One object a line. Times are nanoseconds for one run.
+/// One object per line. Times are in nanoseconds per run.
 void PrintJson(std::FILE* file, const Row& row) {
   std::fprintf(file,
                R"({"what":"%s","corpus":"%s","size":%zu,"source_bytes":)"

@@ -11,7 +11,7 @@
 namespace velmohelp::bench {
 namespace {
 
-/// A reading lasts at least this long, or the clock's own cost would show.
+/// A reading lasts at least this long: the cost of the clock must not show.
 constexpr double kShortestReading = 400'000;  // nanoseconds
 
 double Nanoseconds(const std::function<std::size_t()>& run, int times) {
@@ -27,7 +27,7 @@ double Median(std::vector<double> readings) {
   return readings[readings.size() / 2];
 }
 
-/// The floor runs among the candidates, like one of them.
+/// The floor runs like any candidate.
 std::vector<Candidate> WithFloor(const Task& task) {
   auto all = task.candidates;
   if (task.output_bytes != 0) {

@@ -1,9 +1,9 @@
-// The peers' conversions, each with the interface that its library offers for
-// the job. All return the number of units produced, 0 on failure.
+// The peers' conversions, each through the interface that its library offers
+// for the job. All return the number of units written, 0 on failure.
 //
-// GLib allocates its results, as its callers have it do. ICU and utf8cpp write
-// and read UTF-32 in our units of 64 bits where they leave the choice; iconv,
-// GLib and ICU's string functions have half as much to move, with 32 bits.
+// GLib allocates its results. ICU and utf8cpp read and write UTF-32 in our
+// units of 64 bits where the interface allows it; iconv, GLib and ICU's string
+// functions use 32 bits and move half as much.
 #ifndef BENCH_UNICODE_PEERS_H_
 #define BENCH_UNICODE_PEERS_H_
 
@@ -92,7 +92,7 @@ inline std::size_t IcuIsLegal(Utf8 from) {
   return 1;
 }
 
-/// One converter of iconv's, opened once.
+/// One iconv converter, opened once.
 class Iconv {
  public:
   Iconv(const char* to, const char* from) : handle_(iconv_open(to, from)) {}

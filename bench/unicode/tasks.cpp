@@ -164,7 +164,7 @@ std::size_t OursIsLegal(Utf8 text) {
   return ITEMisLegalUTF8String(text.data(), text.data() + text.size()) ? 1 : 0;
 }
 
-/// From sequence to sequence, as a caller that wants the place of the error.
+/// One call per sequence, like a caller that looks for where an error is.
 std::size_t OursWalk(Utf8 text) {
   const ITEMUTF8* at = text.data();
   const ITEMUTF8* const end = at + text.size();

@@ -1,4 +1,4 @@
-// What is measured: one job, done by this library and by its peers.
+// What is measured: one job, done by this library and by others.
 #ifndef BENCH_UNICODE_TASKS_H_
 #define BENCH_UNICODE_TASKS_H_
 
@@ -12,8 +12,8 @@
 
 namespace velmohelp::bench {
 
-/// One library's way of doing a job. run: does it once; the number of output
-/// units (for a legality test 1), 0 when it failed.
+/// How one library does a job. run: does it once, and returns the number of
+/// output units (1 for a legality test), or 0 on failure.
 struct Candidate {
   std::string name;
   std::function<std::size_t()> run;

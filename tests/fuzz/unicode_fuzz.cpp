@@ -1,5 +1,5 @@
 // The first two bytes choose a direction, the mode and the room; the rest is
-// the source. Every conversion must do what the slow one does.
+// the source. Every conversion must do what the oracle does.
 #include "tests/fuzz/input.h"
 #include "tests/support/unicode_compare.h"
 

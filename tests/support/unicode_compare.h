@@ -1,4 +1,4 @@
-// Holds a converter against the slow one.
+// Compares a converter with the oracle.
 #ifndef TESTS_SUPPORT_UNICODE_COMPARE_H_
 #define TESTS_SUPPORT_UNICODE_COMPARE_H_
 
@@ -38,8 +38,9 @@ inline constexpr Direction<ITEMUTF32, ITEMUTF8> kUtf32To8{
 inline constexpr Direction<ITEMUTF32, ITEMUTF16> kUtf32To16{
     "UTF-32 to UTF-16", ITEMConvertUTF32toUTF16, OracleUtf32To16};
 
-/// Two targets of the same size, filled alike, one for each implementation.
-/// Both reach beyond the room that a conversion is given.
+/// Two targets of the same size with the same filling, one for each
+/// implementation. Both are longer than the room that a conversion gets, to
+/// show what it writes past that.
 template <typename Unit>
 class TwoTargets {
  public:
@@ -84,8 +85,8 @@ std::string Dump(const Unit* units, std::size_t size) {
   return text.str();
 }
 
-/// One call of each with the same room: answers, cursors, produced units and
-/// all that lies beyond them. targets: filled, or refilled here.
+/// One call of each with the same room: compares results, cursors, the units
+/// written and everything after them. Refills the targets first.
 template <typename D>
 ::testing::AssertionResult AgreeIn(const D& direction,
                                    const typename D::Source* source,
@@ -101,12 +102,12 @@ template <typename D>
          << direction.name << ", room " << room << ", flag " << flag
          << "\n source" << Dump(source, size) << "\n real " << real.result
          << " at " << real.consumed << ":" << Dump(targets.real(), room + 1)
-         << "\n slow " << oracle.result << " at " << oracle.consumed << ":"
+         << "\n oracle " << oracle.result << " at " << oracle.consumed << ":"
          << Dump(targets.oracle(), room + 1);
 }
 
-/// Both modes, with every room from none to what is needed and one more.
-/// targets: for at least 4 units for each of the source's, and one.
+/// Both modes, with every amount of room from none to one unit too many.
+/// targets: at least four units for each source unit, and one.
 template <typename D>
 ::testing::AssertionResult AgreeInEveryRoom(
     const D& direction, const typename D::Source* source, std::size_t size,
@@ -124,8 +125,7 @@ template <typename D>
   return ::testing::AssertionSuccess();
 }
 
-/// Bytes from anywhere as the source, and a part of the room that they may
-/// need.
+/// Any bytes as the source, and part/255 of the room that they may need.
 template <typename D>
 ::testing::AssertionResult AgreeOnBytes(const D& direction,
                                         const std::uint8_t* bytes,

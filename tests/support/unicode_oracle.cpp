@@ -8,7 +8,7 @@ enum { kComplete, kSourceExhausted, kTargetExhausted, kIllegal };
 bool IsHigh(ITEMUTF32 c) { return c >= 0xD800 && c <= 0xDBFF; }
 bool IsLow(ITEMUTF32 c) { return c >= 0xDC00 && c <= 0xDFFF; }
 
-/// The length that a lead byte announces; a byte that leads nothing counts 1.
+/// The length that a lead byte announces; 1 for any other byte.
 std::size_t Announced(ITEMUTF8 lead) {
   if (lead >= 0xFC) return 6;
   if (lead >= 0xF8) return 5;
@@ -26,8 +26,8 @@ ITEMUTF32 Payload(const ITEMUTF8* source, std::size_t length) {
   return value;
 }
 
-/// Legal: at most four bytes, each of its kind, no longer than the character
-/// needs, and no character beyond Unicode.
+/// Legal: at most four bytes, trailing bytes where they belong, no longer than
+/// the character needs, and up to U+10FFFF.
 bool IsLegal(const ITEMUTF8* source, std::size_t length) {
   if (length == 1) return source[0] < 0x80;
   if (length > 4) return false;
@@ -74,7 +74,7 @@ Units Utf8Units(ITEMUTF32 c) {
   return {2, {0xFF, 0xBD}};
 }
 
-/// One character of UTF-8; consumed is left to the caller.
+/// Reads one character. Sets its length, for the caller to consume.
 int Read(const ITEMUTF8* source, std::size_t size, ITEMUTF32& c,
          std::size_t& length) {
   length = Announced(source[0]);

@@ -1,5 +1,5 @@
-// A second implementation of the conversions, slow and obvious: one character
-// at a time, by the definitions, without a table and without a short cut.
+// The oracle of the converters: a second implementation, slow and obvious, one
+// character at a time by the definitions.
 #ifndef TESTS_SUPPORT_UNICODE_ORACLE_H_
 #define TESTS_SUPPORT_UNICODE_ORACLE_H_
 
@@ -9,7 +9,7 @@
 
 namespace velmohelp::testing {
 
-/// What a conversion did: its answer, and how far each cursor moved.
+/// What a conversion did: its result, and how far each cursor moved.
 struct Outcome {
   int result;
   std::size_t consumed;
@@ -31,7 +31,7 @@ Outcome OracleUtf32To8(const ITEMUTF32* source, std::size_t size,
 Outcome OracleUtf32To16(const ITEMUTF32* source, std::size_t size,
                         ITEMUTF16* target, std::size_t room, bool lenient);
 
-/// Length of the legal sequence at source; 0 when it is cut off or illegal.
+/// Length of the legal sequence at source; 0 when it is incomplete or illegal.
 std::size_t OracleSequence(const ITEMUTF8* source, std::size_t size);
 bool OracleIsLegal(const ITEMUTF8* source, std::size_t size);
 

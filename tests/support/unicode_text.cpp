@@ -14,7 +14,7 @@ struct Kind {
   ITEMUTF32 last;
 };
 
-/// ASCII, Latin, Cyrillic, CJK, private, emoji, all supplementary ones.
+/// ASCII, Latin, Cyrillic, CJK, private use, emoji, all supplementary planes.
 constexpr Kind kKinds[] = {
     {0x00, 0x7F},     {0x80, 0x17F},      {0x400, 0x45F},     {0x800, 0xD7FF},
     {0xE000, 0xFFFF}, {0x1F300, 0x1F64F}, {0x10000, 0x10FFFF}};
@@ -29,9 +29,9 @@ Kind DrawKind(std::mt19937& random, Purity purity) {
   return kKinds[Below(random, std::size(kKinds))];
 }
 
-/// Bytes and units change places with stray ones, here and there.
+/// Overwrites a few units with random ones, and may drop the last.
 template <typename Unit>
-void Spoil(std::mt19937& random, std::vector<Unit>& units) {
+void Damage(std::mt19937& random, std::vector<Unit>& units) {
   if (units.empty()) return;
   for (std::size_t spots = Below(random, 3); spots != 0; --spots) {
     auto& unit = units[Below(random, units.size())];
@@ -63,7 +63,7 @@ std::vector<ITEMUTF8> MixedUtf8(std::mt19937& random, std::size_t size,
   bytes.resize(OracleUtf32To8(values.data(), values.size(), bytes.data(),
                               bytes.size(), true)
                    .produced);
-  if (purity == Purity::kAnything) Spoil(random, bytes);
+  if (purity == Purity::kAnything) Damage(random, bytes);
   return bytes;
 }
 
@@ -74,7 +74,7 @@ std::vector<ITEMUTF16> MixedUtf16(std::mt19937& random, std::size_t size,
   units.resize(OracleUtf32To16(values.data(), values.size(), units.data(),
                                units.size(), true)
                    .produced);
-  if (purity == Purity::kAnything) Spoil(random, units);
+  if (purity == Purity::kAnything) Damage(random, units);
   return units;
 }
 

@@ -68,7 +68,7 @@ int main(void) {
           from32 == utf32 + 1,
       "UTF-32 to UTF-16 of a surrogate");
 
-  Expect(ITEMisLegalUTF8String(utf8, utf8_end), "a legal text");
-  Expect(!ITEMisLegalUTF8Sequence(utf8 + 2, utf8_end), "no lead byte");
+  Expect(ITEMisLegalUTF8String(utf8, utf8_end), "a legal string");
+  Expect(!ITEMisLegalUTF8Sequence(utf8 + 2, utf8_end), "a sequence without a lead byte");
   return failures != 0;
 }

@@ -1,4 +1,4 @@
-// The string layer out of the shared library: its exception is caught here as
+// The string layer of the shared library: a program catches its exception by
 // the class that the library threw.
 #include <velmohelp/unicode.h>
 

@@ -1,5 +1,5 @@
-// Short sequences at every place of a longer text, where a converter that takes
-// many units at once could lose sight of its edges.
+// Short sequences at every place of a longer text: what cuts a block, or is
+// illegal inside one, must end like a single step.
 #include <gtest/gtest.h>
 
 #include <array>
@@ -13,21 +13,21 @@ namespace {
 
 using std::string_view_literals::operator""sv;
 
-constexpr std::array<ITEMUTF8, 14> kBorders = {0x41, 0x80, 0x8F, 0x90, 0x9F,
-                                               0xA0, 0xBF, 0xC1, 0xC2, 0xE0,
-                                               0xED, 0xF0, 0xF4, 0xF5};
+constexpr std::array<ITEMUTF8, 14> kBoundaries = {0x41, 0x80, 0x8F, 0x90, 0x9F,
+                                                  0xA0, 0xBF, 0xC1, 0xC2, 0xE0,
+                                                  0xED, 0xF0, 0xF4, 0xF5};
 
 struct Around {
   const char* sentence;
-  std::string_view text;  // whole characters over and over
+  std::string_view text;  // whole characters, repeated
 };
 
 class Embedded : public ::testing::TestWithParam<Around> {
  protected:
-  static constexpr std::size_t kBefore = 35;  // offsets of two blocks and more
+  static constexpr std::size_t kBefore = 35;  // more than two blocks
   static constexpr std::size_t kSize = 80;
 
-  /// The text around, with the bytes at a place; whole characters in front.
+  /// The text around, with the bytes at a place in it.
   static std::array<ITEMUTF8, kSize> TextWith(
       const std::array<ITEMUTF8, 4>& bytes, std::size_t place) {
     std::array<ITEMUTF8, kSize> text{};
@@ -53,14 +53,14 @@ class Embedded : public ::testing::TestWithParam<Around> {
   TwoTargets<ITEMUTF32> utf32_{kSize};
 };
 
-// Every place follows in its turn as the bytes change: 14^4 sequences meet each
-// of the 35 places about a thousand times.
+// The place changes with every sequence: each of the 35 places gets about a
+// thousand of the 14^4 sequences.
 TEST_P(Embedded, SequencesAgreeAtEveryPlace) {
   std::size_t place = 0;
-  for (const ITEMUTF8 first : kBorders) {
-    for (const ITEMUTF8 second : kBorders) {
-      for (const ITEMUTF8 third : kBorders) {
-        for (const ITEMUTF8 fourth : kBorders) {
+  for (const ITEMUTF8 first : kBoundaries) {
+    for (const ITEMUTF8 second : kBoundaries) {
+      for (const ITEMUTF8 third : kBoundaries) {
+        for (const ITEMUTF8 fourth : kBoundaries) {
           place = (place + 1) % kBefore;
           ExpectAgreement({first, second, third, fourth}, place);
           if (HasFatalFailure()) return;

@@ -1,4 +1,4 @@
-// All units and the pairs that matter, against the slow implementation.
+// All units and the pairs that matter, compared with the oracle.
 #include <gtest/gtest.h>
 
 #include <array>
@@ -8,8 +8,8 @@
 namespace velmohelp::testing {
 namespace {
 
-/// Both sides of every border that a unit's meaning has.
-constexpr std::array<ITEMUTF16, 14> kBorders = {
+/// Both sides of every boundary at which the meaning of a unit changes.
+constexpr std::array<ITEMUTF16, 14> kBoundaries = {
     0x0000, 0x007F, 0x0080, 0x07FF, 0x0800, 0xD7FF, 0xD800,
     0xDBFF, 0xDC00, 0xDFFF, 0xE000, 0xFFFD, 0xFFFE, 0xFFFF};
 
@@ -31,10 +31,10 @@ TEST_F(Utf16Units, AloneAgree) {
   }
 }
 
-TEST_F(Utf16Units, BesideEveryBorderUnitAgree) {
+TEST_F(Utf16Units, BesideEveryBoundaryUnitAgree) {
   for (unsigned unit = 0; unit <= 0xFFFF; ++unit) {
-    for (const ITEMUTF16 border : kBorders) {
-      const ITEMUTF16 units[] = {static_cast<ITEMUTF16>(unit), border,
+    for (const ITEMUTF16 boundary : kBoundaries) {
+      const ITEMUTF16 units[] = {static_cast<ITEMUTF16>(unit), boundary,
                                  static_cast<ITEMUTF16>(unit)};
       ASSERT_TRUE(Agree(units, 2));
       ASSERT_TRUE(Agree(units + 1, 2));
@@ -42,8 +42,8 @@ TEST_F(Utf16Units, BesideEveryBorderUnitAgree) {
   }
 }
 
-// Every high surrogate before every surrogate, and thus every code point that
-// needs two units. In one room each: the borders above have had them all.
+// Every high surrogate before every surrogate, so every code point that needs
+// two units. With one size of target: the boundaries above had them all.
 TEST_F(Utf16Units, HighSurrogatesBeforeEverySurrogateAgree) {
   for (unsigned high = 0xD800; high <= 0xDBFF; ++high) {
     for (unsigned second = 0xD800; second <= 0xDFFF; ++second) {

@@ -1,4 +1,4 @@
-// All values of interest, against the slow implementation.
+// All values of interest, compared with the oracle.
 #include <gtest/gtest.h>
 
 #include <array>
@@ -9,7 +9,7 @@
 namespace velmohelp::testing {
 namespace {
 
-/// Values that a cut to 8, 16, 21 or 32 bits would make look harmless.
+/// Values that would look harmless when cut to 8, 16, 21 or 32 bits.
 constexpr std::array<ITEMUTF32, 16> kWide = {
     0x220000,           0x7FFFFFFF,         0x80000000,
     0xFFFFFFFF,         0x100000000,        0x100000041,

@@ -1,4 +1,4 @@
-// All short sequences of bytes, against the slow implementation.
+// All short sequences of bytes, compared with the oracle.
 #include <gtest/gtest.h>
 
 #include <array>
@@ -9,8 +9,8 @@
 namespace velmohelp::testing {
 namespace {
 
-/// Both sides of every border that a byte's meaning has.
-constexpr std::array<ITEMUTF8, 18> kBorders = {
+/// Both sides of every boundary at which the meaning of a byte changes.
+constexpr std::array<ITEMUTF8, 18> kBoundaries = {
     0x00, 0x7F, 0x80, 0x81, 0x8F, 0x90, 0x9F, 0xA0, 0xBF,
     0xC0, 0xC2, 0xDF, 0xE0, 0xED, 0xF0, 0xF4, 0xF8, 0xFF};
 
@@ -48,11 +48,11 @@ TEST_P(Utf8Sequences, OfUpToThreeBytesAgree) {
   }
 }
 
-TEST_P(Utf8Sequences, OfFourBytesWithBorderTrailingBytesAgree) {
+TEST_P(Utf8Sequences, OfFourBytesAtTheBoundariesAgree) {
   for (unsigned lead = GetParam().first; lead <= GetParam().last; ++lead) {
-    for (const ITEMUTF8 second : kBorders) {
-      for (const ITEMUTF8 third : kBorders) {
-        for (const ITEMUTF8 fourth : kBorders) {
+    for (const ITEMUTF8 second : kBoundaries) {
+      for (const ITEMUTF8 third : kBoundaries) {
+        for (const ITEMUTF8 fourth : kBoundaries) {
           const ITEMUTF8 bytes[] = {static_cast<ITEMUTF8>(lead), second, third,
                                     fourth};
           ASSERT_TRUE(Agree(bytes, 4));

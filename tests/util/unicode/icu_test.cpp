@@ -1,4 +1,4 @@
-// Well-formed text against ICU, which knows nothing of our rules.
+// Well-formed text compared with ICU, which does not have our special cases.
 #include <gtest/gtest.h>
 #include <unicode/ustring.h>
 #include <unicode/utf8.h>

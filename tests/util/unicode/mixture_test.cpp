@@ -1,5 +1,5 @@
-// Long texts, where many characters are converted at once, against the slow
-// implementation.
+// Long texts, where many characters are converted at once, compared with the
+// oracle.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -12,8 +12,8 @@
 namespace velmohelp::testing {
 namespace {
 
-/// A copy that ends where its allocation does, so that the sanitizer sees a
-/// read beyond, and that begins off every round address.
+/// A copy that ends where its allocation ends, so that the sanitizer sees a
+/// read past it, and that starts at an unaligned address.
 template <typename Unit>
 class ExactCopy {
  public:
@@ -28,7 +28,7 @@ class ExactCopy {
   std::unique_ptr<Unit[]> copy_;
 };
 
-/// Any room up to what is needed and a little more, and the exact need.
+/// With ample room, with exactly enough, and with some other amount.
 template <typename D>
 ::testing::AssertionResult AgreeInSomeRooms(
     const D& direction, const std::vector<typename D::Source>& source,
@@ -114,7 +114,7 @@ INSTANTIATE_TEST_SUITE_P(
     Of, Mixtures,
     ::testing::Values(Mixture{"well formed text", Purity::kWellFormed},
                       Mixture{"text with surrogates", Purity::kSurrogates},
-                      Mixture{"anything", Purity::kAnything}),
+                      Mixture{"damaged text", Purity::kAnything}),
     SentenceOf());
 
 }  // namespace

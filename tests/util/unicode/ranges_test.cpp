@@ -1,4 +1,4 @@
-// Ranges that hold nothing: null, empty, and with the end before the start.
+// Ranges without units: null, empty, and with the end before the start.
 #include <gtest/gtest.h>
 
 #include "tests/support/unicode_compare.h"
@@ -65,14 +65,14 @@ TEST(TargetRange, ThatIsInvertedHasNoRoom) {
   EXPECT_EQ(target[3], 7);
 }
 
-TEST(Legality, OfAnEmptyRangeIsGivenForATextOnly) {
+TEST(Legality, OfAnEmptyRangeIsTrueForAStringAndFalseForASequence) {
   EXPECT_TRUE(ITEMisLegalUTF8String(kText, kText));
   EXPECT_TRUE(ITEMisLegalUTF8String(nullptr, nullptr));
   EXPECT_FALSE(ITEMisLegalUTF8Sequence(kText, kText));
   EXPECT_FALSE(ITEMisLegalUTF8Sequence(nullptr, nullptr));
 }
 
-TEST(Legality, IsDeniedToARangeThatIsNoRange) {
+TEST(Legality, IsFalseForAnInvertedOrHalfNullRange) {
   EXPECT_FALSE(ITEMisLegalUTF8String(kText + 1, kText));
   EXPECT_FALSE(ITEMisLegalUTF8String(nullptr, kText));
   EXPECT_FALSE(ITEMisLegalUTF8String(kText, nullptr));
@@ -80,14 +80,14 @@ TEST(Legality, IsDeniedToARangeThatIsNoRange) {
   EXPECT_FALSE(ITEMisLegalUTF8Sequence(nullptr, kText));
 }
 
-TEST(Legality, OfASequenceDoesNotConcernWhatFollows) {
+TEST(Legality, OfASequenceIgnoresWhatFollows) {
   constexpr ITEMUTF8 text[] = {0xC3, 0xA9, 0xFF};
   EXPECT_TRUE(ITEMisLegalUTF8Sequence(text, text + 3));
   EXPECT_FALSE(ITEMisLegalUTF8String(text, text + 3));
   EXPECT_FALSE(ITEMisLegalUTF8Sequence(text, text + 1));
 }
 
-TEST(Legality, InTheLibraryIsTheSame) {
+TEST(Legality, InsideTheLibraryIsTheSame) {
   EXPECT_TRUE(unicode::IsLegalUtf8(""));
   EXPECT_TRUE(unicode::IsLegalUtf8("caf\xC3\xA9 \xED\xA0\x80"));
   EXPECT_FALSE(unicode::IsLegalUtf8("\xF5\x80\x80\x80"));

@@ -58,13 +58,13 @@ TEST(WideToNarrow, RefusesALoneSurrogateInStrictModeOnly) {
             "b");
 }
 
-TEST(WideToNarrow, TakesAHighSurrogateAtTheEndInBothModes) {
+TEST(WideToNarrow, ConvertsAHighSurrogateAtTheEndInBothModes) {
   const std::wstring text = {L'a', 0xD800};
   EXPECT_EQ(Narrow(text), "a\xED\xA0\x80");
   EXPECT_EQ(Narrow(text, true), "a\xED\xA0\x80");
 }
 
-TEST(WideToNarrow, IsWholeAtTheBordersOfItsPieces) {
+TEST(WideToNarrow, KeepsCharactersWholeBetweenPieces) {
   for (std::size_t before = 250; before <= 260; ++before) {
     const std::wstring head(before, L'x');
     EXPECT_EQ(
@@ -80,7 +80,7 @@ TEST(NarrowToWide, SplitsPairs) {
   EXPECT_EQ(Wide(std::string(3, '\0')), std::wstring(3, L'\0'));
 }
 
-TEST(NarrowToWide, IsWholeAtTheBordersOfItsPieces) {
+TEST(NarrowToWide, KeepsCharactersWholeBetweenPieces) {
   for (std::size_t before = 250; before <= 260; ++before) {
     EXPECT_EQ(Wide(std::string(before, 'x') +
                    Times<std::string>(400, "\xF0\x9F\x98\x80")),
@@ -89,7 +89,7 @@ TEST(NarrowToWide, IsWholeAtTheBordersOfItsPieces) {
   }
 }
 
-TEST(NarrowToWide, RefusesABrokenTail) {
+TEST(NarrowToWide, RefusesAnIncompleteTail) {
   for (const bool lenient : {false, true}) {
     for (const std::size_t before : {0U, 3U, 256U, 1000U}) {
       EXPECT_THAT([&] { Wide(std::string(before, 'x') + "\xE2", lenient); },
@@ -138,7 +138,7 @@ TEST(BoundedNarrow, NeedsATargetOnlyForASource) {
               ThrowsMessage<Sequence>("Empty target buffer."));
 }
 
-TEST(BoundedNarrow, TakesAnInvertedSourceForEmptyAndTargetForNone) {
+TEST(BoundedNarrow, TreatsInvertedRangesAsEmpty) {
   char target[2] = {'.', '.'};
   const wchar_t text[] = L"ab";
   EXPECT_EQ(convert_utf(text + 2, text, target, target + 2, false),
@@ -190,7 +190,7 @@ TEST(BoundedWide, NeedsATargetOnlyForASource) {
               ThrowsMessage<Sequence>("Empty target buffer."));
 }
 
-TEST(BoundedWide, TakesAnInvertedSourceForEmptyAndTargetForNone) {
+TEST(BoundedWide, TreatsInvertedRangesAsEmpty) {
   wchar_t target[2] = {L'.', L'.'};
   const char text[] = "ab";
   EXPECT_EQ(convert_utf(text + 2, text, target, target + 2, false),
