@@ -15,7 +15,7 @@ namespace {
 
 using velmohelp::unicode::HoldsUnits;
 
-/// Units between the two steps of a conversion, one for each wide character.
+/// The UTF-16 units between wide characters and UTF-8.
 class Utf16Buffer {
  public:
   explicit Utf16Buffer(std::size_t size)
@@ -29,6 +29,46 @@ class Utf16Buffer {
   std::unique_ptr<ITEMUTF16[]> units_;
   ITEMUTF16* end_;
 };
+
+/// What a conversion returned, and the positions that it reached.
+template <typename Source, typename Target>
+struct Conversion {
+  ITEMConversionResult result;
+  std::pair<const Source*, Target*> reached;
+};
+
+// These two return, and free their buffer, before an illegal sequence throws.
+
+Conversion<wchar_t, char> Narrow(const wchar_t* first, const wchar_t* last,
+                                 char* dfirst, char* dlast, bool lenient) {
+  const Utf16Buffer units(static_cast<std::size_t>(last - first));
+  ITEMUTF16* narrowed = units.begin();
+  for (const wchar_t* wide = first; wide != last; ++wide) {
+    *narrowed++ = static_cast<ITEMUTF16>(*wide & 0xFFFF);
+  }
+  const ITEMUTF16* source = units.begin();
+  auto* target = reinterpret_cast<ITEMUTF8*>(dfirst);
+  const auto result =
+      ITEMConvertUTF16toUTF8(&source, units.end(), &target,
+                             reinterpret_cast<ITEMUTF8*>(dlast), lenient);
+  return {result,
+          {first + (source - units.begin()), reinterpret_cast<char*>(target)}};
+}
+
+Conversion<char, wchar_t> Widen(const char* first, const char* last,
+                                wchar_t* dfirst, wchar_t* dlast, bool lenient) {
+  const Utf16Buffer units(static_cast<std::size_t>(dlast - dfirst));
+  const auto* source = reinterpret_cast<const ITEMUTF8*>(first);
+  ITEMUTF16* target = units.begin();
+  const auto result =
+      ITEMConvertUTF8toUTF16(&source, reinterpret_cast<const ITEMUTF8*>(last),
+                             &target, units.end(), lenient);
+  if (result == kConversionSourceIllegal) return {result, {}};
+  for (const ITEMUTF16* unit = units.begin(); unit != target; ++unit) {
+    *dfirst++ = static_cast<wchar_t>(*unit);
+  }
+  return {result, {reinterpret_cast<const char*>(source), dfirst}};
+}
 
 void RequireTarget(const void* first, const void* last) {
   if (!HoldsUnits(first, last)) {
@@ -47,18 +87,9 @@ std::pair<const wchar_t*, char*> convert_utf(const wchar_t* first,
                                              char* dlast, bool lenient) {
   if (!HoldsUnits(first, last)) return {first, dfirst};
   RequireTarget(dfirst, dlast);
-  const Utf16Buffer units(static_cast<std::size_t>(last - first));
-  ITEMUTF16* narrowed = units.begin();
-  for (const wchar_t* wide = first; wide != last; ++wide) {
-    *narrowed++ = static_cast<ITEMUTF16>(*wide & 0xFFFF);
-  }
-  const ITEMUTF16* source = units.begin();
-  auto* target = reinterpret_cast<ITEMUTF8*>(dfirst);
-  RequireLegal(
-      ITEMConvertUTF16toUTF8(&source, units.end(), &target,
-                             reinterpret_cast<ITEMUTF8*>(dlast), lenient),
-      "Bad UTF-16 sequence.");
-  return {first + (source - units.begin()), reinterpret_cast<char*>(target)};
+  const auto [result, reached] = Narrow(first, last, dfirst, dlast, lenient);
+  RequireLegal(result, "Bad UTF-16 sequence.");
+  return reached;
 }
 
 std::pair<const char*, wchar_t*> convert_utf(const char* first,
@@ -66,17 +97,9 @@ std::pair<const char*, wchar_t*> convert_utf(const char* first,
                                              wchar_t* dlast, bool lenient) {
   if (!HoldsUnits(first, last)) return {first, dfirst};
   RequireTarget(dfirst, dlast);
-  const Utf16Buffer units(static_cast<std::size_t>(dlast - dfirst));
-  const auto* source = reinterpret_cast<const ITEMUTF8*>(first);
-  ITEMUTF16* target = units.begin();
-  RequireLegal(
-      ITEMConvertUTF8toUTF16(&source, reinterpret_cast<const ITEMUTF8*>(last),
-                             &target, units.end(), lenient),
-      "Bad UTF-8 sequence.");
-  for (const ITEMUTF16* unit = units.begin(); unit != target; ++unit) {
-    *dfirst++ = static_cast<wchar_t>(*unit);
-  }
-  return {reinterpret_cast<const char*>(source), dfirst};
+  const auto [result, reached] = Widen(first, last, dfirst, dlast, lenient);
+  RequireLegal(result, "Bad UTF-8 sequence.");
+  return reached;
 }
 
 template <typename Result, typename Source>

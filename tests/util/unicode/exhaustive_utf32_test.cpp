@@ -9,14 +9,34 @@
 namespace velmohelp::testing {
 namespace {
 
-/// Values that would look harmless when cut to 8, 16, 21 or 32 bits.
-constexpr std::array<ITEMUTF32, 16> kWide = {
-    0x220000,           0x7FFFFFFF,         0x80000000,
-    0xFFFFFFFF,         0x100000000,        0x100000041,
-    0x10000D800,        0x100010000,        0x200000,
-    0x41000000000041,   0x8000000000000000, 0x8000000000000041,
-    0x800000000000D800, 0x7FFFFFFFFFFFFFFF, 0xFFFFFFFF00000041,
-    0xFFFFFFFFFFFFFFFF};
+/// Both sides of every boundary, and values that would look harmless when cut
+/// to 8, 16, 21 or 32 bits.
+constexpr std::array<ITEMUTF32, 26> kSpecial = {0x7F,
+                                                0x80,
+                                                0x7FF,
+                                                0x800,
+                                                0xD7FF,
+                                                0xD800,
+                                                0xDFFF,
+                                                0xE000,
+                                                0x10FFFF,
+                                                0x110000,
+                                                0x220000,
+                                                0x7FFFFFFF,
+                                                0x80000000,
+                                                0xFFFFFFFF,
+                                                0x100000000,
+                                                0x100000041,
+                                                0x10000D800,
+                                                0x100010000,
+                                                0x200000,
+                                                0x41000000000041,
+                                                0x8000000000000000,
+                                                0x8000000000000041,
+                                                0x800000000000D800,
+                                                0x7FFFFFFFFFFFFFFF,
+                                                0xFFFFFFFF00000041,
+                                                0xFFFFFFFFFFFFFFFF};
 
 class Utf32Values : public ::testing::Test {
  protected:
@@ -47,8 +67,8 @@ TEST_F(Utf32Values, UpTo0x220000AgreeInRuns) {
   }
 }
 
-TEST_F(Utf32Values, OfUpTo64BitsAgreeAtEveryPlaceOfARun) {
-  for (const ITEMUTF32 value : kWide) {
+TEST_F(Utf32Values, ThatAreSpecialAgreeAtEveryPlaceOfARun) {
+  for (const ITEMUTF32 value : kSpecial) {
     ASSERT_TRUE(Agree(&value, 1));
     for (std::size_t place = 0; place < 24; ++place) {
       std::array<ITEMUTF32, 24> run{};
