@@ -2,18 +2,102 @@
 
 #include <glib.h>
 
+#include <algorithm>
+#include <optional>
 #include <string_view>
+#include <utility>
+
+#include "platform/linux/helpers/gobject_ptr.h"
 
 namespace velmohelp {
 namespace {
 
 using Words = std::vector<std::string>;
 
+/// Follows a line's quoting, by the rules of g_shell_parse_argv.
+class Quoting {
+ public:
+  /// Steps over the next character; true when it is quoted: by the quotes
+  /// around it, or by the backslash before it.
+  bool Step(char c) {
+    if (std::exchange(escaped_, false)) return true;
+    if (c == '\\' && open_ != '\'') {
+      escaped_ = true;
+    } else if (c == open_) {
+      open_ = '\0';
+    } else if (open_ == '\0' && (c == '"' || c == '\'')) {
+      open_ = c;
+    }
+    return open_ != '\0';
+  }
+
+ private:
+  char open_ = '\0';
+  bool escaped_ = false;
+};
+
 bool IsUrlCode(char code) {
   return std::string_view("uUfF").find(code) != std::string_view::npos;
 }
 
-Words SplitLine(const std::string& line) {
+std::string Quoted(const std::string& value) {
+  return Text(TextPtr(g_shell_quote(value.c_str())));
+}
+
+/// A value as a word; no word, not an empty one, for a value that is missing.
+std::string WordOf(const std::string& value) {
+  return value.empty() ? "" : Quoted(value);
+}
+
+/// Replaces field codes one by one, from the start of a line to its end.
+class FieldCodes {
+ public:
+  explicit FieldCodes(const FieldValues& values) : values_(values) {}
+
+  std::string Expand(char code) {
+    if (IsUrlCode(code)) {
+      return std::exchange(url_given_, true) ? "" : Quoted(values_.url);
+    }
+    switch (code) {
+      case 'i':
+        return values_.icon.empty() ? "" : "--icon " + Quoted(values_.icon);
+      case 'c':
+        return WordOf(values_.name);
+      case 'k':
+        return WordOf(values_.file);
+      case '%':
+        return "%";
+      default:
+        return "";
+    }
+  }
+
+  bool url_given() const { return url_given_; }
+
+ private:
+  const FieldValues& values_;
+  bool url_given_ = false;
+};
+
+/// The line with its codes replaced; nullopt when one of them is quoted.
+std::optional<std::string> Expanded(const std::string& line,
+                                    FieldCodes& codes) {
+  std::string expanded;
+  Quoting quoting;
+  for (std::size_t i = 0; i < line.size(); ++i) {
+    const bool quoted = quoting.Step(line[i]);
+    if (line[i] != '%' || i + 1 == line.size()) {
+      expanded += line[i];
+      continue;
+    }
+    const char code = line[++i];
+    if (quoted && code != '%') return std::nullopt;
+    expanded += codes.Expand(code);
+  }
+  return expanded;
+}
+
+Words Split(const std::string& line) {
   int count = 0;
   char** split = nullptr;
   if (g_shell_parse_argv(line.c_str(), &count, &split, nullptr) == 0) return {};
@@ -22,52 +106,21 @@ Words SplitLine(const std::string& line) {
   return words;
 }
 
-std::string ValueOf(char code, const FieldValues& values) {
-  if (IsUrlCode(code)) return values.url;
-  if (code == 'c') return values.name;
-  if (code == 'k') return values.file;
-  return code == '%' ? "%" : "";
-}
-
-/// Replaces the codes in one word. url_given: set when one was the URL's.
-std::string ExpandWord(const std::string& word, const FieldValues& values,
-                       bool& url_given) {
-  std::string expanded;
-  for (std::size_t i = 0; i < word.size(); ++i) {
-    if (word[i] != '%' || i + 1 == word.size()) {
-      expanded += word[i];
-      continue;
-    }
-    const char code = word[++i];
-    url_given = url_given || IsUrlCode(code);
-    expanded += ValueOf(code, values);
-  }
-  return expanded;
-}
-
-void AppendWord(Words& words, const std::string& word,
-                const FieldValues& values, bool& url_given) {
-  if (word == "%i") {
-    if (!values.icon.empty()) {
-      words.insert(words.end(), {"--icon", values.icon});
-    }
-    return;
-  }
-  const std::string expanded = ExpandWord(word, values, url_given);
-  // A word that was codes alone, all of them without a value, goes away.
-  if (!expanded.empty() || word.empty()) words.push_back(expanded);
+/// Some word has the URL in it: a code in a comment of the line gives none.
+bool GivesUrl(const Words& words, const std::string& url) {
+  return std::any_of(words.begin(), words.end(), [&](const std::string& word) {
+    return word.find(url) != std::string::npos;
+  });
 }
 
 }  // namespace
 
 Words ExpandExecLine(const std::string& line, const FieldValues& values) {
-  Words words;
-  bool url_given = false;
-  for (const std::string& word : SplitLine(line)) {
-    AppendWord(words, word, values, url_given);
-  }
-  if (!words.empty() && !url_given) words.push_back(values.url);
-  return words;
+  FieldCodes codes(values);
+  const auto expanded = Expanded(line, codes);
+  Words words = expanded ? Split(*expanded) : Words();
+  if (!words.empty() && !codes.url_given()) words.push_back(values.url);
+  return GivesUrl(words, values.url) ? words : Words();
 }
 
 }  // namespace velmohelp

@@ -7,19 +7,26 @@
 
 namespace velmohelp {
 
-/// What the field codes of a command line stand for.
+/// The values of a command line's field codes; "" when the entry has none.
 struct FieldValues {
   std::string url;
-  std::string icon;
-  std::string name;
-  std::string file;
+  std::string icon = {};
+  std::string name = {};
+  std::string file = {};
 };
 
-/// The words of an Exec line with its field codes replaced, by the Desktop
-/// Entry Specification (version 1.5), except that %f and %F give the URL too,
-/// exactly as it stands: as a path it would lose its query. A line without a
-/// code for the URL gets it as its last word. Deprecated and unknown codes go
-/// away. Empty when the line cannot be read.
+/// The argument vector of an Exec line (Desktop Entry Specification 1.5).
+/// Empty when the line is refused.
+///
+/// Each field code is replaced by its quoted value before the line is split
+/// into words, so that no value can add a word or a quote. %u, %U, %f and %F
+/// give the URL exactly as it is: as a path it would lose its query. Only the
+/// first of them does, and a line without any gets the URL as its last word.
+/// Deprecated and unknown codes give nothing.
+///
+/// A line is refused when it cannot be split, when a field code other than %%
+/// is quoted (a word of `sh -c "browser %u"` is a program, and the URL would be
+/// part of it), or when the URL would not reach the browser.
 std::vector<std::string> ExpandExecLine(const std::string& line,
                                         const FieldValues& values);
 
