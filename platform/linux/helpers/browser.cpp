@@ -1,7 +1,9 @@
-// velmohelp-browser: how the user's default browser is started with a URL. See
-// protocol.h.
+// velmohelp-browser: gives the argument vector that opens a URL in the user's
+// default browser, or in a sandbox opens it. See protocol.h.
 #include <glib.h>
+#include <unistd.h>
 
+#include <chrono>
 #include <string>
 
 #include "platform/linux/helpers/answer.h"
@@ -13,30 +15,52 @@
 namespace velmohelp {
 namespace {
 
+/// Below the library's own timeout for this program.
+constexpr std::chrono::seconds kAnswerTimeout(8);
+/// A dialog that nobody answers goes away in the end.
+constexpr std::chrono::minutes kChoiceTimeout(10);
+
 bool IsAbsoluteUri(const char* text) {
   return IsUri(text) && g_uri_is_valid(text, G_URI_FLAGS_NONE, nullptr) != 0;
 }
 
 std::string Record(const std::string& text) { return text + '\0'; }
 
-std::string StartAnswer(const std::vector<std::string>& words) {
+std::string StartRecords(const std::vector<std::string>& words) {
   std::string answer = Record(VELMO_BROWSER_START);
   answer += Record(std::to_string(words.size()));
   for (const std::string& word : words) answer += Record(word);
   return answer;
 }
 
-/// "" when the URL cannot be opened.
-std::string AnswerFor(const std::string& url) {
-  if (IsInSandbox()) {
-    return OpenThroughPortal(url) ? Record(VELMO_BROWSER_OPENED) : "";
-  }
+/// "" when no program opens the URL.
+std::string StartAnswer(const std::string& url) {
   const auto words = DefaultBrowserCommand(url);
-  return words.empty() ? "" : StartAnswer(words);
+  return words.empty() ? "" : StartRecords(words);
 }
 
-/// The host's terminal is not the place for what a desktop's registry has to
-/// say about itself.
+/// The library has its answer in time, and 0 for the host means that something
+/// opened. While the person is still choosing an application nothing has: that
+/// answer is "no". The request goes on, so that the choice is not in vain.
+bool OpenFromSandbox(const std::string& url) {
+  PortalRequest request(url);
+  const PortalOutcome outcome = request.Await(kAnswerTimeout);
+  const bool opened = outcome == PortalOutcome::kOpened;
+  const bool given = GiveAnswer(opened ? Record(VELMO_BROWSER_OPENED) : "");
+  if (outcome == PortalOutcome::kPending) {
+    alarm(0);
+    request.Await(kChoiceTimeout);
+  }
+  return given && opened;
+}
+
+bool Open(const std::string& url) {
+  if (IsInSandbox()) return OpenFromSandbox(url);
+  const std::string answer = StartAnswer(url);
+  return !answer.empty() && GiveAnswer(answer);
+}
+
+/// What a desktop's registry logs must not appear in the host's terminal.
 GLogWriterOutput DropMessage(GLogLevelFlags, const GLogField*, gsize,
                              gpointer) {
   return G_LOG_WRITER_HANDLED;
@@ -44,9 +68,7 @@ GLogWriterOutput DropMessage(GLogLevelFlags, const GLogField*, gsize,
 
 int Main(int argc, char* argv[]) {
   g_log_set_writer_func(&DropMessage, nullptr, nullptr);
-  if (argc != 2 || !IsAbsoluteUri(argv[1])) return 1;
-  const std::string answer = AnswerFor(argv[1]);
-  return !answer.empty() && GiveAnswer(answer) ? 0 : 1;
+  return argc == 2 && IsAbsoluteUri(argv[1]) && Open(argv[1]) ? 0 : 1;
 }
 
 }  // namespace

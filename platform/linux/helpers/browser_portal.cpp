@@ -1,8 +1,11 @@
 #include "platform/linux/helpers/browser_portal.h"
 
-#include <gio/gio.h>
+#include <gio/gunixfdlist.h>
 
-#include "platform/linux/helpers/gobject_ptr.h"
+#include <algorithm>
+
+#include "platform/linux/files.h"
+#include "util/uri.h"
 
 namespace velmohelp {
 namespace {
@@ -10,11 +13,76 @@ namespace {
 constexpr char kBusName[] = "org.freedesktop.portal.Desktop";
 constexpr char kObjectPath[] = "/org/freedesktop/portal/desktop";
 constexpr char kInterface[] = "org.freedesktop.portal.OpenURI";
+constexpr char kRequestInterface[] = "org.freedesktop.portal.Request";
 
-/// No parent window, no options.
-GVariant* Request(const std::string& url) {
-  return g_variant_new("(ssa{sv})", "", url.c_str(), nullptr);
+/// Part of an object path, which has no "-". Nobody else can guess it and ask
+/// for the same one.
+std::string NewToken() {
+  std::string token = "velmohelp_" + Text(TextPtr(g_uuid_string_random()));
+  std::replace(token.begin(), token.end(), '-', '_');
+  return token;
 }
+
+/// The path of a request before it is made, as the portal documents it.
+std::string HandleOf(GDBusConnection* bus, const std::string& token) {
+  std::string sender = g_dbus_connection_get_unique_name(bus) + 1;
+  std::replace(sender.begin(), sender.end(), '.', '_');
+  return std::string(kObjectPath) + "/request/" + sender + "/" + token;
+}
+
+GVariant* Options(const std::string& token) {
+  GVariantBuilder options;
+  g_variant_builder_init(&options, G_VARIANT_TYPE_VARDICT);
+  g_variant_builder_add(&options, "{sv}", "handle_token",
+                        g_variant_new_string(token.c_str()));
+  return g_variant_builder_end(&options);
+}
+
+bool IsFile(const std::string& url) {
+  const char* scheme = g_uri_peek_scheme(url.c_str());
+  return scheme != nullptr && std::string(scheme) == "file";
+}
+
+/// The file at a file: URL; no descriptor when it is not on this machine.
+Descriptor OpenFileAt(const std::string& url) {
+  const std::string host = HostOfUri(url).value_or("");
+  if (!host.empty() && host != "localhost") return {};
+  return OpenRegularFile(Unescaped(PathOfUri(url)));
+}
+
+/// Null when the descriptor table is full.
+ObjectPtr<GUnixFDList> ListOf(const Descriptor& file) {
+  ObjectPtr<GUnixFDList> list(g_unix_fd_list_new());
+  if (g_unix_fd_list_append(list.get(), file.number(), nullptr) != 0) return {};
+  return list;
+}
+
+gboolean OnTimeout(gpointer timed_out) {
+  *static_cast<bool*>(timed_out) = true;
+  return G_SOURCE_REMOVE;
+}
+
+/// A timer of a context, for as long as this object exists.
+class Timer {
+ public:
+  Timer(GMainContext* context, std::chrono::milliseconds timeout)
+      : source_(g_timeout_source_new(static_cast<guint>(timeout.count()))) {
+    g_source_set_callback(source_, &OnTimeout, &timed_out_, nullptr);
+    g_source_attach(source_, context);
+  }
+  Timer(const Timer&) = delete;
+  Timer& operator=(const Timer&) = delete;
+  ~Timer() {
+    g_source_destroy(source_);
+    g_source_unref(source_);
+  }
+
+  bool timed_out() const { return timed_out_; }
+
+ private:
+  GSource* source_;
+  bool timed_out_ = false;
+};
 
 }  // namespace
 
@@ -22,16 +90,109 @@ bool IsInSandbox() {
   return g_file_test("/.flatpak-info", G_FILE_TEST_EXISTS) != 0;
 }
 
-bool OpenThroughPortal(const std::string& url) {
-  const ObjectPtr<GDBusConnection> bus(
-      g_bus_get_sync(G_BUS_TYPE_SESSION, nullptr, nullptr));
-  if (!bus) return false;
-  GVariant* reply = g_dbus_connection_call_sync(
-      bus.get(), kBusName, kObjectPath, kInterface, "OpenURI", Request(url),
-      nullptr, G_DBUS_CALL_FLAGS_NONE, -1, nullptr, nullptr);
-  if (reply == nullptr) return false;
-  g_variant_unref(reply);
-  return true;
+PortalRequest::PortalRequest(const std::string& url)
+    : context_(g_main_context_new()), token_(NewToken()) {
+  g_main_context_push_thread_default(context_.get());
+  Connect();
+  if (bus_) {
+    Send(url);
+  } else {
+    outcome_ = PortalOutcome::kNotOpened;
+  }
+}
+
+PortalRequest::~PortalRequest() {
+  if (bus_) g_dbus_connection_close_sync(bus_.get(), nullptr, nullptr);
+  g_main_context_pop_thread_default(context_.get());
+}
+
+PortalOutcome PortalRequest::Await(std::chrono::milliseconds timeout) {
+  const Timer timer(context_.get(), timeout);
+  while (outcome_ == PortalOutcome::kPending && !timer.timed_out()) {
+    g_main_context_iteration(context_.get(), TRUE);
+  }
+  return outcome_;
+}
+
+/// Not the connection that GIO shares: that one ends the program when the bus
+/// goes away.
+void PortalRequest::Connect() {
+  const TextPtr address(
+      g_dbus_address_get_for_bus_sync(G_BUS_TYPE_SESSION, nullptr, nullptr));
+  if (!address) return;
+  constexpr auto kFlags = static_cast<GDBusConnectionFlags>(
+      G_DBUS_CONNECTION_FLAGS_AUTHENTICATION_CLIENT |
+      G_DBUS_CONNECTION_FLAGS_MESSAGE_BUS_CONNECTION);
+  bus_.reset(g_dbus_connection_new_for_address_sync(address.get(), kFlags,
+                                                    nullptr, nullptr, nullptr));
+  if (!bus_) return;
+  const auto on_closed =
+      +[](GDBusConnection*, gboolean, GError*, gpointer outcome) {
+        *static_cast<PortalOutcome*>(outcome) = PortalOutcome::kNotOpened;
+      };
+  g_signal_connect(bus_.get(), "closed", G_CALLBACK(on_closed), &outcome_);
+}
+
+void PortalRequest::Send(const std::string& url) {
+  Subscribe(HandleOf(bus_.get(), token_));
+  if (!IsFile(url)) {
+    Call("OpenURI",
+         g_variant_new("(ss@a{sv})", "", url.c_str(), Options(token_)),
+         nullptr);
+    return;
+  }
+  const Descriptor file = OpenFileAt(url);
+  const auto files = file ? ListOf(file) : nullptr;
+  if (!files) {
+    outcome_ = PortalOutcome::kNotOpened;
+    return;
+  }
+  // The first descriptor of the list.
+  Call("OpenFile", g_variant_new("(sh@a{sv})", "", 0, Options(token_)),
+       files.get());
+}
+
+void PortalRequest::Call(const char* method, GVariant* arguments,
+                         GUnixFDList* files) {
+  const auto on_reply = +[](GObject* bus, GAsyncResult* result, gpointer self) {
+    GVariant* reply = g_dbus_connection_call_with_unix_fd_list_finish(
+        G_DBUS_CONNECTION(bus), nullptr, result, nullptr);
+    static_cast<PortalRequest*>(self)->OnReply(reply);
+    if (reply != nullptr) g_variant_unref(reply);
+  };
+  g_dbus_connection_call_with_unix_fd_list(
+      bus_.get(), kBusName, kObjectPath, kInterface, method, arguments,
+      G_VARIANT_TYPE("(o)"), G_DBUS_CALL_FLAGS_NONE, G_MAXINT, files, nullptr,
+      on_reply, this);
+}
+
+void PortalRequest::Subscribe(const std::string& handle) {
+  const auto on_response =
+      +[](GDBusConnection*, const char*, const char*, const char*, const char*,
+          GVariant* arguments, gpointer outcome) {
+        guint32 response = 1;
+        if (g_variant_is_of_type(arguments, G_VARIANT_TYPE("(ua{sv})")) != 0) {
+          g_variant_get_child(arguments, 0, "u", &response);
+        }
+        *static_cast<PortalOutcome*>(outcome) =
+            response == 0 ? PortalOutcome::kOpened : PortalOutcome::kNotOpened;
+      };
+  handle_ = handle;
+  g_dbus_connection_signal_subscribe(
+      bus_.get(), kBusName, kRequestInterface, "Response", handle.c_str(),
+      nullptr, G_DBUS_SIGNAL_FLAGS_NONE, on_response, &outcome_, nullptr);
+}
+
+/// Null for an error. Portals before 0.9 choose the request's path themselves.
+void PortalRequest::OnReply(GVariant* reply) {
+  if (outcome_ != PortalOutcome::kPending) return;
+  if (reply == nullptr) {
+    outcome_ = PortalOutcome::kNotOpened;
+    return;
+  }
+  const char* handle = nullptr;
+  g_variant_get(reply, "(&o)", &handle);
+  if (handle_ != handle) Subscribe(handle);
 }
 
 }  // namespace velmohelp

@@ -1,90 +1,176 @@
 // The browser of a sandbox, with a session bus and a portal of the test's own.
-#include <gio/gio.h>
-#include <gtest/gtest.h>
+#include "tests/support/portal.h"
 
-#include <future>
-#include <thread>
+#include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include "platform/linux/helpers/browser_portal.h"
-#include "platform/linux/helpers/gobject_ptr.h"
+#include "tests/support/temporary_directory.h"
+#include "tests/support/sentence.h"
 
 namespace velmohelp {
 namespace {
 
-constexpr char kIntrospection[] =
-    "<node><interface name='org.freedesktop.portal.OpenURI'>"
-    "<method name='OpenURI'><arg type='s' direction='in'/>"
-    "<arg type='s' direction='in'/><arg type='a{sv}' direction='in'/>"
-    "<arg type='o' direction='out'/></method></interface></node>";
+using std::chrono::milliseconds;
+using testing::PortalBehaviour;
+using testing::PortalDouble;
 
-void OnCall(GDBusConnection*, const char*, const char*, const char*,
-            const char*, GVariant* parameters, GDBusMethodInvocation* call,
-            gpointer opened) {
-  const char* url = nullptr;
-  g_variant_get_child(parameters, 1, "&s", &url);
-  if (std::string(url).starts_with("file:")) {
-    g_dbus_method_invocation_return_dbus_error(call, "org.example.No", "no");
-    return;
-  }
-  *static_cast<std::string*>(opened) = url;
-  g_dbus_method_invocation_return_value(call, g_variant_new("(o)", "/request"));
-}
+constexpr char kUrl[] = "http://localhost/a%20b?c=d&e=f#g";
 
-class Portal : public ::testing::Test {
- protected:
-  void SetUp() override {
-    bus_.reset(g_test_dbus_new(G_TEST_DBUS_NONE));
-    g_test_dbus_up(bus_.get());
-  }
-  void TearDown() override { g_test_dbus_down(bus_.get()); }
+/// Much longer than any response takes.
+constexpr std::chrono::minutes kLong(1);
 
-  /// Runs the portal on this thread while another one uses it.
-  bool OpenWithPortal(const std::string& url) {
-    connection_.reset(g_bus_get_sync(G_BUS_TYPE_SESSION, nullptr, nullptr));
-    Register();
-    auto answer =
-        std::async(std::launch::async, [&] { return OpenThroughPortal(url); });
-    while (answer.wait_for(std::chrono::seconds(0)) !=
-           std::future_status::ready) {
-      g_main_context_iteration(nullptr, FALSE);
-    }
-    connection_.reset();
-    return answer.get();
-  }
-
-  const std::string& opened() const { return opened_; }
-
- private:
-  void Register() {
-    GDBusNodeInfo* node = g_dbus_node_info_new_for_xml(kIntrospection, nullptr);
-    static const GDBusInterfaceVTable kTable = {&OnCall, nullptr, nullptr, {}};
-    g_dbus_connection_register_object(
-        connection_.get(), "/org/freedesktop/portal/desktop",
-        node->interfaces[0], &kTable, &opened_, nullptr, nullptr);
-    g_dbus_node_info_unref(node);
-    GVariant* reply = g_dbus_connection_call_sync(
-        connection_.get(), "org.freedesktop.DBus", "/org/freedesktop/DBus",
-        "org.freedesktop.DBus", "RequestName",
-        g_variant_new("(su)", "org.freedesktop.portal.Desktop", 0), nullptr,
-        G_DBUS_CALL_FLAGS_NONE, -1, nullptr, nullptr);
-    if (reply != nullptr) g_variant_unref(reply);
-  }
-
-  ObjectPtr<GTestDBus> bus_;
-  ObjectPtr<GDBusConnection> connection_;
-  std::string opened_;
+struct ResponseRow {
+  const char* sentence;
+  PortalBehaviour behaviour;
+  PortalOutcome outcome;
 };
 
-TEST_F(Portal, IsAskedForTheUrlAsItStands) {
-  EXPECT_TRUE(OpenWithPortal("http://localhost/a%20b?c=d#e"));
-  EXPECT_EQ(opened(), "http://localhost/a%20b?c=d#e");
+class Response : public ::testing::TestWithParam<ResponseRow> {};
+
+TEST_P(Response, DecidesTheOutcome) {
+  const testing::PrivateBus bus;
+  const PortalDouble portal(GetParam().behaviour);
+  PortalRequest request(kUrl);
+  EXPECT_EQ(request.Await(kLong), GetParam().outcome);
+  EXPECT_EQ(portal.method(), "OpenURI");
+  EXPECT_EQ(portal.target(), kUrl);
 }
 
-TEST_F(Portal, MayRefuse) {
-  EXPECT_FALSE(OpenWithPortal("file:///tmp/page.html"));
+INSTANTIATE_TEST_SUITE_P(
+    Rows, Response,
+    ::testing::Values(
+        ResponseRow{.sentence = "success",
+                    .behaviour = {},
+                    .outcome = PortalOutcome::kOpened},
+        ResponseRow{.sentence = "success before the reply",
+                    .behaviour = {.responds_first = true},
+                    .outcome = PortalOutcome::kOpened},
+        ResponseRow{.sentence = "the person cancelled",
+                    .behaviour = {.response = 1},
+                    .outcome = PortalOutcome::kNotOpened},
+        ResponseRow{.sentence = "ended in some other way",
+                    .behaviour = {.response = 2},
+                    .outcome = PortalOutcome::kNotOpened},
+        ResponseRow{.sentence = "cancelled before the reply",
+                    .behaviour = {.response = 1, .responds_first = true},
+                    .outcome = PortalOutcome::kNotOpened},
+        ResponseRow{.sentence = "a refused call",
+                    .behaviour = {.fails = true},
+                    .outcome = PortalOutcome::kNotOpened},
+        ResponseRow{.sentence = "another client of the bus is not believed",
+                    .behaviour = {.response = 2, .forged = true},
+                    .outcome = PortalOutcome::kNotOpened}),
+    testing::SentenceOf());
+
+struct ChoosingRow {
+  const char* sentence;
+  PortalBehaviour behaviour;
+};
+
+class Choosing : public ::testing::TestWithParam<ChoosingRow> {};
+
+TEST_P(Choosing, KeepsTheRequestPendingAndItsCallerOnTheBus) {
+  const testing::PrivateBus bus;
+  PortalDouble portal(GetParam().behaviour);
+  PortalRequest request(kUrl);
+  portal.AwaitCall();
+  EXPECT_EQ(request.Await(milliseconds(0)), PortalOutcome::kPending);
+  EXPECT_TRUE(portal.caller_is_on_the_bus());
+  // The subscription to a path of the portal's own follows its reply.
+  do {
+    portal.Choose();
+  } while (request.Await(milliseconds(20)) == PortalOutcome::kPending);
+  EXPECT_EQ(request.Await(kLong), PortalOutcome::kOpened);
 }
 
-TEST_F(Portal, MayBeMissing) { EXPECT_FALSE(OpenThroughPortal("http://x/")); }
+INSTANTIATE_TEST_SUITE_P(
+    Rows, Choosing,
+    ::testing::Values(
+        ChoosingRow{.sentence = "with a request at the documented path",
+                    .behaviour = {.response = {}}},
+        ChoosingRow{.sentence = "with a request at a path of the portal's own",
+                    .behaviour = {.response = {}, .own_handle = true}}),
+    testing::SentenceOf());
+
+TEST(PortalRequest, LeavesTheBusAtItsEnd) {
+  const testing::PrivateBus bus;
+  PortalDouble portal({.response = {}});
+  {
+    PortalRequest request(kUrl);
+    portal.AwaitCall();
+  }
+  EXPECT_FALSE(portal.caller_is_on_the_bus());
+}
+
+TEST(PortalRequest, EndsWithTheBus) {
+  std::optional<testing::PrivateBus> bus(std::in_place);
+  std::optional<PortalDouble> portal(std::in_place,
+                                     PortalBehaviour{.response = {}});
+  PortalRequest request(kUrl);
+  portal->AwaitCall();
+  portal.reset();
+  bus.reset();
+  EXPECT_EQ(request.Await(kLong), PortalOutcome::kNotOpened);
+}
+
+TEST(PortalRequest, NeedsAPortal) {
+  const testing::PrivateBus bus;
+  EXPECT_EQ(PortalRequest(kUrl).Await(kLong), PortalOutcome::kNotOpened);
+}
+
+TEST(PortalRequest, NeedsABus) {
+  setenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nonexistent", 1);
+  EXPECT_EQ(PortalRequest(kUrl).Await(kLong), PortalOutcome::kNotOpened);
+}
+
+class LocalPage : public ::testing::Test {
+ protected:
+  PortalOutcome Open(const std::string& url) {
+    return PortalRequest(url).Await(kLong);
+  }
+  /// The folder's path has a space in it.
+  std::string Url(const std::string& name) const {
+    std::string url = "file://" + directory_ / name;
+    url.replace(url.find(' '), 1, "%20");
+    url.replace(url.find(' '), 1, "%20");
+    return url;
+  }
+  const testing::TemporaryDirectory& directory() const { return directory_; }
+  const PortalDouble& portal() const { return portal_; }
+
+ private:
+  testing::PrivateBus bus_;
+  PortalDouble portal_{{}};
+  testing::TemporaryDirectory directory_;
+};
+
+TEST_F(LocalPage, IsHandedOverAsADescriptorWithoutItsQuery) {
+  const std::string page = directory().Write("page.html", "a page");
+  EXPECT_EQ(Open(Url("page.html?nameAnchor=top#x")), PortalOutcome::kOpened);
+  EXPECT_EQ(portal().method(), "OpenFile");
+  EXPECT_EQ(portal().target(), page);
+}
+
+TEST_F(LocalPage, MayNameThisMachine) {
+  const std::string page = directory().Write("page.html", "a page");
+  EXPECT_EQ(Open("FILE://localhost" + Url("page.html").substr(7)),
+            PortalOutcome::kOpened);
+  EXPECT_EQ(portal().target(), page);
+}
+
+TEST_F(LocalPage, IsARegularFileOfThisMachine) {
+  directory().Write("page.html", "a page");
+  directory().MakeDirectory("folder");
+  ASSERT_EQ(mkfifo((directory() / "pipe").c_str(), S_IRWXU), 0);
+  const std::string page = Url("page.html");
+  for (const std::string& bad :
+       {Url("missing.html"), Url("folder"), Url("pipe"), page + "%00",
+        "file://elsewhere" + page.substr(7), std::string("file:///dev/null")}) {
+    EXPECT_EQ(Open(bad), PortalOutcome::kNotOpened) << bad;
+  }
+  EXPECT_EQ(portal().method(), "");
+}
 
 }  // namespace
 }  // namespace velmohelp

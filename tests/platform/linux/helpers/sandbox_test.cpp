@@ -1,0 +1,76 @@
+// Opening URLs from inside a Flatpak sandbox, with the helper of this build and
+// a portal of the test's own.
+#include <gtest/gtest.h>
+
+#include "platform/linux/linux_machine.h"
+#include "tests/support/children.h"
+#include "tests/support/portal.h"
+#include "tests/support/temporary_directory.h"
+#include "tests/support/sentence.h"
+#include "tests/system/own_machine.h"
+
+namespace velmohelp {
+namespace {
+
+using testing::PortalDouble;
+
+constexpr char kUrl[] = "http://localhost/a?b=c&d=e";
+
+/// The file system of a copy of this process has the file by which a Flatpak
+/// sandbox is known.
+class Sandbox : public ::testing::Test {
+ protected:
+  Sandbox() {
+    directory_.MakeDirectory("Library");
+    directory_.MakeDirectory("velmo");
+    directory_.Write("hosts", "127.0.0.1 localhost\n");
+    directory_.Write("resolv.conf", "");
+  }
+  void SetUp() override {
+    if (!testing::InACopy([&] { return Enter(); })) {
+      GTEST_SKIP() << "this system lets the test make no file system";
+    }
+  }
+
+  bool Opens(const std::string& url) {
+    return testing::InACopy([&] {
+      return Enter() && LinuxMachine(VELMO_TEST_HELPERS).OpenInBrowser(url);
+    });
+  }
+
+ private:
+  bool Enter() {
+    return testing::EnterOwnFiles(directory_.path()) &&
+           std::ofstream("/.flatpak-info").is_open();
+  }
+
+  testing::TemporaryDirectory directory_;
+  testing::PrivateBus bus_;
+};
+
+TEST_F(Sandbox, OpensWhatThePortalOpens) {
+  const PortalDouble portal({});
+  EXPECT_TRUE(Opens(kUrl));
+  EXPECT_EQ(portal.target(), kUrl);
+}
+
+TEST_F(Sandbox, OpensNothingThatThePortalRefuses) {
+  const PortalDouble portal({.response = 2});
+  EXPECT_FALSE(Opens(kUrl));
+  EXPECT_EQ(portal.target(), kUrl);
+}
+
+TEST_F(Sandbox, OpensNothingWithoutAPortal) { EXPECT_FALSE(Opens(kUrl)); }
+
+/// The host gets its answer while the dialog is open. The helper stays on the
+/// bus until the person has chosen.
+TEST_F(Sandbox, HasOpenedNothingWhileThePersonChooses) {
+  PortalDouble portal({.response = {}});
+  EXPECT_FALSE(Opens(kUrl));
+  EXPECT_TRUE(portal.caller_is_on_the_bus());
+  portal.Choose();
+  while (portal.caller_is_on_the_bus()) std::this_thread::yield();
+}
+
+}  // namespace
+}  // namespace velmohelp
