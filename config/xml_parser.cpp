@@ -1,39 +1,35 @@
 #include <velmohelp/config.h>
 
 #include <algorithm>
-#include <array>
+#include <ios>
 
 #include "config/key_scanner.h"
-#include "util/input_file.h"
+#include "platform/open_file.h"
+#include "util/file_text.h"
 
 namespace {
 
-/// A file is taken in pieces of this size; a zero byte drops the rest of its
-/// piece.
+/// A zero byte drops the rest of its piece of this size.
 constexpr std::size_t kPieceSize = 1023;
-constexpr std::size_t kPiecesAtOnce = 64;
 
-void AppendUpToZero(std::string& text, const char* piece, std::size_t size) {
-  const std::string_view bytes(piece, size);
-  text += bytes.substr(0, bytes.find('\0'));
+std::string WithoutZeroes(std::string_view bytes) {
+  std::string text;
+  text.reserve(bytes.size());
+  for (; !bytes.empty();
+       bytes.remove_prefix(std::min(kPieceSize, bytes.size()))) {
+    const std::string_view piece = bytes.substr(0, kPieceSize);
+    text += piece.substr(0, piece.find('\0'));
+  }
+  return text;
 }
 
-void AppendPieces(std::string& text, const char* bytes, std::size_t size) {
-  for (std::size_t at = 0; at < size; at += kPieceSize) {
-    AppendUpToZero(text, bytes + at, std::min(kPieceSize, size - at));
+/// Half a file says nothing, and neither does one that grows beyond its limit.
+bool ReadWhole(velmohelp::InputFile& file, velmohelp::FileText& text) {
+  try {
+    return text.AppendRest(file);
+  } catch (const std::ios_base::failure&) {
+    return false;
   }
-}
-
-/// False when the file is too long to be read to its end.
-bool ReadPieces(std::ifstream& file, std::string& text) {
-  std::array<char, kPieceSize * kPiecesAtOnce> bytes;
-  for (std::size_t at = 0; at <= velmohelp::kLongestFile; at += bytes.size()) {
-    const std::size_t size =
-        velmohelp::ReadPiece(file, bytes.data(), bytes.size());
-    AppendPieces(text, bytes.data(), size);
-    if (size < bytes.size()) return true;
-  }
-  return false;
 }
 
 }  // namespace
@@ -42,17 +38,12 @@ XMLParser::XMLParser() = default;
 
 bool XMLParser::ReadFileToBuffer(std::string path) {
   buffer_.clear();
-  std::size_t size = 0;
-  std::ifstream file = velmohelp::OpenInputFile(path, &size);
-  if (!file.is_open()) return false;
-  buffer_.reserve(size);
-  try {
-    if (ReadPieces(file, buffer_)) return true;
-  } catch (const std::ios_base::failure&) {
-    // Half a file says nothing, as one that is too long does.
-  }
-  buffer_.clear();
-  return false;
+  const auto file =
+      velmohelp::OpenInputFile(path, velmohelp::kSettingsFileLimit);
+  velmohelp::FileText text;
+  if (!file || !ReadWhole(*file, text)) return false;
+  buffer_ = WithoutZeroes(text.bytes());
+  return true;
 }
 
 std::string XMLParser::GetKey(std::string key) const {

@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <cstring>
 
-#include "util/input_file.h"
-
 namespace velmohelp {
 
 void FileText::KeepLast(std::size_t size) {
@@ -20,14 +18,31 @@ void FileText::Reserve(std::size_t size) {
   capacity_ = size;
 }
 
-bool FileText::AppendPiece(std::istream& file) {
-  if (capacity_ - size_ < kPieceSize) {
-    Reserve(std::max(2 * capacity_, 2 * kPieceSize));
+/// The first time for little, as most files are cut into lines and dropped.
+/// What does not fit then is one long line: the room for all of the file is
+/// taken at once, and costs nothing until it is read into.
+void FileText::Grow(const InputFile& file) {
+  const std::size_t doubled = std::max(2 * capacity_, 2 * kPieceSize);
+  const std::size_t whole = capacity_ == 0 ? 0 : file.size() + kPieceSize;
+  Reserve(std::max(doubled, whole));
+}
+
+bool FileText::AppendPiece(InputFile& file) {
+  if (capacity_ - size_ < kPieceSize) Grow(file);
+  const std::size_t end = size_ + kPieceSize;
+  while (size_ < end) {
+    const std::size_t got = file.Read(room_.get() + size_, end - size_);
+    if (got == 0) return false;
+    size_ += got;
+    read_ += got;
   }
-  const std::size_t size = ReadPiece(file, room_.get() + size_, kPieceSize);
-  size_ += size;
-  read_ += size;
-  return size == kPieceSize && read_ <= kLongestFile;
+  return read_ <= file.limit();
+}
+
+bool FileText::AppendRest(InputFile& file) {
+  Reserve(size_ + file.size() + kPieceSize);
+  while (AppendPiece(file)) continue;
+  return read_ <= file.limit();
 }
 
 }  // namespace velmohelp

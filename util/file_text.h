@@ -3,20 +3,21 @@
 #define UTIL_FILE_TEXT_H_
 
 #include <cstddef>
-#include <istream>
 #include <memory>
 #include <string_view>
 
+#include "util/input_file.h"
+
 namespace velmohelp {
 
-/// Takes files in piece by piece. Its memory is neither cleared before it is
-/// read into nor given back between two files: the first touch of memory costs
-/// more than reading into it.
+/// A buffer that files are read into, piece by piece. Its memory is not cleared
+/// before it is read into, and is kept for the next file: the first touch of
+/// memory costs more than reading into it.
 class FileText {
  public:
   static constexpr std::size_t kPieceSize = 32768;
 
-  /// Valid until anything else is called.
+  /// Valid until the next call of any other function.
   std::string_view bytes() const { return {room_.get(), size_}; }
 
   /// Drops all, for another file.
@@ -32,15 +33,21 @@ class FileText {
   void Reserve(std::size_t size);
 
   /// Appends the file's next piece; false when the file ends with it, or has
-  /// become longer than kLongestFile: one that grows without an end has its
-  /// end there. What is thrown when the file breaks leaves the pieces before.
-  bool AppendPiece(std::istream& file);
+  /// grown beyond its limit. On a read error, throws std::ios_base::failure and
+  /// keeps every byte that was read before it.
+  bool AppendPiece(InputFile& file);
+
+  /// Appends the rest of the file; false when it has grown beyond its limit.
+  /// On a read error as AppendPiece.
+  bool AppendRest(InputFile& file);
 
  private:
+  void Grow(const InputFile& file);
+
   std::unique_ptr<char[]> room_;
   std::size_t capacity_ = 0;
   std::size_t size_ = 0;
-  /// How many bytes of the file have come, those included that were dropped.
+  /// How many bytes of the file were read, dropped ones included.
   std::size_t read_ = 0;
 };
 

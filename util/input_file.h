@@ -1,29 +1,41 @@
-// Files of configuration and content, read with standard C++ alone.
+// A file of configuration or content, open for reading.
 #ifndef UTIL_INPUT_FILE_H_
 #define UTIL_INPUT_FILE_H_
 
 #include <cstddef>
-#include <fstream>
-#include <string>
 
 namespace velmohelp {
 
-/// Whoever reads a file to its end gives up behind this length: some files have
-/// no end, and one that grows as it is read would take all of the host's time
-/// and memory.
-inline constexpr std::size_t kLongestFile = 0x7FFFFFFF;
+/// A longer file is not read: the host would wait for it, and its memory with
+/// it. Configuration, preferences, base URLs; and help maps.
+inline constexpr std::size_t kSettingsFileLimit = 16U << 20U;
+inline constexpr std::size_t kHelpMapLimit = 256U << 20U;
 
-/// Opens a file for binary reading; a hard read error will raise
-/// std::ios_base::failure. The stream is not open when name is empty, nothing
-/// can be opened there, a pipe or a device lies there (opening or reading one
-/// could block the host for ever), or a file that is longer than kLongestFile.
-/// size: gets the file's size, 0 where nobody knows. It is a hint: text that
-/// grows as it is read is copied, and its memory touched, many times.
-std::ifstream OpenInputFile(const std::string& name,
-                            std::size_t* size = nullptr);
+/// Closed at its destruction. platform/open_file.h opens one.
+class InputFile {
+ public:
+  InputFile(const InputFile&) = delete;
+  InputFile& operator=(const InputFile&) = delete;
+  virtual ~InputFile() = default;
 
-/// Reads up to size bytes; the number read is below size only at the end.
-std::size_t ReadPiece(std::istream& file, char* buffer, std::size_t size);
+  /// The size when it was opened, 0 when the system does not tell. A hint: the
+  /// file may grow.
+  std::size_t size() const { return size_; }
+  /// Whoever reads to the end gives up after so many bytes: some files have no
+  /// end.
+  std::size_t limit() const { return limit_; }
+
+  /// Reads up to size bytes, size not 0; returns how many, 0 at the end. Throws
+  /// std::ios_base::failure on a read error.
+  virtual std::size_t Read(char* buffer, std::size_t size) = 0;
+
+ protected:
+  InputFile(std::size_t size, std::size_t limit) : size_(size), limit_(limit) {}
+
+ private:
+  std::size_t size_;
+  std::size_t limit_;
+};
 
 }  // namespace velmohelp
 

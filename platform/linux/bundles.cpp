@@ -2,7 +2,6 @@
 
 #include <velmohelp_locations.h>
 
-#include <string_view>
 #include <vector>
 
 #include "platform/linux/files.h"
@@ -11,13 +10,8 @@
 namespace velmohelp {
 namespace {
 
-std::string LastComponent(std::string_view path) {
-  while (path.ends_with('/')) path.remove_suffix(1);
-  return std::string(path.substr(path.rfind('/') + 1));
-}
-
 std::string ApplicationName(const std::string& directory) {
-  std::string name = LastComponent(directory);
+  std::string name = Basename(directory);
   if (name.ends_with(".app")) name.resize(name.size() - 4);
   return name;
 }
@@ -26,7 +20,7 @@ std::vector<std::string> BundleFolders() {
   std::vector<std::string> folders;
   if (const auto own = OwnFolder()) folders.push_back(*own);
   if (const auto host = HostExecutable()) {
-    folders.push_back(FolderOf(*host) + "/../Frameworks");
+    folders.push_back(Dirname(*host) + "/../Frameworks");
   }
   folders.emplace_back(kFrameworksDir);
   return folders;
@@ -35,8 +29,8 @@ std::vector<std::string> BundleFolders() {
 }  // namespace
 
 std::optional<std::string> ResourcesOf(const std::string& executable) {
-  const std::string folder = FolderOf(executable);
-  const std::string name = LastComponent(executable) + ".resources";
+  const std::string folder = Dirname(executable);
+  const std::string name = Basename(executable) + ".resources";
   return FirstDirectory({folder + "/" + name, folder + "/../share/" + name});
 }
 

@@ -16,9 +16,11 @@ std::optional<struct stat> Status(const std::string& path) {
   return status;
 }
 
-bool IsRegular(const Descriptor& file) {
+/// S_IFREG, S_IFDIR and so on; 0 when there is no file.
+mode_t TypeOf(const Descriptor& file) {
   struct stat status = {};
-  return fstat(file.number(), &status) == 0 && S_ISREG(status.st_mode);
+  if (!file || fstat(file.number(), &status) != 0) return 0;
+  return status.st_mode & S_IFMT;
 }
 
 }  // namespace
@@ -48,32 +50,30 @@ std::optional<std::string> FirstDirectory(
   return std::nullopt;
 }
 
-Descriptor OpenRegularFile(const std::string& path) {
-  // Opening a pipe would wait for its writer, and opening a terminal could
-  // make it the host's.
+Descriptor OpenForReading(const std::string& path) {
   constexpr int kFlags = O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
+  return Descriptor(Retry([&] { return open(path.c_str(), kFlags); }));
+}
+
+bool IsRegularFile(const Descriptor& file) { return TypeOf(file) == S_IFREG; }
+
+bool IsDirectory(const Descriptor& file) { return TypeOf(file) == S_IFDIR; }
+
+Descriptor OpenRegularFile(const std::string& path) {
   if (path.find('\0') != std::string::npos) return {};
-  Descriptor file(Retry([&] { return open(path.c_str(), kFlags); }));
-  if (!file || !IsRegular(file)) return {};
+  Descriptor file = OpenForReading(path);
+  if (!IsRegularFile(file)) return {};
   return file;
 }
 
-std::optional<std::string> ReadAll(const Descriptor& file, std::size_t limit) {
-  char piece[4096];
-  std::string text;
-  while (text.size() <= limit) {
-    const ssize_t got =
-        Retry([&] { return read(file.number(), piece, sizeof piece); });
-    if (got < 0) return std::nullopt;
-    if (got == 0) return text;
-    text.append(piece, static_cast<std::size_t>(got));
-  }
-  return std::nullopt;
-}
-
-std::string FolderOf(const std::string& path) {
+std::string Dirname(const std::string& path) {
   const std::size_t slash = path.rfind('/');
   return slash == 0 ? "/" : path.substr(0, slash);
+}
+
+std::string Basename(std::string_view path) {
+  while (path.ends_with('/')) path.remove_suffix(1);
+  return std::string(path.substr(path.rfind('/') + 1));
 }
 
 }  // namespace velmohelp

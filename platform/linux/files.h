@@ -1,10 +1,11 @@
-// What lies in the file system.
+// Files and directories.
 #ifndef PLATFORM_LINUX_FILES_H_
 #define PLATFORM_LINUX_FILES_H_
 
 #include <cstddef>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "platform/linux/descriptor.h"
@@ -12,28 +13,39 @@
 
 namespace velmohelp {
 
-/// What exists at path; a link counts as what it names. Nothing exists at a
-/// path that holds a NUL: the system would read another, shorter path.
+/// What exists at path; a link counts as its target. Nothing exists at a path
+/// with a NUL in it: the system would take a shorter path, that of another
+/// file.
 std::optional<FileEntry> FindEntry(const std::string& path);
 
 bool IsDirectory(const std::string& path);
 
-/// A regular file that this process may execute.
+/// A regular file that this process may execute, by its effective ids.
 bool IsExecutable(const std::string& path);
 
 /// The first of the paths that is a directory.
 std::optional<std::string> FirstDirectory(
     const std::vector<std::string>& paths);
 
-/// Opens a regular file for reading; no descriptor for anything else. Never
-/// blocks, whatever lies there.
+/// Opens whatever exists at path; no descriptor when that fails. Never blocks,
+/// as opening a pipe would until it has a writer, and never makes a terminal
+/// the host's.
+Descriptor OpenForReading(const std::string& path);
+
+/// What an open file is: nothing can take its place after the question. False
+/// for no descriptor.
+bool IsRegularFile(const Descriptor& file);
+bool IsDirectory(const Descriptor& file);
+
+/// Opens a regular file as OpenForReading does; no descriptor for anything
+/// else.
 Descriptor OpenRegularFile(const std::string& path);
 
-/// All of a file, nullopt when it cannot be read or is longer than limit.
-std::optional<std::string> ReadAll(const Descriptor& file, std::size_t limit);
+/// "/a/b" -> "/a", "/a" -> "/". path: absolute.
+std::string Dirname(const std::string& path);
 
-/// The folder that a path lies in: "/a/b" -> "/a", "/a" -> "/". path: absolute.
-std::string FolderOf(const std::string& path);
+/// "/a/b" -> "b", "/a/b/" -> "b", "/" -> "".
+std::string Basename(std::string_view path);
 
 }  // namespace velmohelp
 

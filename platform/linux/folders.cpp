@@ -5,7 +5,9 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <climits>
 #include <cstdlib>
+#include <filesystem>
 #include <vector>
 
 #include "platform/linux/files.h"
@@ -13,7 +15,9 @@
 namespace velmohelp {
 namespace {
 
-/// The largest entry of a password database that is waited for.
+namespace fs = std::filesystem;
+
+/// No larger entry of the password database is read.
 constexpr std::size_t kPasswordEntryLimit = 1U << 20U;
 
 std::string WithoutFinalSlashes(std::string path) {
@@ -21,10 +25,14 @@ std::string WithoutFinalSlashes(std::string path) {
   return path;
 }
 
+/// nullopt also for a path that no file can have, and in a set-user-ID host:
+/// whoever starts that one must not choose what it reads.
 std::optional<std::string> AbsolutePathIn(const char* variable) {
-  const char* value = std::getenv(variable);
+  const char* value = secure_getenv(variable);
   if (value == nullptr || value[0] != '/') return std::nullopt;
-  return WithoutFinalSlashes(value);
+  const std::string path = value;
+  if (path.size() >= PATH_MAX) return std::nullopt;
+  return WithoutFinalSlashes(path);
 }
 
 std::optional<std::string> HomeInPasswordDatabase() {
@@ -47,11 +55,35 @@ std::optional<std::string> Home() {
   return home ? home : HomeInPasswordDatabase();
 }
 
-bool MakeDirectories(const std::string& path) {
+/// path is the home or below it, as far as the names tell.
+bool IsInHome(const std::string& path) {
+  const auto home = Home();
+  if (!home) return false;
+  const fs::path below = fs::path(path).lexically_normal().lexically_relative(
+      fs::path(*home).lexically_normal());
+  return !below.empty() && *below.begin() != "..";
+}
+
+/// A home that is missing is not mounted yet, or not meant to exist: what is
+/// made in its place would hide it.
+bool MayBeMade(const std::string& path) {
+  return !IsInHome(path) || IsDirectory(*Home());
+}
+
+bool MakeDirectory(const std::string& path) {
   if (IsDirectory(path)) return true;
-  if (path == "/" || !MakeDirectories(FolderOf(path))) return false;
   // Another program may have made it in the meantime.
   return mkdir(path.c_str(), S_IRWXU) == 0 || IsDirectory(path);
+}
+
+/// One directory after the other, from the root on: a path of a thousand names
+/// costs no stack.
+bool MakeDirectories(const std::string& path) {
+  for (std::size_t end = path.find('/', 1); end != std::string::npos;
+       end = path.find('/', end + 1)) {
+    if (!MakeDirectory(path.substr(0, end))) return false;
+  }
+  return MakeDirectory(path);
 }
 
 }  // namespace
@@ -66,7 +98,8 @@ std::optional<std::string> PreferencesFolderPath() {
 std::optional<std::string> PreferencesFolder(bool create) {
   auto path = PreferencesFolderPath();
   if (!path) return std::nullopt;
-  const bool exists = create ? MakeDirectories(*path) : IsDirectory(*path);
+  const bool exists = IsDirectory(*path) ||
+                      (create && MayBeMade(*path) && MakeDirectories(*path));
   return exists ? path : std::nullopt;
 }
 

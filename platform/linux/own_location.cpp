@@ -10,6 +10,7 @@
 #include <memory>
 
 #include "platform/linux/files.h"
+#include "platform/linux/open_file.h"
 
 namespace velmohelp {
 namespace {
@@ -44,8 +45,7 @@ bool Covers(std::string_view line, unsigned long address) {
 }
 
 std::optional<std::string> FileMappedHere(unsigned long address) {
-  const Descriptor file = OpenRegularFile("/proc/self/maps");
-  const auto maps = file ? ReadAll(file, kMapsLimit) : std::nullopt;
+  const auto maps = ReadRegularFile("/proc/self/maps", kMapsLimit);
   return maps ? MappedFile(*maps, address) : std::nullopt;
 }
 
@@ -61,12 +61,12 @@ std::optional<std::string> FindOwnFolder() {
   Dl_info info = {};
   if (dladdr(&here, &info) != 0 && info.dli_fname != nullptr &&
       info.dli_fname[0] == '/') {
-    return FolderOf(RealPath(info.dli_fname));
+    return Dirname(RealPath(info.dli_fname));
   }
   // The host named the file by a relative path, and may have changed its
   // directory since.
   const auto file = FileMappedHere(reinterpret_cast<std::uintptr_t>(&here));
-  return file ? std::optional(FolderOf(*file)) : std::nullopt;
+  return file ? std::optional(Dirname(*file)) : std::nullopt;
 }
 
 }  // namespace

@@ -2,14 +2,13 @@
 
 #include <velmohelp_locations.h>
 
-#include "platform/linux/files.h"
 #include "platform/linux/folders.h"
+#include "platform/linux/open_file.h"
 #include "platform/linux/preference_file.h"
+#include "util/input_file.h"
 
 namespace velmohelp {
 namespace {
-
-constexpr std::size_t kFileLimit = 1U << 20U;
 
 std::optional<std::string> StoreFolder(PreferenceScope scope) {
   if (scope == PreferenceScope::kAnyUserCurrentHost) return kSysconfDir;
@@ -30,9 +29,8 @@ std::optional<std::string> ReadPreference(const std::string& domain,
 std::optional<std::string> ReadPreferenceIn(const std::string& folder,
                                             const std::string& domain,
                                             const std::string& key) {
-  const Descriptor file =
-      OpenRegularFile(folder + "/" + PreferenceFileName(domain));
-  const auto text = file ? ReadAll(file, kFileLimit) : std::nullopt;
+  const auto text = ReadRegularFile(folder + "/" + PreferenceFileName(domain),
+                                    kSettingsFileLimit);
   return text ? PreferenceInText(*text, key) : std::nullopt;
 }
 

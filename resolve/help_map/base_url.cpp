@@ -1,7 +1,7 @@
 #include <velmohelp/resolve.h>
 
+#include "platform/open_file.h"
 #include "resolve/help_map/help_map.h"
-#include "util/input_file.h"
 
 namespace velmohelp {
 namespace {
@@ -9,6 +9,19 @@ namespace {
 /// -1 where text is not found: the rule below counts with it.
 int PositionOf(const char* text, const std::string& in) {
   return static_cast<int>(in.find(text));
+}
+
+/// A read error after the line's end does not matter.
+std::string FirstLine(InputFile& file) {
+  std::string line;
+  char piece[1024];
+  while (line.size() <= file.limit()) {
+    const std::string_view bytes(piece, file.Read(piece, sizeof piece));
+    const std::size_t end = bytes.find_first_of("\r\n");
+    line += bytes.substr(0, end);
+    if (bytes.empty() || end != std::string_view::npos) return line;
+  }
+  return line;
 }
 
 }  // namespace
@@ -31,10 +44,8 @@ std::string WithZoneSeparatorEncoded(std::string base_url) {
 }  // namespace velmohelp
 
 std::string ITEMInternal::GetHelpMapBaseUrl(const std::string& path) {
-  std::string base_url;
-  std::ifstream file = velmohelp::OpenInputFile(path);
-  if (!file.is_open()) return base_url;
-  GetLine(file, base_url);
-  file.close();
-  return velmohelp::WithZoneSeparatorEncoded(std::move(base_url));
+  const auto file =
+      velmohelp::OpenInputFile(path, velmohelp::kSettingsFileLimit);
+  if (!file) return "";
+  return velmohelp::WithZoneSeparatorEncoded(velmohelp::FirstLine(*file));
 }

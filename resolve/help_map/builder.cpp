@@ -1,6 +1,7 @@
 #include "resolve/help_map/builder.h"
 
-#include "resolve/help_map/chunked_lines.h"
+#include <ios>
+
 #include "resolve/help_map/entry_order.h"
 
 namespace velmohelp {
@@ -23,18 +24,22 @@ bool IsSorted(std::string_view lines) {
 
 }  // namespace
 
-/// A sorted file is never in memory as a whole.
-void HelpMapFiller::PutFile(std::istream& file, std::size_t size) {
+void HelpMapFiller::PutFile(InputFile& file) {
   HelpMapLines lines(file);
+  try {
+    PutLines(lines);
+  } catch (const std::ios_base::failure&) {
+    Put(lines.lines());
+    throw;
+  }
+}
+
+/// A sorted file is never in memory as a whole.
+void HelpMapFiller::PutLines(HelpMapLines& lines) {
   std::string_view rest;
   while (rest.empty() && lines.Next()) rest = PutSorted(lines.lines());
   if (rest.empty()) return;
-  try {
-    lines.ReadRest(rest, size);
-  } catch (const std::ios_base::failure&) {
-    PutUnsorted(lines.lines());
-    throw;
-  }
+  lines.ReadRest(rest);
   PutUnsorted(lines.lines());
 }
 
@@ -46,6 +51,7 @@ void HelpMapFiller::Put(std::string_view lines) {
 /// the lines from the one that does. The first lines are looked at before any
 /// is put: a file in no order must not cost the old nodes that it would skip.
 std::string_view HelpMapFiller::PutSorted(std::string_view lines) {
+  if (lines.find('\t') == std::string_view::npos) return {};
   std::string_view last;
   if (last_ != map_.end()) {
     last = last_->first;

@@ -2,11 +2,12 @@
 #ifndef RESOLVE_HELP_MAP_BUILDER_H_
 #define RESOLVE_HELP_MAP_BUILDER_H_
 
-#include <istream>
 #include <string_view>
 
+#include "resolve/help_map/chunked_lines.h"
 #include "resolve/help_map/entry_parser.h"
 #include "resolve/help_map/help_map.h"
+#include "util/input_file.h"
 
 namespace velmohelp {
 
@@ -24,14 +25,14 @@ class HelpMapFiller {
   HelpMapFiller& operator=(const HelpMapFiller&) = delete;
 
   /// Puts the entries of an open file. Throws std::ios_base::failure when it
-  /// breaks; the entries of the whole lines before are put then. size: the
-  /// file's, as far as it is known.
-  void PutFile(std::istream& file, std::size_t size);
+  /// breaks; the entries of the whole lines before it are put then.
+  void PutFile(InputFile& file);
 
   /// Puts entries in any order. Where a key was put before, that entry stays.
   void Put(std::string_view lines);
 
  private:
+  void PutLines(HelpMapLines& lines);
   std::string_view PutSorted(std::string_view lines);
   void PutUnsorted(std::string_view lines);
   void PutBehindLast(const HelpMapEntry& entry);

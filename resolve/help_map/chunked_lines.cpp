@@ -1,5 +1,8 @@
 #include "resolve/help_map/chunked_lines.h"
 
+#include <algorithm>
+#include <ios>
+
 #include "resolve/help_map/entry_parser.h"
 
 namespace velmohelp {
@@ -11,10 +14,10 @@ bool HelpMapLines::Next() {
   return whole_ > 0;
 }
 
-void HelpMapLines::ReadRest(std::string_view rest, std::size_t size) {
+void HelpMapLines::ReadRest(std::string_view rest) {
   text_.KeepLast(text_.bytes().size() - whole_ + rest.size());
   whole_ = rest.size();
-  text_.Reserve(size + FileText::kPieceSize);
+  text_.Reserve(file_.size() + FileText::kPieceSize);
   while (Read()) continue;
 }
 
@@ -22,7 +25,13 @@ void HelpMapLines::ReadRest(std::string_view rest, std::size_t size) {
 /// file.
 bool HelpMapLines::Read() {
   const std::size_t before = text_.bytes().size();
-  const bool more = text_.AppendPiece(file_);
+  bool more = false;
+  try {
+    more = text_.AppendPiece(file_);
+  } catch (const std::ios_base::failure&) {
+    whole_ = std::max(whole_, LinesBeforeError(text_.bytes()).size());
+    throw;
+  }
   const std::size_t in_piece = WholeLines(text_.bytes().substr(before)).size();
   if (in_piece > 0) whole_ = before + in_piece;
   if (!more) whole_ = text_.bytes().size();

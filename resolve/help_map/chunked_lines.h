@@ -2,18 +2,18 @@
 #ifndef RESOLVE_HELP_MAP_CHUNKED_LINES_H_
 #define RESOLVE_HELP_MAP_CHUNKED_LINES_H_
 
-#include <istream>
 #include <string_view>
 
 #include "util/file_text.h"
+#include "util/input_file.h"
 
 namespace velmohelp {
 
-/// Hands out a file's whole lines, some at a time. What breaks the file is
-/// thrown, behind the lines that stand before.
+/// Hands out a file's whole lines, some at a time. A read error is thrown; the
+/// lines read last are then those before the error.
 class HelpMapLines {
  public:
-  explicit HelpMapLines(std::istream& file) : file_(file) {}
+  explicit HelpMapLines(InputFile& file) : file_(file) {}
 
   /// Reads the next lines in place of those before; false behind the last.
   bool Next();
@@ -22,13 +22,12 @@ class HelpMapLines {
   std::string_view lines() const { return text_.bytes().substr(0, whole_); }
 
   /// Reads all that follow. Of the lines read last, those from rest on stay.
-  /// size: the file's, as far as it is known.
-  void ReadRest(std::string_view rest, std::size_t size);
+  void ReadRest(std::string_view rest);
 
  private:
   bool Read();
 
-  std::istream& file_;
+  InputFile& file_;
   FileText text_;
   /// How many of the text's bytes are whole lines.
   std::size_t whole_ = 0;

@@ -1,5 +1,7 @@
 #include "resolve/help_map/entry_parser.h"
 
+#include <cstring>
+
 #include "util/word_scan.h"
 
 namespace velmohelp {
@@ -11,17 +13,25 @@ bool EndsField(char c) { return c == '\t' || EndsLine(c); }
 /// meets in a help map.
 constexpr unsigned char kAboveFieldEnds = '\r' + 1;
 
+/// Marks each byte that ends a field; only the first mark is to be trusted. For
+/// the few words with another low byte before it.
+Word MarkFieldEnds(Word word) {
+  return MarkBelow(word ^ EightTimes('\t'), 1) |
+         MarkBelow(word ^ EightTimes('\n'), 1) |
+         MarkBelow(word ^ EightTimes('\r'), 1);
+}
+
 /// The first byte that ends a field, or end.
 inline const char* FieldEnd(const char* at, const char* end) {
   while (static_cast<std::size_t>(end - at) >= sizeof(Word)) {
-    const Word marks = MarkBelow(LoadWord(at), kAboveFieldEnds);
-    if (marks == 0) {
-      at += sizeof(Word);
-      continue;
+    const Word word = LoadWord(at);
+    const Word low = MarkBelow(word, kAboveFieldEnds);
+    if (low != 0 && EndsField(at[FirstMarked(low)])) {
+      return at + FirstMarked(low);
     }
-    at += FirstMarked(marks);
-    if (EndsField(*at)) return at;
-    ++at;
+    const Word ends = low == 0 ? 0 : MarkFieldEnds(word);
+    if (ends != 0) return at + FirstMarked(ends);
+    at += sizeof(Word);
   }
   while (at != end && !EndsField(*at)) ++at;
   return at;
@@ -34,9 +44,15 @@ std::string_view WholeLines(std::string_view text) {
   return text;
 }
 
+std::string_view LinesBeforeError(std::string_view text) {
+  if (text.ends_with('\r')) text.remove_suffix(1);
+  return WholeLines(text);
+}
+
 bool HelpMapReader::Next(HelpMapEntry& entry) {
   while (at_ != end_) {
     if (TakeLine(entry)) return true;
+    SkipLinesWithoutTab();
   }
   return false;
 }
@@ -55,10 +71,23 @@ std::string_view HelpMapReader::TakeField() {
   return {start, at_};
 }
 
-/// The LF of a CR LF is left to be an empty line, which holds no entry.
 void HelpMapReader::SkipLine() {
   while (at_ != end_ && !EndsLine(*at_)) at_ = FieldEnd(at_ + 1, end_);
-  if (at_ != end_) ++at_;
+  if (at_ == end_) return;
+  const bool is_cr = *at_++ == '\r';
+  if (is_cr && at_ != end_ && *at_ == '\n') ++at_;
+}
+
+/// A line without a TAB has no entry. A file of line feeds alone is skipped as
+/// fast as memchr looks through it.
+void HelpMapReader::SkipLinesWithoutTab() {
+  const auto left = static_cast<std::size_t>(end_ - at_);
+  const auto* tab =
+      left == 0 ? nullptr
+                : static_cast<const char*>(std::memchr(at_, '\t', left));
+  const char* start = tab == nullptr ? end_ : tab;
+  while (tab != nullptr && start != at_ && !EndsLine(start[-1])) --start;
+  at_ = start;
 }
 
 }  // namespace velmohelp

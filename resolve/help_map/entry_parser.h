@@ -18,6 +18,10 @@ constexpr bool EndsLine(char c) { return c == '\n' || c == '\r'; }
 /// The bytes of text up to the end of its last line that has one.
 std::string_view WholeLines(std::string_view text);
 
+/// The whole lines of a text that a read error ends. A line that ends in CR is
+/// not whole yet: whether an LF belongs to it is what could not be read.
+std::string_view LinesBeforeError(std::string_view text);
+
 /// Walks through the entries of a text, which must outlive it.
 class HelpMapReader {
  public:
@@ -33,6 +37,7 @@ class HelpMapReader {
  private:
   std::string_view TakeField();
   void SkipLine();
+  void SkipLinesWithoutTab();
 
   const char* at_;
   const char* end_;

@@ -3,18 +3,19 @@
 #include <velmohelp/resolve.h>
 #include <velmohelp/text.h>
 
+#include <ios>
+
+#include "platform/open_file.h"
 #include "resolve/help_map/builder.h"
 #include "resolve/help_map/entry_parser.h"
-#include "util/input_file.h"
 
 namespace velmohelp {
 namespace {
 
 void Load(const std::string& path, HelpMap& map) {
   HelpMapFiller filler(map);
-  std::size_t size = 0;
-  std::ifstream file = OpenInputFile(path, &size);
-  if (file.is_open()) filler.PutFile(file, size);
+  const auto file = OpenInputFile(path, kHelpMapLimit);
+  if (file) filler.PutFile(*file);
 }
 
 }  // namespace
@@ -26,14 +27,12 @@ void FillHelpMap(std::string_view text, HelpMap& map) {
 bool HelpMapsRead::Read(const std::string& path) {
   text_.Clear();
   was_read_ = true;
-  std::size_t size = 0;
-  std::ifstream file = OpenInputFile(path, &size);
-  if (!file.is_open()) return false;
-  text_.Reserve(size + FileText::kPieceSize);
+  const auto file = OpenInputFile(path, kHelpMapLimit);
+  if (!file) return false;
   try {
-    while (text_.AppendPiece(file)) continue;
+    text_.AppendRest(*file);
   } catch (const std::ios_base::failure&) {
-    text_.KeepFirst(WholeLines(text_.bytes()).size());
+    text_.KeepFirst(LinesBeforeError(text_.bytes()).size());
     throw;
   }
   return true;

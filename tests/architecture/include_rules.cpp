@@ -32,7 +32,8 @@ const std::vector<Layer>& Layers() {
       {"platform/linux/helpers/",
        {"platform/linux/helpers/", "platform/linux/", "platform/", "util/"}},
       {"platform/scripted/", {"platform/scripted/", "platform/", "util/"}},
-      {"platform/unsupported/", {"platform/unsupported/", "platform/"}},
+      {"platform/unsupported/",
+       {"platform/unsupported/", "platform/", "util/"}},
       {"util/", {"util/"}},
   };
   return layers;

@@ -133,10 +133,10 @@ TEST(Parser, ForgetsTheFileBefore) {
   EXPECT_EQ(parser.GetKey("j"), "w");
 }
 
-TEST(Parser, ReadsAHundredMegabytesOfZeroBytesToTheirEnd) {
+TEST(Parser, ReadsTenMegabytesOfZeroBytesToTheirEnd) {
   const TempFolder folder;
   const std::string path = folder.Write("x", "");
-  std::filesystem::resize_file(path, kPiece * 100'000);
+  std::filesystem::resize_file(path, kPiece * 10'000);
   std::ofstream(path, std::ios_base::app) << "k=\"v\"";
   XMLParser parser;
   EXPECT_TRUE(parser.ReadFileToBuffer(path));

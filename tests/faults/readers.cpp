@@ -3,8 +3,9 @@
 #include <velmohelp/config.h>
 #include <velmohelp/resolve.h>
 
-#include "platform/linux/files.h"
+#include "platform/linux/open_file.h"
 #include "platform/linux/preference_file.h"
+#include "util/input_file.h"
 
 namespace velmohelp::testing {
 
@@ -37,8 +38,7 @@ Keys InHelpMap(const TempFolder& folder) {
 }
 
 Keys InPreferences(const TempFolder& folder) {
-  constexpr std::size_t kLimit = 1U << 20U;
-  const auto text = ReadAll(OpenRegularFile(FileIn(folder)), kLimit);
+  const auto text = ReadRegularFile(FileIn(folder), kSettingsFileLimit);
   Keys keys = kAllKeys;
   std::erase_if(keys, [&](const auto& key) {
     return !PreferenceInText(text.value_or(""), key);

@@ -118,7 +118,7 @@ TEST(Bundle, IsADirectory) {
 TEST(Bundle, LiesBesideTheClientBeforeItLiesBesideTheHost) {
   const std::string name = "com.example.order" + std::to_string(getpid());
   const std::string own = OwnFolder().value() + "/" + name + ".framework";
-  const std::string host = FolderOf(HostExecutable().value()) +
+  const std::string host = Dirname(HostExecutable().value()) +
                            "/../Frameworks/" + name + ".framework";
   fs::create_directories(host);
   EXPECT_EQ(FindBundle(name), host);

@@ -129,20 +129,33 @@ TEST(AFileThatLosesItsOrderBehindItsFirstPiece, KeepsTheFirstEntryOfAKey) {
   EXPECT_EQ(map, expected);
 }
 
-/// Gives its text and then breaks.
-class BrokenFile : public std::stringbuf {
+/// Gives its text, a thousand bytes at most at a time, and then breaks.
+class BrokenFile : public InputFile {
  public:
-  using std::stringbuf::stringbuf;
+  explicit BrokenFile(std::string_view text)
+      : InputFile(text.size(), kHelpMapLimit), text_(text) {}
 
- private:
-  std::streamsize xsgetn(char* to, std::streamsize size) override {
-    const std::streamsize got = std::stringbuf::xsgetn(to, size);
-    if (got < size) throw std::ios_base::failure("broken");
+  std::size_t Read(char* buffer, std::size_t size) override {
+    if (text_.empty()) throw std::ios_base::failure("broken");
+    const std::size_t got =
+        text_.copy(buffer, std::min<std::size_t>(size, 1000));
+    text_.remove_prefix(got);
     return got;
   }
+
+ private:
+  std::string_view text_;
 };
 
-/// Lines for more than one piece, and the beginning of one behind them.
+/// The entries that are in a map after its file broke.
+HelpMap LoadedFromBroken(std::string_view text) {
+  BrokenFile file(text);
+  HelpMap map = {{"0", "old"}, {"100500", "old"}, {"x", "old"}};
+  EXPECT_THROW(HelpMapFiller(map).PutFile(file), std::ios_base::failure);
+  return map;
+}
+
+/// Lines for more than one piece.
 class FileThatBreaks : public ::testing::TestWithParam<bool> {
  protected:
   static constexpr int kFirst = 100'000;
@@ -155,25 +168,45 @@ class FileThatBreaks : public ::testing::TestWithParam<bool> {
   }
 };
 
-TEST_P(FileThatBreaks, LeavesTheWholeLinesOfThePiecesBefore) {
+TEST_P(FileThatBreaks, LeavesTheWholeLinesBeforeTheError) {
   std::string text;
-  for (int line = 0; line < kLines; ++line) text += Line(line);
-  const std::string before =
-      text.substr(0, text.size() / FileText::kPieceSize * FileText::kPieceSize);
   HelpMap expected;
-  FillHelpMap(before.substr(0, before.rfind('\n') + 1), expected);
-  ASSERT_GT(expected.size(), FileText::kPieceSize / 13);
-
-  BrokenFile broken(text);
-  std::istream file(&broken);
-  file.exceptions(std::ios_base::badbit);
-  HelpMap map = {{"0", "old"}, {"100500", "old"}, {"x", "old"}};
-  const auto load = [&] { HelpMapFiller(map).PutFile(file, text.size()); };
-  EXPECT_THROW(load(), std::ios_base::failure);
-  EXPECT_EQ(map, expected);
+  for (int line = 0; line < kLines; ++line) {
+    text += Line(line);
+    expected[Line(line).substr(0, 6)] = "value";
+  }
+  ASSERT_GT(text.size(), 2 * FileText::kPieceSize);
+  EXPECT_EQ(LoadedFromBroken(text + "999999\tval"), expected);
 }
 
 INSTANTIATE_TEST_SUITE_P(InOrderAndNot, FileThatBreaks, ::testing::Bool());
+
+struct BrokenRow {
+  const char* sentence;
+  std::string text;
+  HelpMap entries;
+};
+
+class TextThatBreaks : public ::testing::TestWithParam<BrokenRow> {};
+
+TEST_P(TextThatBreaks, HasTheEntriesOfItsWholeLines) {
+  EXPECT_EQ(LoadedFromBroken(GetParam().text), GetParam().entries);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, TextThatBreaks,
+    ::testing::Values(
+        BrokenRow{"before its first byte", "", {}},
+        BrokenRow{"inside its first line", "a\tb", {}},
+        BrokenRow{"after a line feed", "a\tb\n", {{"a", "b"}}},
+        BrokenRow{"inside its second line", "a\tb\nc\td", {{"a", "b"}}},
+        BrokenRow{"inside a line that is out of order",
+                  "b\tb\na\tb\nc\td",
+                  {{"a", "b"}, {"b", "b"}}},
+        BrokenRow{
+            "after the first byte of a CR LF", "a\tb\r\nc\td\r", {{"a", "b"}}},
+        BrokenRow{"after a CR LF", "a\tb\r\n", {{"a", "b"}}}),
+    SentenceOf());
 
 }  // namespace
 }  // namespace velmohelp::testing
