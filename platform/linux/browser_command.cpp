@@ -7,7 +7,8 @@
 namespace velmohelp {
 namespace {
 
-/// Records, each ended by a NUL; nullopt when the last one is not.
+/// The records of a text, each ended by a NUL; nullopt when the last one is
+/// not.
 std::optional<Arguments> Records(std::string_view text) {
   Arguments records;
   while (!text.empty()) {
@@ -29,7 +30,7 @@ std::optional<Arguments> ParseBrowserAnswer(std::string_view answer) {
     return std::nullopt;
   }
   Arguments words(records->begin() + 2, records->end());
-  // A helper that was ended while it wrote has left fewer words.
+  // A helper that was killed while it wrote has left fewer words.
   if ((*records)[1] != std::to_string(words.size())) return std::nullopt;
   if (!words.front().starts_with('/')) return std::nullopt;
   return words;

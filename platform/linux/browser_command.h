@@ -9,9 +9,9 @@
 
 namespace velmohelp {
 
-/// The command line that an answer asks to be started: an absolute path, and
-/// its arguments. Empty when the desktop opened the URL itself; nullopt when
-/// it is no whole answer.
+/// The argument vector that an answer asks to start; its program is an absolute
+/// path. Empty when the desktop opened the URL itself. nullopt when nothing
+/// opens the URL, or the answer is not complete.
 std::optional<Arguments> ParseBrowserAnswer(std::string_view answer);
 
 }  // namespace velmohelp

@@ -1,5 +1,4 @@
-// Directories that belong together: the host's resources, bundles and
-// application directories.
+// Directories that are one thing: the host's resources, bundles, applications.
 #ifndef PLATFORM_LINUX_BUNDLES_H_
 #define PLATFORM_LINUX_BUNDLES_H_
 
@@ -12,9 +11,8 @@ namespace velmohelp {
 /// <dir>/../share/<name>.resources; nullopt when neither is a directory.
 std::optional<std::string> ResourcesOf(const std::string& executable);
 
-/// The first directory <identifier>.framework in: the folder of the client's
-/// own file, Frameworks beside the host program's folder, the folder that the
-/// build was configured with.
+/// The first directory <identifier>.framework in: the folder of this library's
+/// file, ../Frameworks of the host program's folder, VELMO_FRAMEWORKS_DIR.
 std::optional<std::string> FindBundle(const std::string& identifier);
 
 /// The executable of an application directory <app>: <app>/bin/<name>, else

@@ -9,20 +9,20 @@ constexpr std::string_view kGroup = "[Preferences]";
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
 std::string_view Trimmed(std::string_view text) {
-  constexpr std::string_view kBlanks = " \t\r\v\f";
-  const std::size_t first = text.find_first_not_of(kBlanks);
+  constexpr std::string_view kSpaces = " \t\r\v\f";
+  const std::size_t first = text.find_first_not_of(kSpaces);
   if (first == std::string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
+  return text.substr(first, text.find_last_not_of(kSpaces) - first + 1);
 }
 
-/// Takes the first line off the text.
-std::string_view TakeLine(std::string_view& text) {
+/// Consumes and returns the first line of the text, trimmed.
+std::string_view ConsumeLine(std::string_view& text) {
   const std::string_view line = text.substr(0, text.find('\n'));
   text.remove_prefix(line.size() < text.size() ? line.size() + 1 : line.size());
   return Trimmed(line);
 }
 
-/// The value in a line "key = value", when it is for this key.
+/// The value of a line "key = value", when it has this key.
 std::optional<std::string_view> ValueIn(std::string_view line,
                                         std::string_view key) {
   const std::size_t sign = line.find('=');
@@ -47,14 +47,14 @@ std::string Encoded(char byte) {
 
 std::optional<std::string> PreferenceInText(std::string_view text,
                                             std::string_view key) {
-  // An editor's mark in front must not take the administrator's word away.
+  // An editor's byte order mark must not hide the administrator's group.
   if (text.starts_with(kByteOrderMark)) {
     text.remove_prefix(kByteOrderMark.size());
   }
   std::optional<std::string_view> value;
   bool in_group = false;
   while (!text.empty()) {
-    const std::string_view line = TakeLine(text);
+    const std::string_view line = ConsumeLine(text);
     if (line.starts_with('[')) {
       in_group = line == kGroup;
     } else if (const auto found = ValueIn(line, key); in_group && found) {

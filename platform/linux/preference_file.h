@@ -1,4 +1,4 @@
-// The form of a preference file.
+// The format of a preference file.
 #ifndef PLATFORM_LINUX_PREFERENCE_FILE_H_
 #define PLATFORM_LINUX_PREFERENCE_FILE_H_
 
@@ -14,16 +14,16 @@ namespace velmohelp {
 ///   [Preferences]
 ///   VelmoOnlineDefault = 0
 ///
-/// Blanks around the "=" and at both ends of a line do not count, lines may
-/// end in CR LF, a byte order mark may come first; there are no escapes. Of
-/// several lines for a key the last holds. nullopt when no line is for it, or
-/// the value that holds is no UTF-8 or has a NUL in it.
+/// White space around the "=" and at both ends of a line does not count, lines
+/// may end in CR LF, a byte order mark may come first; there are no escapes. Of
+/// several lines with the key the last one counts. nullopt when there is none,
+/// or when its value is not valid UTF-8 or has a NUL in it.
 std::optional<std::string> PreferenceInText(std::string_view text,
                                             std::string_view key);
 
 /// The file name of a domain's preferences: one path component, whatever the
 /// domain. "/", NUL, "%" and a leading "." are percent-encoded, so that no
-/// caller's text leaves the store's folder.
+/// caller's text names a file outside the store's folder.
 std::string PreferenceFileName(std::string_view domain);
 
 }  // namespace velmohelp

@@ -1,4 +1,4 @@
-// Preferences as they lie on disk.
+// Preferences on disk.
 #ifndef PLATFORM_LINUX_PREFERENCE_STORE_H_
 #define PLATFORM_LINUX_PREFERENCE_STORE_H_
 
@@ -9,8 +9,8 @@
 
 namespace velmohelp {
 
-/// A preference, read afresh from its file; see Machine::Preference. What is no
-/// regular file, or is too large for one that a person keeps, sets nothing.
+/// A preference, read from its file at each call; see Machine::Preference. What
+/// is not a regular file, or is longer than kSettingsFileLimit, sets nothing.
 ///
 /// The administrator's folder is fixed when the library is built: no variable
 /// of the environment moves it, so a user cannot step around the

@@ -6,11 +6,11 @@
 namespace velmohelp {
 namespace {
 
-/// More bytes than this cannot be the beginning of one character.
+/// More bytes than this are never part of one character.
 constexpr std::size_t kLongestRest = 32;
 
-/// iconv takes a name apart: an empty one is the locale's, and "//IGNORE"
-/// behind one lets everything pass.
+/// iconv parses a name: "" means the locale's charset, and a suffix "//IGNORE"
+/// accepts every byte.
 bool IsPlainName(const std::string& charset) {
   return !charset.empty() && charset.find('/') == std::string::npos &&
          charset.find(',') == std::string::npos;
@@ -27,7 +27,7 @@ iconv_t Open(const std::string& charset) {
 Decoder::Decoder(const std::string& charset)
     : state_(Open(charset), &iconv_close), decodes_(state_ != nullptr) {}
 
-void Decoder::Take(std::string_view piece) {
+void Decoder::Feed(std::string_view piece) {
   if (!decodes_) return;
   std::string input = rest_.append(piece);
   char* in = input.data();
@@ -41,7 +41,7 @@ void Decoder::Take(std::string_view piece) {
     error = done == static_cast<std::size_t>(-1) ? errno : 0;
   }
   rest_.assign(in, in_left);
-  // EINVAL: the piece ends within a character.
+  // EINVAL: the piece ends inside a character.
   decodes_ = (error == 0 || error == EINVAL) && in_left <= kLongestRest;
 }
 

@@ -1,4 +1,4 @@
-// Whether a stream of bytes is text in one character set.
+// Whether a stream of bytes is text in one charset.
 #ifndef PLATFORM_LINUX_HELPERS_DECODER_H_
 #define PLATFORM_LINUX_HELPERS_DECODER_H_
 
@@ -10,23 +10,23 @@
 
 namespace velmohelp {
 
-/// Takes the stream in pieces, cut anywhere, and keeps none of it but the
-/// beginning of a character whose rest has not come.
+/// Decodes a stream in pieces, cut anywhere. Keeps only the first bytes of a
+/// character whose other bytes have not arrived.
 class Decoder {
  public:
-  /// charset: a name as the C library's iconv knows it. No stream decodes in a
-  /// character set that it does not know.
+  /// charset: a name of the C library's iconv. Nothing decodes in a charset
+  /// that iconv does not know.
   explicit Decoder(const std::string& charset);
 
-  void Take(std::string_view piece);
+  void Feed(std::string_view piece);
 
-  /// Everything so far decodes, as the beginning of a text.
+  /// What was fed decodes, as the start of a text.
   bool DecodesSoFar() const { return decodes_; }
-  /// Everything so far decodes, as a whole text.
+  /// What was fed decodes, as a whole text.
   bool DecodesWhole() const { return decodes_ && rest_.empty(); }
 
  private:
-  /// iconv's state; null when it does not know the character set.
+  /// iconv's state; null for an unknown charset.
   std::unique_ptr<void, decltype(&iconv_close)> state_;
   bool decodes_;
   std::string rest_;

@@ -34,8 +34,8 @@ bool RunsInTerminal(GAppInfo* browser) {
                                         "Terminal") != 0;
 }
 
-/// The library starts programs by absolute paths alone: the search is made
-/// here. Words without a program when it is nowhere.
+/// Looks the program up in PATH: the library starts programs by absolute path
+/// alone. Empty when it does not exist.
 Words WithAbsoluteProgram(Words words) {
   const TextPtr path(g_find_program_in_path(words.front().c_str()));
   if (!path || g_path_is_absolute(path.get()) == 0) return {};

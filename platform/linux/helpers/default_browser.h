@@ -1,4 +1,4 @@
-// The browser that the desktop's application registry has for the user.
+// The user's default browser in the desktop's application registry.
 #ifndef PLATFORM_LINUX_HELPERS_DEFAULT_BROWSER_H_
 #define PLATFORM_LINUX_HELPERS_DEFAULT_BROWSER_H_
 
@@ -7,10 +7,10 @@
 
 namespace velmohelp {
 
-/// The command line that opens a URL in the default handler for https, or
-/// where there is none for http, whatever the URL's own scheme: an absolute
-/// path, and arguments. Empty when there is no such handler, or its program
-/// is not to be found.
+/// The argument vector that opens a URL in the default handler for https, else
+/// for http, whatever the URL's own scheme. The program is an absolute path.
+/// Empty when there is no such handler, its Exec line is refused, or its
+/// program does not exist.
 std::vector<std::string> DefaultBrowserCommand(const std::string& url);
 
 }  // namespace velmohelp

@@ -1,4 +1,4 @@
-// Ownership of what GLib hands out.
+// Owners of what GLib allocates.
 #ifndef PLATFORM_LINUX_HELPERS_GOBJECT_PTR_H_
 #define PLATFORM_LINUX_HELPERS_GOBJECT_PTR_H_
 
@@ -19,7 +19,7 @@ using ObjectPtr = std::unique_ptr<Object, ObjectUnref>;
 struct Free {
   void operator()(gpointer memory) const { g_free(memory); }
 };
-/// A text that GLib allocated.
+/// A string that GLib allocated.
 using TextPtr = std::unique_ptr<char, Free>;
 
 /// A copy; "" for null.

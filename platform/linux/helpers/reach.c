@@ -1,5 +1,5 @@
-/* velmohelp-reach: whether packets to a host have a way. See protocol.h. Plain
- * C and nothing but the C library, because it is started at every request. */
+/* velmohelp-reach: whether there is a route to a host. See protocol.h. Plain C
+ * with the C library alone, because it is started at every request. */
 #include <netdb.h>
 #include <string.h>
 #include <sys/socket.h>
@@ -7,9 +7,12 @@
 
 #include "platform/linux/helpers/protocol.h"
 #include "platform/linux/helpers/route.h"
+#include "platform/linux/helpers/time_limit.h"
 
-/* The best way to any of the addresses; one that needs no connection ends the
- * search. */
+/* A dead name server must not freeze the host for longer, at each request. */
+enum { TIME_LIMIT_SECONDS = 2 };
+
+/* The best route to any of the addresses. */
 static enum velmo_route best_route(const struct addrinfo* addresses) {
   enum velmo_route best = VELMO_NO_ROUTE;
   const struct addrinfo* at = addresses;
@@ -32,7 +35,8 @@ static const char* answer_for(enum velmo_route route) {
 }
 
 int main(int argc, char* argv[]) {
-  /* The port of the request that may follow; it has no part in the choice. */
+  velmo_limit_time(TIME_LIMIT_SECONDS);
+  /* The port of the request that may follow. Routes do not depend on it. */
   static const char port[] = "80";
   const struct addrinfo wanted = {.ai_socktype = SOCK_DGRAM,
                                   .ai_flags = AI_NUMERICSERV};

@@ -1,10 +1,11 @@
 #include "platform/linux/helpers/resource_url.h"
 
 #include <curl/curl.h>
-#include <sys/stat.h>
 
 #include <algorithm>
 #include <string_view>
+
+#include "platform/linux/files.h"
 
 namespace velmohelp {
 namespace {
@@ -19,14 +20,9 @@ std::string PartOf(const UrlPtr& url, CURLUPart part) {
   return text;
 }
 
-bool IsRegularFile(const std::string& path) {
-  struct stat status = {};
-  return stat(path.c_str(), &status) == 0 && S_ISREG(status.st_mode);
-}
-
 bool IsReadable(const UrlPtr& url) {
   return PartOf(url, CURLUPART_SCHEME) != "file" ||
-         IsRegularFile(PartOf(url, CURLUPART_PATH));
+         OpenRegularFile(PartOf(url, CURLUPART_PATH));
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-// URLs of resources, as libcurl holds them.
+// URLs of resources, as libcurl parses them.
 #ifndef PLATFORM_LINUX_HELPERS_RESOURCE_URL_H_
 #define PLATFORM_LINUX_HELPERS_RESOURCE_URL_H_
 
@@ -11,10 +11,10 @@ namespace velmohelp {
 
 using UrlPtr = std::unique_ptr<CURLU, decltype(&curl_url_cleanup)>;
 
-/// Null when the text is no absolute URI, where the transfer library would
-/// guess: a missing scheme, a blank, bytes beyond ASCII. Null also for a file
-/// URL at which no regular file lies: a pipe or a device could keep the person
-/// at the keyboard waiting, and a directory reads as an empty file.
+/// Null when the text is not an absolute URI (a missing scheme, a space, bytes
+/// beyond ASCII), where libcurl would guess. Null also for a file: URL of
+/// anything but a regular file: reading a pipe or a device can block, and a
+/// directory reads as an empty file.
 UrlPtr ParseResourceUrl(const std::string& text);
 
 }  // namespace velmohelp

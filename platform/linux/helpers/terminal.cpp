@@ -9,11 +9,11 @@ namespace {
 
 struct Terminal {
   const char* program;
-  /// What stands before the command line; null for nothing.
+  /// Goes before the command line; null for nothing.
   const char* option;
 };
 
-/// First the names by which systems and users make their choice.
+/// The names by which systems and users choose one come first.
 constexpr Terminal kTerminals[] = {
     {"xdg-terminal-exec", nullptr}, {"x-terminal-emulator", "-e"},
     {"gnome-terminal", "--"},       {"konsole", "-e"},

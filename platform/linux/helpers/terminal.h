@@ -7,8 +7,8 @@
 
 namespace velmohelp {
 
-/// A command line that runs another one in the first terminal emulator that
-/// there is; empty when there is none. An empty one stays empty.
+/// The argument vector that runs another one in the first terminal emulator
+/// that is installed. Empty when there is none, or words is empty.
 std::vector<std::string> InTerminal(std::vector<std::string> words);
 
 }  // namespace velmohelp

@@ -12,8 +12,8 @@ struct ByteOrderMark {
   const char* charset;
 };
 
-/// UTF-8's own mark is valid UTF-8 like any other character. The first bytes
-/// of a body may be the mark of two character sets; each gets its try.
+/// UTF-8's own mark needs no row: it is valid UTF-8. The first bytes of a body
+/// can be the mark of two charsets; both are tried.
 constexpr ByteOrderMark kMarks[] = {
     {{"\xFF\xFE\x00\x00", 4}, "UTF-32LE"},
     {{"\x00\x00\xFE\xFF", 4}, "UTF-32BE"},
@@ -23,10 +23,10 @@ constexpr ByteOrderMark kMarks[] = {
 constexpr std::size_t kLongestMark = 4;
 
 std::string_view Trimmed(std::string_view text) {
-  constexpr std::string_view kBlanks = " \t";
-  const std::size_t first = text.find_first_not_of(kBlanks);
+  constexpr std::string_view kSpaces = " \t";
+  const std::size_t first = text.find_first_not_of(kSpaces);
   if (first == std::string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
+  return text.substr(first, text.find_last_not_of(kSpaces) - first + 1);
 }
 
 bool EqualNames(std::string_view a, std::string_view b) {
@@ -38,8 +38,8 @@ std::string_view Unquoted(std::string_view value) {
   return value.substr(1, value.find('"', 1) - 1);
 }
 
-/// Takes what stands before the first ";", and that, off the text.
-std::string_view TakeParameter(std::string_view& text) {
+/// Consumes the text up to the first ";" and that; returns the text before it.
+std::string_view ConsumeParameter(std::string_view& text) {
   const std::string_view parameter = text.substr(0, text.find(';'));
   text.remove_prefix(std::min(parameter.size() + 1, text.size()));
   return parameter;
@@ -48,9 +48,9 @@ std::string_view TakeParameter(std::string_view& text) {
 }  // namespace
 
 std::string CharsetOf(std::string_view content_type) {
-  TakeParameter(content_type);  // the media type itself
+  ConsumeParameter(content_type);  // the media type itself
   while (!content_type.empty()) {
-    const std::string_view parameter = TakeParameter(content_type);
+    const std::string_view parameter = ConsumeParameter(content_type);
     const std::size_t sign = parameter.find('=');
     if (sign == std::string_view::npos) continue;
     if (EqualNames(Trimmed(parameter.substr(0, sign)), "charset")) {
@@ -65,7 +65,7 @@ TextCheck::TextCheck(const std::string& charset) {
   decoders_.emplace_back(charset);
 }
 
-void TextCheck::Take(std::string_view piece) {
+void TextCheck::Feed(std::string_view piece) {
   if (begun_) {
     Decode(piece);
     return;
@@ -97,7 +97,7 @@ void TextCheck::Begin() {
 }
 
 void TextCheck::Decode(std::string_view piece) {
-  for (Decoder& decoder : decoders_) decoder.Take(piece);
+  for (Decoder& decoder : decoders_) decoder.Feed(piece);
 }
 
 }  // namespace velmohelp

@@ -1,4 +1,4 @@
-// Whether a resource is a text.
+// Whether a resource is text.
 #ifndef PLATFORM_LINUX_HELPERS_TEXT_CHECK_H_
 #define PLATFORM_LINUX_HELPERS_TEXT_CHECK_H_
 
@@ -11,27 +11,26 @@
 namespace velmohelp {
 
 /// The "charset" of a Content-Type ("text/html; charset=\"utf-8\""), "" when
-/// it names none.
+/// there is none.
 std::string CharsetOf(std::string_view content_type);
 
-/// Checks a body as it comes, in pieces cut anywhere. It is text when it
-/// decodes in the character set that it was declared to be in, or in the one
-/// that its Unicode byte order mark announces, or as UTF-8. An empty body is
-/// text. Holds a few bytes, however long the body.
+/// Checks a body as it arrives, in pieces cut anywhere. A body is text when it
+/// decodes in its declared charset, in that of its Unicode byte order mark, or
+/// as UTF-8. An empty body is text. Keeps a few bytes, however long the body.
 class TextCheck {
  public:
   /// charset: the declared one, "" for none.
   explicit TextCheck(const std::string& charset);
 
-  void Take(std::string_view piece);
+  void Feed(std::string_view piece);
 
-  /// False when nothing that may follow makes a text of it.
+  /// False when it cannot be text, whatever follows.
   bool MayBeText() const;
-  /// What came was the whole body, and is text. Nothing follows this call.
+  /// What was fed is the whole body, and is text. The last call.
   bool IsText();
 
  private:
-  /// Chooses the decoders, once the first bytes or all of them are there.
+  /// Chooses the decoders, once the first bytes or the whole body have arrived.
   void Begin();
   void Decode(std::string_view piece);
 

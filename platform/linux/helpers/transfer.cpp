@@ -1,24 +1,44 @@
 #include "platform/linux/helpers/transfer.h"
 
 #include <curl/curl.h>
+#include <sys/resource.h>
 
+#include <csignal>
 #include <memory>
 #include <optional>
 #include <string_view>
 
 #include "platform/linux/helpers/resource_url.h"
 #include "platform/linux/helpers/text_check.h"
+#include "platform/linux/helpers/time_limit.h"
 
 namespace velmohelp {
 namespace {
 
-constexpr long kConnectSeconds = 15;
-constexpr long kTotalSeconds = 60;
+constexpr unsigned kTotalSeconds = 10;
+/// A server that sends less than this is given up.
+constexpr long kLowSpeedBytesPerSecond = 1024;
+constexpr long kLowSpeedSeconds = 5;
 constexpr long kMaxRedirects = 20;
+/// Of all responses of a transfer together: libcurl keeps headers in memory.
+constexpr std::size_t kMaxHeaderBytes = 256U << 10U;
+/// A transfer with TLS takes a fifth of it, thread stacks included.
+constexpr rlim_t kMaxAddressSpace = 512U << 20U;
 
 using Handle = std::unique_ptr<CURL, decltype(&curl_easy_cleanup)>;
 
-/// The response whose body comes; earlier ones were redirects.
+/// The time limit is not libcurl's: a name service or a network file system can
+/// block a call of its own. Its signals would disturb that clock.
+void LimitThisProcess() {
+  velmo_limit_time(kTotalSeconds);
+  std::signal(SIGPIPE, SIG_IGN);
+#ifndef VELMO_UNLIMITED_MEMORY
+  const rlimit limit = {kMaxAddressSpace, kMaxAddressSpace};
+  setrlimit(RLIMIT_AS, &limit);
+#endif
+}
+
+/// The charset of the last response; earlier ones were redirects.
 std::string DeclaredCharset(CURL* transfer) {
   curl_header* type = nullptr;
   if (curl_easy_header(transfer, "Content-Type", 0, CURLH_HEADER, -1, &type) !=
@@ -28,15 +48,15 @@ std::string DeclaredCharset(CURL* transfer) {
   return CharsetOf(type->value);
 }
 
-/// A body on its way in.
+/// A body as it arrives.
 class Body {
  public:
   explicit Body(CURL* transfer) : transfer_(transfer) {}
 
-  /// False when no more of it is wanted.
-  bool Take(std::string_view piece) {
+  /// False when it cannot be text any more.
+  bool Feed(std::string_view piece) {
     if (!check_) check_.emplace(DeclaredCharset(transfer_));
-    check_->Take(piece);
+    check_->Feed(piece);
     return check_->MayBeText();
   }
   bool IsText() { return !check_ || check_->IsText(); }
@@ -46,28 +66,42 @@ class Body {
   std::optional<TextCheck> check_;
 };
 
-/// libcurl's write function; another count than that of the bytes given ends
-/// the transfer.
+/// libcurl's write function. To return another count ends the transfer.
 std::size_t OnBytes(char* bytes, std::size_t, std::size_t count, void* body) {
-  return static_cast<Body*>(body)->Take({bytes, count}) ? count : 0;
+  return static_cast<Body*>(body)->Feed({bytes, count}) ? count : 0;
+}
+
+/// libcurl's header function, for each line of a header. To return another
+/// count ends the transfer.
+std::size_t OnHeader(char*, std::size_t, std::size_t count, void* left) {
+  auto& bytes_left = *static_cast<std::size_t*>(left);
+  if (count > bytes_left) return 0;
+  bytes_left -= count;
+  return count;
+}
+
+void SetLimits(CURL* transfer, std::size_t& header_bytes_left) {
+  curl_easy_setopt(transfer, CURLOPT_MAXREDIRS, kMaxRedirects);
+  curl_easy_setopt(transfer, CURLOPT_NOSIGNAL, 1L);
+  curl_easy_setopt(transfer, CURLOPT_LOW_SPEED_LIMIT, kLowSpeedBytesPerSecond);
+  curl_easy_setopt(transfer, CURLOPT_LOW_SPEED_TIME, kLowSpeedSeconds);
+  curl_easy_setopt(transfer, CURLOPT_HEADERFUNCTION, &OnHeader);
+  curl_easy_setopt(transfer, CURLOPT_HEADERDATA, &header_bytes_left);
 }
 
 void Configure(CURL* transfer, CURLU* url, Body& body) {
   curl_easy_setopt(transfer, CURLOPT_CURLU, url);
   curl_easy_setopt(transfer, CURLOPT_PROTOCOLS_STR, "http,https,file");
-  // A server must not make a text of a file of this machine's.
+  // A server must not redirect to a file of this machine.
   curl_easy_setopt(transfer, CURLOPT_REDIR_PROTOCOLS_STR, "http,https");
   curl_easy_setopt(transfer, CURLOPT_FOLLOWLOCATION, 1L);
-  curl_easy_setopt(transfer, CURLOPT_MAXREDIRS, kMaxRedirects);
-  curl_easy_setopt(transfer, CURLOPT_CONNECTTIMEOUT, kConnectSeconds);
-  curl_easy_setopt(transfer, CURLOPT_TIMEOUT, kTotalSeconds);
   curl_easy_setopt(transfer, CURLOPT_ACCEPT_ENCODING, "");
   curl_easy_setopt(transfer, CURLOPT_USERAGENT, "velmohelp");
   curl_easy_setopt(transfer, CURLOPT_WRITEFUNCTION, &OnBytes);
   curl_easy_setopt(transfer, CURLOPT_WRITEDATA, &body);
 }
 
-/// A file has no status.
+/// A file: URL has no status.
 bool IsGoodStatus(CURL* transfer) {
   long status = 0;
   curl_easy_getinfo(transfer, CURLINFO_RESPONSE_CODE, &status);
@@ -77,11 +111,14 @@ bool IsGoodStatus(CURL* transfer) {
 }  // namespace
 
 bool IsTextAt(const std::string& url) {
+  LimitThisProcess();
   const UrlPtr parsed = ParseResourceUrl(url);
   const Handle transfer(curl_easy_init(), &curl_easy_cleanup);
   if (!parsed || !transfer) return false;
   Body body(transfer.get());
+  std::size_t header_bytes_left = kMaxHeaderBytes;
   Configure(transfer.get(), parsed.get(), body);
+  SetLimits(transfer.get(), header_bytes_left);
   return curl_easy_perform(transfer.get()) == CURLE_OK &&
          IsGoodStatus(transfer.get()) && body.IsText();
 }

@@ -6,9 +6,13 @@
 
 namespace velmohelp {
 
-/// Loads the whole resource at an absolute URL (http, https, file) and tells
-/// whether that ended well and its body is text. The body is checked as it
-/// comes and not kept.
+/// Loads the whole resource at an absolute URL (http, https, file); true when
+/// the load succeeds and the body is text. The body is checked as it arrives,
+/// and not kept.
+///
+/// Limits this process for good, once: it ends after 10 s, and has the address
+/// space that a transfer takes. A hostile server breaks this program and no
+/// other.
 bool IsTextAt(const std::string& url);
 
 }  // namespace velmohelp

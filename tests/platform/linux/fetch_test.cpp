@@ -30,6 +30,15 @@ std::string Redirect(const std::string& location) {
   return Response("302 Found", "Location: " + location + "\r\n", kPicture);
 }
 
+/// Header lines of so many KiB in all.
+std::string Headers(int size) {
+  std::string headers;
+  for (int i = 0; i < size; ++i) {
+    headers += "X: " + std::string(1024 - 5, 'x') + "\r\n";
+  }
+  return headers;
+}
+
 struct ServerRow {
   const char* sentence;
   std::string response;
@@ -73,6 +82,10 @@ INSTANTIATE_TEST_SUITE_P(
         ServerRow{"UTF-16 with a mark",
                   Response("200 OK", "", "\xFF\xFE\xE4\x00"s), true},
         ServerRow{"a redirect", Redirect("/other"), true},
+        ServerRow{"long headers", Response("200 OK", Headers(200), "<p>"),
+                  true},
+        ServerRow{"headers that are too long",
+                  Response("200 OK", Headers(280), "<p>"), false},
         ServerRow{"Latin 1 that is not declared",
                   Response("200 OK", kHtml, "B\xE4r"), false},
         ServerRow{"a picture",

@@ -5,8 +5,8 @@
 #include <sys/stat.h>
 
 #include "platform/linux/helpers/browser_portal.h"
-#include "tests/support/temporary_directory.h"
 #include "tests/support/sentence.h"
+#include "tests/support/temporary_directory.h"
 
 namespace velmohelp {
 namespace {

@@ -4,8 +4,8 @@
 
 #include "platform/linux/helpers/browser_portal.h"
 #include "tests/support/portal.h"
-#include "tests/support/temporary_directory.h"
 #include "tests/support/sentence.h"
+#include "tests/support/temporary_directory.h"
 
 namespace velmohelp {
 namespace {

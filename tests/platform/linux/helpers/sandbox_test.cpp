@@ -5,8 +5,8 @@
 #include "platform/linux/linux_machine.h"
 #include "tests/support/children.h"
 #include "tests/support/portal.h"
-#include "tests/support/temporary_directory.h"
 #include "tests/support/sentence.h"
+#include "tests/support/temporary_directory.h"
 #include "tests/system/own_machine.h"
 
 namespace velmohelp {

@@ -23,7 +23,7 @@ class Body : public ::testing::TestWithParam<BodyRow> {
     TextCheck check(GetParam().charset);
     const std::string& body = GetParam().body;
     for (std::size_t at = 0; at < body.size(); at += size) {
-      check.Take(std::string_view(body).substr(at, size));
+      check.Feed(std::string_view(body).substr(at, size));
     }
     return check;
   }
@@ -93,11 +93,11 @@ INSTANTIATE_TEST_SUITE_P(
 TEST(ALongBody, IsHeldInPiecesOnly) {
   TextCheck check("");
   const std::string piece(100000, 'a');
-  for (int i = 0; i < 100; ++i) check.Take(piece);
+  for (int i = 0; i < 100; ++i) check.Feed(piece);
   EXPECT_TRUE(check.MayBeText());
-  check.Take("\xFF");
+  check.Feed("\xFF");
   EXPECT_FALSE(check.MayBeText());
-  check.Take(piece);
+  check.Feed(piece);
   EXPECT_FALSE(check.IsText());
 }
 

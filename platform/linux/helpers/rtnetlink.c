@@ -1,5 +1,5 @@
-/* Two questions to the kernel's routing socket (rtnetlink(7)): through which
- * interface, and in which state is it. */
+/* Two questions to the kernel over rtnetlink(7): which interface a route leaves
+ * through, and which state the interface is in. */
 #include <linux/if.h>
 #include <linux/if_link.h>
 #include <linux/rtnetlink.h>
@@ -49,8 +49,8 @@ static int ask(const struct nlmsghdr* question, uint16_t wanted,
   return reply->header.nlmsg_type == wanted;
 }
 
-/* The value of an attribute behind a reply's fixed part, of at least that size;
- * NULL when it is not there. */
+/* The value of an attribute after a reply's fixed part; NULL when there is none
+ * of at least this size. */
 static const void* attribute(const union reply* reply, size_t fixed_part,
                              unsigned short type, size_t size) {
   const size_t start = NLMSG_SPACE(fixed_part);
@@ -81,7 +81,7 @@ static void set_address(struct route_question* question,
   }
 }
 
-/* An address that is good on one link alone says which; 0 for any other. */
+/* The interface that a link-local address names; 0 for any other address. */
 static int own_interface(const struct sockaddr* address) {
   if (address->sa_family != AF_INET6) return 0;
   return (int)((const struct sockaddr_in6*)address)->sin6_scope_id;
