@@ -94,6 +94,21 @@ TEST_F(Browser, MayRunInATerminal) {
             "http://localhost/|terminal|");
 }
 
+/// A shell would run what follows the ";", and lose what follows the "&".
+TEST_F(Browser, GetsAnAddressThatAShellWouldTakeApart) {
+  Install("browser", "https");
+  const std::string url = "http://localhost/a?b=1&b=2;c=$(x)#'d'";
+  EXPECT_EQ(Opened("browser", url), url + "|");
+}
+
+TEST_F(Browser, IsNoneWhoseShellWouldGetTheAddressAsItsProgram) {
+  const std::string marker = directory() / "opened-browser";
+  directory().WriteScript("print", "printf '%s' \"$1\" > '" + marker + "'");
+  setenv("PATH", (directory().path() + ":/usr/bin:/bin").c_str(), 1);
+  InstallLine("browser", "https", "sh -c \"print %u\"");
+  EXPECT_EQ(Opened("browser", "http://localhost/a;print"), "");
+}
+
 TEST_F(Browser, IsNoneWhereNoneIsInstalled) {
   EXPECT_FALSE(machine().OpenInBrowser("http://localhost/"));
 }

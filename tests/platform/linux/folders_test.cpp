@@ -1,18 +1,27 @@
-// Where things lie.
+// The places of files and folders.
 #include "platform/linux/folders.h"
 
+#include <dlfcn.h>
 #include <gtest/gtest.h>
+#include <pthread.h>
 #include <pwd.h>
+#include <sys/auxv.h>
 #include <sys/stat.h>
+#include <sys/statvfs.h>
 #include <unistd.h>
+#include <velmohelp/export.h>
 #include <velmohelp_locations.h>
 
+#include <cerrno>
+#include <climits>
 #include <cstdlib>
+#include <list>
 
 #include "platform/linux/bundles.h"
 #include "platform/linux/files.h"
 #include "platform/linux/own_location.h"
 #include "platform/linux/preference_store.h"
+#include "tests/support/children.h"
 #include "tests/support/sentence.h"
 #include "tests/support/temporary_directory.h"
 
@@ -22,6 +31,11 @@ namespace {
 namespace fs = std::filesystem;
 using testing::TemporaryDirectory;
 
+/// The home of the user's entry, and the bytes that the entry takes; the
+/// system's entry while there is no home.
+std::string home_in_database;
+std::size_t bytes_of_entry = 0;
+
 struct FolderRow {
   const char* sentence;
   const char* config_home;
@@ -29,9 +43,16 @@ struct FolderRow {
   std::string folder;
 };
 
+/// An absolute path of this length, valid until the end of the program.
+const char* LongPath(std::size_t length) {
+  static std::list<std::string> paths;
+  paths.push_back("/" + std::string(length - 1, 'x'));
+  return paths.back().c_str();
+}
+
 std::string HomeInDatabase() { return getpwuid(getuid())->pw_dir; }
 
-class Preferences : public ::testing::TestWithParam<FolderRow> {};
+class PreferencesPath : public ::testing::TestWithParam<FolderRow> {};
 
 void SetOrUnset(const char* name, const char* value) {
   if (value == nullptr) {
@@ -41,14 +62,14 @@ void SetOrUnset(const char* name, const char* value) {
   }
 }
 
-TEST_P(Preferences, LieIn) {
+TEST_P(PreferencesPath, IsIn) {
   SetOrUnset("XDG_CONFIG_HOME", GetParam().config_home);
   SetOrUnset("HOME", GetParam().home);
   EXPECT_EQ(PreferencesFolderPath(), GetParam().folder);
 }
 
 INSTANTIATE_TEST_SUITE_P(
-    Rows, Preferences,
+    Rows, PreferencesPath,
     ::testing::Values(
         FolderRow{"the configured folder", "/x/y", "/home/a", "/x/y"},
         FolderRow{"the configured folder without its slash", "/x//", "/h",
@@ -60,6 +81,12 @@ INSTANTIATE_TEST_SUITE_P(
                   "/home/a/.config"},
         FolderRow{"the home", nullptr, "/home/a/", "/home/a/.config"},
         FolderRow{"a home that is the root", nullptr, "/", "/.config"},
+        FolderRow{"the longest path", LongPath(PATH_MAX - 1), "/home/a",
+                  LongPath(PATH_MAX - 1)},
+        FolderRow{"the home when the folder's path is too long",
+                  LongPath(PATH_MAX), "/home/a", "/home/a/.config"},
+        FolderRow{"the database when the home's path is too long", nullptr,
+                  LongPath(PATH_MAX), HomeInDatabase() + "/.config"},
         FolderRow{"the database when there is no home", nullptr, nullptr,
                   HomeInDatabase() + "/.config"},
         FolderRow{"the database when the home is empty", nullptr, "",
@@ -84,7 +111,127 @@ TEST(PreferencesFolder, IsMadeForTheUserAloneWhenAskedFor) {
   EXPECT_EQ(PermissionsOf(folder), fs::perms::owner_all);
 }
 
-TEST(PreferencesFolder, IsNoneWhereAFileLies) {
+/// Run by the test below, in a program that has another user's rights.
+TEST(DISABLED_SetUserIdHost, HasItsRealUsersSettings) {
+  ASSERT_EQ(getauxval(AT_SECURE), 1U);
+  EXPECT_EQ(PreferencesFolderPath(), HomeInDatabase() + "/.config");
+}
+
+/// Whoever starts such a host must not choose what it reads.
+TEST(SetUserIdHost, IsMovedByNoVariable) {
+  constexpr uid_t kNobody = 65534;
+  const TemporaryDirectory directory;
+  const std::string host = directory / "host";
+  struct statvfs system = {};
+  statvfs(directory.path().c_str(), &system);
+  if (geteuid() != 0 || (system.f_flag & ST_NOSUID) != 0) {
+    GTEST_SKIP() << "only root makes such a program, where they are allowed";
+  }
+  fs::copy_file("/proc/self/exe", host);
+  ASSERT_EQ(chown(host.c_str(), kNobody, kNobody), 0);
+  ASSERT_EQ(chmod(host.c_str(), S_ISUID | S_IRWXU), 0);
+  setenv("XDG_CONFIG_HOME", "/x/y", 1);
+  setenv("HOME", "/home/a", 1);
+  EXPECT_TRUE(testing::InACopy([&] {
+    execl(host.c_str(), host.c_str(), "--gtest_also_run_disabled_tests",
+          "--gtest_filter=DISABLED_SetUserIdHost.*", nullptr);
+    return false;
+  }));
+}
+
+/// A host's thread may have a stack of 64 KiB.
+TEST(PreferencesFolder, IsMadeWithoutRecursion) {
+  const TemporaryDirectory directory;
+  std::string folder = directory.path();
+  while (folder.size() < PATH_MAX - 100) folder += "/x";
+  setenv("XDG_CONFIG_HOME", folder.c_str(), 1);
+  const auto make = [](void* made) -> void* {
+    *static_cast<bool*>(made) = PreferencesFolder(true).has_value();
+    return nullptr;
+  };
+  pthread_attr_t attributes;
+  pthread_attr_init(&attributes);
+  pthread_attr_setstacksize(&attributes, 64U << 10U);
+  pthread_t thread = {};
+  bool made = false;
+  ASSERT_EQ(pthread_create(&thread, &attributes, make, &made), 0);
+  pthread_join(thread, nullptr);
+  pthread_attr_destroy(&attributes);
+  EXPECT_TRUE(made);
+  EXPECT_TRUE(fs::is_directory(folder));
+}
+
+struct HomeRow {
+  const char* sentence;
+  /// "{folder}" is the test's folder.
+  const char* config_home;
+  const char* home;
+  bool made;
+};
+
+class MissingHome : public ::testing::TestWithParam<HomeRow> {
+ protected:
+  std::string Expanded(std::string text) const {
+    const std::size_t at = text.find("{folder}");
+    return at == std::string::npos ? text
+                                   : text.replace(at, 8, directory_.path());
+  }
+
+ private:
+  TemporaryDirectory directory_;
+};
+
+TEST_P(MissingHome, IsNeverMade) {
+  SetOrUnset("XDG_CONFIG_HOME", nullptr);
+  if (GetParam().config_home != nullptr) {
+    setenv("XDG_CONFIG_HOME", Expanded(GetParam().config_home).c_str(), 1);
+  }
+  setenv("HOME", Expanded(GetParam().home).c_str(), 1);
+  EXPECT_EQ(PreferencesFolder(true).has_value(), GetParam().made);
+  EXPECT_FALSE(fs::exists(Expanded("{folder}/home")));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, MissingHome,
+    ::testing::Values(HomeRow{"for its own settings", nullptr,
+                              "{folder}/home/a", false},
+                      HomeRow{"for configured settings in it",
+                              "{folder}/home/a/x/y", "{folder}/home/a", false},
+                      HomeRow{"as the configured settings", "{folder}/home/a",
+                              "{folder}/home/a", false},
+                      HomeRow{"under another spelling", "{folder}/home//./a/x",
+                              "{folder}/home/a/", false},
+                      HomeRow{"when the settings are elsewhere", "{folder}/x/y",
+                              "{folder}/home/a", true},
+                      HomeRow{"when the settings have a similar name",
+                              "{folder}/homes/ab", "{folder}/homes/a", true}),
+    testing::SentenceOf());
+
+TEST(PreferencesFolder, IsNotMadeInAMissingHomeOfTheDatabase) {
+  unsetenv("XDG_CONFIG_HOME");
+  unsetenv("HOME");
+  const TemporaryDirectory directory;
+  home_in_database = directory / "home";
+  EXPECT_FALSE(PreferencesFolder(true));
+  fs::create_directory(directory / "home");
+  EXPECT_EQ(PreferencesFolder(true), directory / "home/.config");
+  home_in_database.clear();
+}
+
+/// Some directories of users put photographs into their entries.
+TEST(PasswordEntry, MayBeLongerThanTheFirstBuffers) {
+  unsetenv("XDG_CONFIG_HOME");
+  unsetenv("HOME");
+  home_in_database = "/home/a";
+  bytes_of_entry = 100'000;
+  EXPECT_EQ(PreferencesFolderPath(), "/home/a/.config");
+  bytes_of_entry = 10U << 20U;
+  EXPECT_FALSE(PreferencesFolderPath());
+  bytes_of_entry = 0;
+  home_in_database.clear();
+}
+
+TEST(PreferencesFolder, IsNoneWhereAFileIs) {
   const TemporaryDirectory directory;
   const std::string file = directory.Write("file", "");
   setenv("XDG_CONFIG_HOME", file.c_str(), 1);
@@ -93,7 +240,7 @@ TEST(PreferencesFolder, IsNoneWhereAFileLies) {
   EXPECT_FALSE(PreferencesFolder(true));
 }
 
-TEST(Resources, LieBesideTheHostBeforeTheyLieInShare) {
+TEST(Resources, AreBesideTheHostBeforeTheyAreInShare) {
   const TemporaryDirectory directory;
   const std::string host = directory / "bin/host";
   directory.MakeDirectory("bin");
@@ -115,7 +262,7 @@ TEST(Bundle, IsADirectory) {
   fs::remove(path);
 }
 
-TEST(Bundle, LiesBesideTheClientBeforeItLiesBesideTheHost) {
+TEST(Bundle, IsBesideTheClientBeforeItIsBesideTheHost) {
   const std::string name = "com.example.order" + std::to_string(getpid());
   const std::string own = OwnFolder().value() + "/" + name + ".framework";
   const std::string host = Dirname(HostExecutable().value()) +
@@ -134,7 +281,21 @@ bool IsInBuildTree(const std::string& folder) {
   return folder.starts_with(VELMO_TEST_BUILD "/");
 }
 
-TEST(Bundle, LiesLastInTheFolderOfTheBuild) {
+/// The same name in two folders that a build knows of.
+TEST(Bundle, IsBesideTheHostBeforeItIsInTheFolderOfTheBuild) {
+  if (!IsInBuildTree(kFrameworksDir)) GTEST_SKIP() << kFrameworksDir;
+  const std::string name = "com.example.two" + std::to_string(getpid());
+  const std::string last = kFrameworksDir + ("/" + name) + ".framework";
+  const std::string host = Dirname(HostExecutable().value()) +
+                           "/../Frameworks/" + name + ".framework";
+  fs::create_directories(last);
+  fs::create_directories(host);
+  EXPECT_EQ(FindBundle(name), host);
+  fs::remove(last);
+  fs::remove(host);
+}
+
+TEST(Bundle, IsLastInTheFolderOfTheBuild) {
   if (!IsInBuildTree(kFrameworksDir)) GTEST_SKIP() << kFrameworksDir;
   const std::string name = "com.example.last" + std::to_string(getpid());
   const std::string path = kFrameworksDir + ("/" + name) + ".framework";
@@ -160,7 +321,7 @@ TEST(AdministratorsPreference, IsMovedByNoVariable) {
   fs::remove(file);
 }
 
-TEST(Bundle, IsNamedAndNoPath) {
+TEST(Bundle, IsFoundByItsNameAloneNotByAPath) {
   EXPECT_FALSE(FindBundle("../platform/x"));
   EXPECT_FALSE(FindBundle(""));
 }
@@ -202,6 +363,22 @@ TEST_F(Application, NeedsARegularFileThatMayBeExecuted) {
   EXPECT_FALSE(Executable("v"));
   EXPECT_FALSE(Executable("missing"));
   EXPECT_FALSE(ExecutableOf("/"));
+}
+
+/// A host may have other effective ids than its user: they decide, as they do
+/// when the program is started.
+TEST_F(Application, IsExecutableByTheEffectiveIds) {
+  if (geteuid() != 0) GTEST_SKIP() << "only root changes its ids";
+  Write("v/AppRun");
+  const auto executable_for_nobody = [&] {
+    return seteuid(65534) == 0 && Executable("v").has_value();
+  };
+  EXPECT_FALSE(testing::InACopy(executable_for_nobody));
+  fs::permissions(directory().path(), fs::perms::all);
+  fs::permissions(directory() / "v", fs::perms::all);
+  EXPECT_FALSE(testing::InACopy(executable_for_nobody));
+  fs::permissions(directory() / "v/AppRun", fs::perms::all);
+  EXPECT_TRUE(testing::InACopy(executable_for_nobody));
 }
 
 struct MapsRow {
@@ -247,3 +424,21 @@ TEST(OwnLocation, IsFoundWhereverTheHostWorks) {
 
 }  // namespace
 }  // namespace velmohelp
+
+/// Takes the place of the C library's.
+extern "C" VELMOHELP_API int getpwuid_r(uid_t user, struct passwd* entry,
+                                        char* buffer, std::size_t size,
+                                        struct passwd** found) {
+  using velmohelp::bytes_of_entry;
+  using velmohelp::home_in_database;
+  static const auto system =
+      reinterpret_cast<decltype(&getpwuid_r)>(dlsym(RTLD_NEXT, "getpwuid_r"));
+  if (home_in_database.empty()) {
+    return system(user, entry, buffer, size, found);
+  }
+  *found = nullptr;
+  if (size < bytes_of_entry) return ERANGE;
+  entry->pw_dir = home_in_database.data();
+  *found = entry;
+  return 0;
+}

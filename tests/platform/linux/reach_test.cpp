@@ -107,8 +107,7 @@ TEST_F(ReachOverADormantInterface, NeedsAConnection) {
 
 TEST_F(ReachOverADormantInterface, AsksTheInterfaceThatAnAddressNames) {
   EXPECT_TRUE(testing::InACopy([&] {
-    return EnterDormantNetwork() &&
-           RunIp("addr add fe80::1/64 dev v0 nodad") &&
+    return EnterDormantNetwork() && RunIp("addr add fe80::1/64 dev v0 nodad") &&
            RunIp("addr add fe80::2/64 dev v1 nodad") &&
            NeedsConnection("fe80::7%v0") && IsReachable("fe80::7%v1");
   }));
