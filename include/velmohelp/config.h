@@ -24,8 +24,8 @@ class VELMOHELP_API XMLParser {
 
   /// Replaces the buffer with the file's text. The file is taken in pieces of
   /// 1023 bytes, and a zero byte drops the rest of its piece. False, with an
-  /// empty buffer, when the path is empty, the file cannot be read, or it has
-  /// 2 GiB or more.
+  /// empty buffer, when the path is empty, the file cannot be read, or it is
+  /// longer than 16 MiB.
   bool ReadFileToBuffer(std::string path);
 
   /// The text between the first two double quotes after the first "=" after

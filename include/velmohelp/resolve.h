@@ -49,18 +49,18 @@ VELMOHELP_API bool isUrl(std::string text);
 /// URI and a text could be loaded from it, whole. Blocks meanwhile.
 VELMOHELP_API bool ValidateURL(std::string target, bool fetch);
 
-/// Reads a help map: one entry a line, key and value parted by TABs, the first
-/// entry of a key wins, lines without two fields are skipped. Empties map
+/// Reads a help map: one entry per line, key and value separated by tabs, the
+/// first entry of a key wins, lines without two fields are skipped. Empties map
 /// first. True when the file was read and map holds "VX_HOME"; false with the
 /// entries in map when it does not, and with an empty map when nothing, a pipe,
-/// a device or a file of 2 GiB and more lies there. Throws
-/// std::ios_base::failure when an opened file cannot be read to its end; a
-/// directory is such a file.
+/// a device or a file longer than 256 MiB is at path. Throws
+/// std::ios_base::failure on a read error, with the entries of the lines before
+/// it in map; every read of a directory is one.
 VELMOHELP_API bool LoadMapFile(const std::string& path,
                                std::map<std::string, std::string>& map);
 
 /// The first line of a base URL file; "" when nothing, a pipe, a device or a
-/// file of 2 GiB and more lies there. In a line with "://[" (an IPv6 host,
+/// file longer than 16 MiB is at path. In a line with "://[" (an IPv6 host,
 /// whose zone follows a "%") the first "%", wherever it stands, becomes "%25",
 /// unless a "%25" stands before the first "]". Throws std::out_of_range for a
 /// line with "://[" but neither "]" nor "%", and std::ios_base::failure as
