@@ -15,7 +15,7 @@ void Check(Input input) {
   for (const std::size_t length : {1 + type.size() % 7, body.size() + 1}) {
     TextCheck check(charset);
     for (std::size_t at = 0; at < body.size(); at += length) {
-      check.Take(std::string_view(body).substr(at, length));
+      check.Feed(std::string_view(body).substr(at, length));
     }
     const bool may_be_text = check.MayBeText();
     Same(check.IsText(), is_text);
