@@ -8,12 +8,12 @@
 #include "client/request.h"
 #include "client/state.h"
 #include "exports/guarded.h"
-#include "resolve/page_target.h"
 
 namespace velmohelp {
 namespace {
 
 constexpr char kHomePage[] = "VX_HOME.html";
+constexpr unsigned char kTargetFound = 0;
 
 /// What OpenURL answers, in this operation's numbers. A configuration that has
 /// become unreadable is no result that a display of a URL has a name for.

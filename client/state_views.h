@@ -5,7 +5,7 @@
 #include "client/state.h"
 #include "config/help_config.h"
 #include "platform/help_tool.h"
-#include "resolve/page_target.h"
+#include "resolve/content_folders.h"
 
 namespace velmohelp {
 

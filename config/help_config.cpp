@@ -1,16 +1,18 @@
 #include "config/help_config.h"
 
+#include "config/key_file.h"
+#include "util/str_cat.h"
+
 namespace velmohelp {
 namespace {
 
 /// A locale is five bytes: language, underscore, region.
 constexpr std::size_t kLocaleLength = 5;
 
-/// The ids of the viewer, and whether one is named at all: "NULL" names none.
-void TakeViewerIds(const XMLParser& file, HelpConfigState state) {
-  state.app_id = file.GetKey("appId");
-  state.publisher_id = file.GetKey("pubId");
-  state.app_id_is_null = StringToUpper(state.app_id) == "NULL";
+void AssignViewerIds(std::string_view text, const HelpConfigState& state) {
+  state.app_id = ScanKey(text, "appId");
+  state.publisher_id = ScanKey(text, "pubId");
+  state.app_id_is_null = ToUpper(state.app_id) == "NULL";
   if (!state.app_id_is_null) return;
   state.app_id.clear();
   state.publisher_id.clear();
@@ -18,39 +20,42 @@ void TakeViewerIds(const XMLParser& file, HelpConfigState state) {
 
 }  // namespace
 
-std::uint32_t ReadHelpConfig(HelpConfigState state, const std::string& path) {
-  XMLParser file;
-  if (!file.ReadFileToBuffer(path)) return kConfigUnreadable;
-  // What is assigned before a value is rejected stays: there is no roll-back.
-  state.config_id = file.GetKey("id");
-  if (state.config_id.size() < kLocaleLength) return kConfigInvalid;
-  if (state.config_id != state.locale + "_" + state.product_id) {
-    return kConfigInvalid;
+HelpConfigStatus ReadHelpConfig(const HelpConfigState& state,
+                                const std::string& path) {
+  std::string text;
+  if (!ReadKeyFile(path, text)) return HelpConfigStatus::kUnreadable;
+  state.config_id = ScanKey(text, "id");
+  if (state.config_id.size() < kLocaleLength) return HelpConfigStatus::kInvalid;
+  if (state.config_id != StrCat({state.locale, "_", state.product_id})) {
+    return HelpConfigStatus::kInvalid;
   }
   state.locale = state.config_id.substr(0, kLocaleLength);
-  state.base_url = file.GetKey("baseUrl");
-  if (state.base_url.empty()) return kConfigInvalid;
-  file.PopulatePathArray(state.help_paths, state.help_path_count);
-  return kConfigAccepted;
+  state.base_url = ScanKey(text, "baseUrl");
+  if (state.base_url.empty()) return HelpConfigStatus::kInvalid;
+  ScanContentFolders(text, state.help_paths, state.help_path_count);
+  return HelpConfigStatus::kAccepted;
 }
 
-std::uint32_t UpdateHelpConfig(Machine& machine, HelpConfigState state,
-                               std::string locale) {
+HelpConfigStatus UpdateHelpConfig(Machine& machine,
+                                  const HelpConfigState& state,
+                                  const std::string& locale) {
   state.help_path_count = kHelpPathCapacity;
+  // Each read may replace the state's locale, and the argument with it.
+  const std::string asked_locale = locale;
   const std::string installed =
-      GetHelpConfigPath(machine, state.product_id, locale);
-  XMLParser file;
-  if (!file.ReadFileToBuffer(installed)) return kConfigUnreadable;
-  const std::string folder = file.GetKey("path");
-  if (folder.empty()) return kConfigInvalid;
-  TakeViewerIds(file, state);
-  const std::string downloaded = GetDownloadedHelpConfigPath(
+      InstalledConfigPath(machine, state.product_id, asked_locale);
+  std::string text;
+  if (!ReadKeyFile(installed, text)) return HelpConfigStatus::kUnreadable;
+  const std::string_view folder = ScanKey(text, "path");
+  if (folder.empty()) return HelpConfigStatus::kInvalid;
+  AssignViewerIds(text, state);
+  const std::string downloaded = DownloadedConfigPath(
       machine, state.downloaded_suffix, folder, state.product_id);
   if (!machine.FileExists(downloaded)) return ReadHelpConfig(state, installed);
-  const std::uint32_t result = ReadHelpConfig(state, downloaded);
-  if (result == kConfigAccepted) return result;
-  return ReadHelpConfig(state,
-                        GetHelpConfigPath(machine, state.product_id, locale));
+  const HelpConfigStatus status = ReadHelpConfig(state, downloaded);
+  if (status == HelpConfigStatus::kAccepted) return status;
+  return ReadHelpConfig(
+      state, InstalledConfigPath(machine, state.product_id, asked_locale));
 }
 
 }  // namespace velmohelp

@@ -1,22 +1,30 @@
-// Help configuration files: finding, reading and checking one.
+// Help configuration files (".helpcfg"): finding, reading and checking one.
 #ifndef CONFIG_HELP_CONFIG_H_
 #define CONFIG_HELP_CONFIG_H_
 
-#include <velmohelp/config.h>
-
 #include <cstdint>
 #include <string>
+#include <string_view>
 
+#include "config/key_scanner.h"
 #include "platform/machine.h"
 
 namespace velmohelp {
 
-/// The variables that a configuration read uses and fills. A view of the
-/// caller's state, valid for one call.
+/// What became of a read.
+enum class HelpConfigStatus : std::uint32_t {
+  kAccepted = 0,
+  kUnreadable = 6,
+  /// A required value is missing, or "id" is not that of locale and product.
+  kInvalid = 7,
+};
+
+/// The variables that a configuration read uses and fills, which the caller
+/// owns.
 struct HelpConfigState {
   const std::string& product_id;
-  /// Ends the path of the downloaded configurations below the Preferences
-  /// folder; empty until the first initialisation has got that far.
+  /// The end of the path of the downloaded configurations below the Preferences
+  /// folder; empty until the first initialisation has built it.
   const std::string& downloaded_suffix;
   std::string& locale;
   std::string& config_id;
@@ -24,34 +32,37 @@ struct HelpConfigState {
   std::string& app_id;
   std::string& publisher_id;
   bool& app_id_is_null;
-  std::string (*help_paths)[2];
+  /// kHelpPathCapacity rows.
+  ContentFolderRow* help_paths;
   std::int32_t& help_path_count;
 };
 
-/// How many rows help_paths has.
 inline constexpr std::int32_t kHelpPathCapacity = 100;
 
-/// See ITEMInternal::GetHelpConfigPath.
-std::string GetHelpConfigPath(Machine& machine, const std::string& product,
-                              const std::string& locale);
+/// "<host resources>/help/<locale>/<product>.helpcfg".
+std::string InstalledConfigPath(Machine& machine, std::string_view product,
+                                std::string_view locale);
 
-/// See ITEMInternal::GetDownloadedHelpConfigPath; suffix is kDownloadedHelpcfg.
-std::string GetDownloadedHelpConfigPath(Machine& machine,
-                                        const std::string& suffix,
-                                        const std::string& first,
-                                        const std::string& second);
+/// "<user Preferences><suffix>/<folder>/<product>.helpcfg".
+std::string DownloadedConfigPath(Machine& machine, const std::string& suffix,
+                                 std::string_view folder,
+                                 std::string_view product);
 
-/// See ITEMInternal::GetHelpConfigName.
-std::string GetHelpConfigName(Machine& machine, const std::string& a,
-                              const std::string& b);
+/// The host preference "HelpcfgName" of the domain "com.velmo.<a>.<b>"; "" when
+/// a or b is empty or nothing is set.
+std::string PreferredConfigName(Machine& machine, std::string_view a,
+                                std::string_view b);
 
-/// See ::ReadHelpcfg.
-std::uint32_t ReadHelpConfig(HelpConfigState state, const std::string& path);
+/// Reads one file. What was assigned before a value is rejected stays.
+HelpConfigStatus ReadHelpConfig(const HelpConfigState& state,
+                                const std::string& path);
 
-/// See ::UpdateHelpConfigInfo. locale is a copy, because the read replaces the
-/// state's own.
-std::uint32_t UpdateHelpConfig(Machine& machine, HelpConfigState state,
-                               std::string locale);
+/// Reads the configuration of the state's product in a locale, which may be the
+/// state's own: the downloaded file when there is a valid one, else the
+/// installed one.
+HelpConfigStatus UpdateHelpConfig(Machine& machine,
+                                  const HelpConfigState& state,
+                                  const std::string& locale);
 
 }  // namespace velmohelp
 

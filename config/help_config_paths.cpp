@@ -1,42 +1,40 @@
 #include "config/help_config.h"
 #include "platform/folders.h"
 #include "platform/preference.h"
+#include "util/str_cat.h"
 #include "util/text_buffer.h"
 
 namespace velmohelp {
 namespace {
 
-constexpr char kFallbackDirectory[] =
-    "/Library/Application Support/Velmo/HelpCfg";
-constexpr char kExtension[] = ".helpcfg";
+constexpr std::string_view kExtension = ".helpcfg";
 
 std::string ResourcesDirectory(Machine& machine) {
-  const auto directory = machine.ResourcesDirectory();
-  return directory && FitsTextBuffer(*directory) ? *directory
-                                                 : kFallbackDirectory;
+  auto directory = machine.ResourcesDirectory();
+  if (directory && FitsTextBuffer(*directory)) return std::move(*directory);
+  return "/Library/Application Support/Velmo/HelpCfg";
 }
 
 }  // namespace
 
-std::string GetHelpConfigPath(Machine& machine, const std::string& product,
-                              const std::string& locale) {
-  return ResourcesDirectory(machine) + "/help/" + locale + "/" + product +
-         kExtension;
+std::string InstalledConfigPath(Machine& machine, std::string_view product,
+                                std::string_view locale) {
+  return StrCat({ResourcesDirectory(machine), "/help/", locale, "/", product,
+                 kExtension});
 }
 
-std::string GetDownloadedHelpConfigPath(Machine& machine,
-                                        const std::string& suffix,
-                                        const std::string& first,
-                                        const std::string& second) {
-  return BelowPreferences(machine, suffix) + "/" + first + "/" + second +
-         kExtension;
+std::string DownloadedConfigPath(Machine& machine, const std::string& suffix,
+                                 std::string_view folder,
+                                 std::string_view product) {
+  return StrCat({BelowPreferences(machine, suffix), "/", folder, "/", product,
+                 kExtension});
 }
 
-std::string GetHelpConfigName(Machine& machine, const std::string& a,
-                              const std::string& b) {
+std::string PreferredConfigName(Machine& machine, std::string_view a,
+                                std::string_view b) {
   if (a.empty() || b.empty()) return "";
-  return PreferenceText(machine, "com.velmo." + a + "." + b, "HelpcfgName",
-                        PreferenceScope::kAnyUserCurrentHost);
+  return PreferenceText(machine, StrCat({"com.velmo.", a, ".", b}),
+                        "HelpcfgName", PreferenceScope::kAnyUserCurrentHost);
 }
 
 }  // namespace velmohelp

@@ -1,7 +1,5 @@
 #include "config/key_scanner.h"
 
-#include <velmohelp/config.h>
-
 #include <cctype>
 #include <optional>
 
@@ -12,18 +10,26 @@ constexpr std::size_t kNone = std::string_view::npos;
 constexpr std::string_view kPathKey = "path";
 constexpr std::string_view kFlagKey = "contextSensitivity";
 
-/// What an escaped quote leads to: the search is repeated from the quote that
-/// it has found, and finds it again. The write keeps a compiler from dropping
-/// a loop that does nothing else.
-[[noreturn]] void ScanForEver(std::size_t quote) {
+/// After an escaped quote the search starts again at that same quote and finds
+/// it again, forever. The volatile write is a side effect: without one, a
+/// compiler may drop the loop.
+[[noreturn]] void ScanForever(std::size_t quote) {
   for (;;) {
     [[maybe_unused]] const volatile std::size_t found = quote;
   }
 }
 
-/// The value of the key at an occurrence, which is taken to be followed by
-/// `="` unseen. The search for the closing quote starts one byte into the
-/// value, so an empty value runs on to the next quote. nullopt without one.
+/// The value of the key at an occurrence. The two bytes after the key are taken
+/// for `="` unseen, and the search for the closing quote starts one byte into
+/// the value, so an empty value runs on to the next quote:
+///
+///   path="a\"b"          path="" x="y"
+///   |     |    |          |     |   |
+///   |     |    closing    |     |   closing
+///   |     start           |     start
+///   occurrence            occurrence
+///
+/// nullopt without a closing quote.
 std::optional<std::string_view> ValueAt(std::string_view text,
                                         std::size_t occurrence,
                                         std::string_view key) {
@@ -38,24 +44,26 @@ std::optional<std::string_view> ValueAt(std::string_view text,
 }
 
 /// The first "path" is the configuration's own key, not a content folder's.
-void FillFolders(std::string_view text, std::string (*table)[2], int count) {
+void FillFolders(std::string_view text, ContentFolderRow* rows,
+                 std::int32_t count) {
   std::size_t occurrence = text.find(kPathKey);
-  for (int row = 0; row < count; ++row) {
+  for (std::int32_t row = 0; row < count; ++row) {
     occurrence = text.find(kPathKey, occurrence + 1);
     if (occurrence == kNone) return;
     const auto value = ValueAt(text, occurrence, kPathKey);
     if (!value) return;
-    table[row][0] = *value;
+    rows[row][0] = *value;
   }
 }
 
-int FillFlags(std::string_view text, std::string (*table)[2], int count) {
+std::int32_t FillFlags(std::string_view text, ContentFolderRow* rows,
+                       std::int32_t count) {
   std::size_t occurrence = text.find(kFlagKey);
-  int row = 0;
+  std::int32_t row = 0;
   for (; row < count && occurrence != kNone; ++row) {
     const auto value = ValueAt(text, occurrence, kFlagKey);
     if (!value) break;
-    table[row][1] = StringToUpper(std::string(*value));
+    rows[row][1] = ToUpper(*value);
     occurrence = text.find(kFlagKey, occurrence + 1);
   }
   return row;
@@ -72,21 +80,29 @@ std::string_view ScanKey(std::string_view text, std::string_view key) {
   if (opening == kNone) return {};
   const std::size_t closing = text.find('"', opening + 1);
   if (closing == kNone) return {};
-  if (text[closing - 1] == '\\') ScanForEver(closing);
+  if (text[closing - 1] == '\\') ScanForever(closing);
   return text.substr(opening + 1, closing - opening - 1);
 }
 
-void ScanPathTable(std::string_view text, std::string (*table)[2], int& count) {
+std::string ScanValue(std::string_view text, std::string_view key) {
+  const std::string_view value = ScanKey(text, key);
+  const bool is_setting = key == "accessibleMode" || key == "localHelp";
+  return is_setting ? ToUpper(value) : std::string(value);
+}
+
+void ScanContentFolders(std::string_view text, ContentFolderRow* rows,
+                        std::int32_t& count) {
   if (text.find(kPathKey) == kNone) return;
-  FillFolders(text, table, count);
-  count = FillFlags(text, table, count);
+  FillFolders(text, rows, count);
+  count = FillFlags(text, rows, count);
+}
+
+std::string ToUpper(std::string_view text) {
+  std::string upper(text);
+  for (char& byte : upper) {
+    byte = static_cast<char>(std::toupper(static_cast<unsigned char>(byte)));
+  }
+  return upper;
 }
 
 }  // namespace velmohelp
-
-std::string StringToUpper(std::string text) {
-  for (char& byte : text) {
-    byte = static_cast<char>(std::toupper(static_cast<unsigned char>(byte)));
-  }
-  return text;
-}

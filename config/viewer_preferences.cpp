@@ -1,27 +1,26 @@
-#include <velmohelp/config.h>
-#include <velmohelp/state.h>
+#include "config/viewer_preferences.h"
 
-const char* kTrue = "TRUE";
-const char* kFalse = "FALSE";
+#include "config/key_file.h"
+#include "config/key_scanner.h"
 
+namespace velmohelp {
 namespace {
 
-constexpr int kViewerAllowed = 1;
-constexpr int kViewerRefused = 2;
-
-/// A file that cannot be read says nothing, so every setting of it is off.
-bool IsTrueIn(const std::string& path, const char* key) {
-  XMLParser parser;
-  parser.ReadFileToBuffer(path);
-  return parser.GetKey(key) == kTrue;
+/// A file that cannot be read has no settings.
+bool IsSet(const std::string& path, const char* setting) {
+  std::string text;
+  ReadKeyFile(path, text);
+  return ScanValue(text, setting) == "TRUE";
 }
 
 }  // namespace
 
-int GetKLHFilePreferenceForHelpApp(std::string path) {
-  return IsTrueIn(path, "accessibleMode") ? kViewerRefused : kViewerAllowed;
+bool IsViewerAllowed(const std::string& preference_file) {
+  return !IsSet(preference_file, "accessibleMode");
 }
 
-bool GetPreferenceSettingsForNetwork(std::string path) {
-  return !IsTrueIn(path, "localHelp");
+bool IsNetworkHelpAllowed(const std::string& preference_file) {
+  return !IsSet(preference_file, "localHelp");
 }
+
+}  // namespace velmohelp

@@ -1,33 +1,80 @@
 #include <velmohelp/config.h>
 
 #include "client/state_views.h"
+#include "config/help_config.h"
+#include "config/key_file.h"
+#include "config/key_scanner.h"
+#include "config/viewer_preferences.h"
 #include "exports/this_machine.h"
 
 using velmohelp::ConfigView;
+using velmohelp::HelpConfigStatus;
 using velmohelp::ThisMachine;
 
+namespace {
+
+constexpr int kViewerAllowed = 1;
+constexpr int kViewerRefused = 2;
+
+constexpr std::uint32_t ResultOf(HelpConfigStatus status) {
+  return static_cast<std::uint32_t>(status);
+}
+static_assert(ResultOf(HelpConfigStatus::kAccepted) == kConfigAccepted);
+static_assert(ResultOf(HelpConfigStatus::kUnreadable) == kConfigUnreadable);
+static_assert(ResultOf(HelpConfigStatus::kInvalid) == kConfigInvalid);
+
+}  // namespace
+
+XMLParser::XMLParser() = default;
+
+bool XMLParser::ReadFileToBuffer(std::string path) {
+  return velmohelp::ReadKeyFile(path, buffer_);
+}
+
+std::string XMLParser::GetKey(std::string key) const {
+  return velmohelp::ScanValue(buffer_, key);
+}
+
+std::string XMLParser::StringToUpper(std::string text) {
+  return velmohelp::ToUpper(text);
+}
+
+void XMLParser::PopulatePathArray(std::string (*table)[2], int& count) const {
+  velmohelp::ScanContentFolders(buffer_, table, count);
+}
+
+std::string StringToUpper(std::string text) { return velmohelp::ToUpper(text); }
+
 std::uint32_t ReadHelpcfg(std::string path) {
-  return velmohelp::ReadHelpConfig(ConfigView(), path);
+  return ResultOf(velmohelp::ReadHelpConfig(ConfigView(), path));
 }
 
 std::uint32_t UpdateHelpConfigInfo(std::string locale) {
-  return velmohelp::UpdateHelpConfig(ThisMachine(), ConfigView(),
-                                     std::move(locale));
+  return ResultOf(
+      velmohelp::UpdateHelpConfig(ThisMachine(), ConfigView(), locale));
+}
+
+int GetKLHFilePreferenceForHelpApp(std::string path) {
+  return velmohelp::IsViewerAllowed(path) ? kViewerAllowed : kViewerRefused;
+}
+
+bool GetPreferenceSettingsForNetwork(std::string path) {
+  return velmohelp::IsNetworkHelpAllowed(path);
 }
 
 namespace ITEMInternal {
 
 std::string GetHelpConfigPath(std::string product, std::string locale) {
-  return velmohelp::GetHelpConfigPath(ThisMachine(), product, locale);
+  return velmohelp::InstalledConfigPath(ThisMachine(), product, locale);
 }
 
 std::string GetDownloadedHelpConfigPath(std::string first, std::string second) {
-  return velmohelp::GetDownloadedHelpConfigPath(
-      ThisMachine(), kDownloadedHelpcfg, first, second);
+  return velmohelp::DownloadedConfigPath(ThisMachine(), kDownloadedHelpcfg,
+                                         first, second);
 }
 
 std::string GetHelpConfigName(std::string a, std::string b) {
-  return velmohelp::GetHelpConfigName(ThisMachine(), a, b);
+  return velmohelp::PreferredConfigName(ThisMachine(), a, b);
 }
 
 }  // namespace ITEMInternal

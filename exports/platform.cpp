@@ -5,7 +5,9 @@
 #include "platform/folders.h"
 #include "platform/help_tool.h"
 #include "platform/launch.h"
+#include "util/text_encoding.h"
 
+using Encoding = velmohelp::TextEncoding;
 using velmohelp::ThisMachine;
 
 namespace ITEMInternal {
@@ -48,6 +50,26 @@ std::string GetDownloadedContentPath() {
 
 std::int16_t GetFSRefFromPath(std::string path, FileReference& out) {
   return velmohelp::GetFsRefFromPath(ThisMachine(), path, out);
+}
+
+static_assert(Encoding{kTextEncodingMacRoman} == Encoding::kMacRoman);
+static_assert(Encoding{kTextEncodingAscii} == Encoding::kAscii);
+static_assert(Encoding{kTextEncodingUtf8} == Encoding::kUtf8);
+
+std::string GetString(const PlatformString* text, std::uint32_t encoding) {
+  if (text == nullptr) return "";
+  return velmohelp::EncodeText(text->utf8(), Encoding{encoding});
+}
+
+char* GetCharFromCFStringRef(const PlatformString* text) {
+  return text == nullptr ? nullptr : velmohelp::AllocateUtf8(text->utf8());
+}
+
+std::unique_ptr<const PlatformString> CstrToNSstr(const char* text) {
+  if (text == nullptr) return nullptr;
+  auto utf8 = velmohelp::DecodeText(text, Encoding::kUtf8);
+  if (!utf8) return nullptr;
+  return std::make_unique<const PlatformString>(std::move(*utf8));
 }
 
 }  // namespace ITEMInternal

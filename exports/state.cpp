@@ -21,6 +21,8 @@ std::string sPublisherID;
 std::map<std::string, std::string> sHelpMap;
 std::string sDefaultAppID = "klh";
 std::string sDefaultPublisherID = "9C3A51F07B26D48E15A0C7F3B9D2E6418A75C0D2.1";
+const char* kTrue = "TRUE";
+const char* kFalse = "FALSE";
 
 namespace velmohelp {
 

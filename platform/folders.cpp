@@ -1,11 +1,11 @@
 #include "platform/folders.h"
 
 #include <velmohelp/platform.h>
-#include <velmohelp/text.h>
 #include <velmohelp_locations.h>
 
+#include "util/path_join.h"
 #include "util/percent_encoding.h"
-#include "util/platform_string.h"
+#include "util/text_encoding.h"
 #include "util/uri.h"
 
 namespace velmohelp {
@@ -15,9 +15,9 @@ constexpr std::int16_t kFileNotFound = -43;
 constexpr std::int16_t kNotAFile = -1302;
 constexpr std::int16_t kNoSuchReference = -1403;
 
-/// Null when what the escapes stand for is no text.
-PlatformStringPtr WithoutEscapes(std::string_view text) {
-  return MakePlatformString(Unescaped(text), ITEMInternal::kTextEncodingUtf8);
+/// nullopt when the unescaped bytes are not valid UTF-8.
+std::optional<std::string> WithoutEscapes(std::string_view text) {
+  return DecodeText(Unescaped(text), TextEncoding::kUtf8);
 }
 
 /// The path of a URL in the file system. Escapes are taken off twice, first
@@ -28,9 +28,8 @@ PlatformStringPtr WithoutEscapes(std::string_view text) {
 std::optional<std::string> FileSystemPathOf(const std::string& url) {
   const auto path = WithoutEscapes(PathOfUri(url));
   if (!path) return std::nullopt;
-  const auto file_path = WithoutEscapes(path->utf8());
-  return ITEMInternal::GetString(file_path.get(),
-                                 ITEMInternal::kTextEncodingUtf8);
+  const auto file_path = WithoutEscapes(*path);
+  return file_path ? EncodeText(*file_path, TextEncoding::kUtf8) : "";
 }
 
 std::string WithoutFinalSlash(std::string path) {
@@ -56,9 +55,9 @@ std::string BelowPreferences(Machine& machine, const std::string& suffix) {
 
 std::int16_t GetFsRefFromPath(Machine& machine, const std::string& path,
                               ITEMInternal::FileReference& out) {
-  const auto text = MakePlatformString(path, ITEMInternal::kTextEncodingUtf8);
+  const auto text = DecodeText(path, TextEncoding::kUtf8);
   if (!text) return kNoSuchReference;
-  const std::string escaped = EscapeForUri(text->utf8());
+  const std::string escaped = EscapeForUri(*text);
   if (!IsUri(escaped)) return kNoSuchReference;
   const auto file_path = FileSystemPathOf(escaped);
   if (!file_path) return kNoSuchReference;
@@ -79,5 +78,5 @@ std::string ITEMInternal::GetHelpContentDirectory(std::string first,
                                                   std::string second) {
   const std::string base =
       velmohelp::WithoutFinalSlash(velmohelp::kInstalledHelpDir);
-  return AppendToPath(AppendToPath(base, second), first);
+  return velmohelp::JoinPath(velmohelp::JoinPath(base, second), first);
 }

@@ -1,7 +1,9 @@
 #include "platform/help_tool.h"
 
-#include "util/platform_string.h"
+#include <utility>
+
 #include "util/text_buffer.h"
+#include "util/text_encoding.h"
 
 namespace velmohelp {
 namespace {
@@ -23,12 +25,10 @@ std::optional<std::string> ToolPath(Machine& machine) {
 /// end is the tool's, everything else belongs to the path.
 std::string PathFromOutput(const std::string& output) {
   if (output.find('\0') != std::string::npos) return "";
-  const auto text =
-      MakePlatformString(output, ITEMInternal::kTextEncodingAscii);
-  if (!text || !FitsTextBuffer(text->utf8())) return "";
-  std::string path = text->utf8();
-  if (path.ends_with('\n')) path.pop_back();
-  return path;
+  auto path = DecodeText(output, TextEncoding::kAscii);
+  if (!path || !FitsTextBuffer(*path)) return "";
+  if (path->ends_with('\n')) path->pop_back();
+  return std::move(*path);
 }
 
 std::string ExecutableOf(Machine& machine, const std::string& directory) {

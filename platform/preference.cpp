@@ -1,34 +1,20 @@
 #include "platform/preference.h"
 
-#include <cstdlib>
+#include <utility>
 
-#include "util/platform_string.h"
+#include "util/c_string.h"
+#include "util/mac_roman.h"
+#include "util/text_encoding.h"
 
 namespace velmohelp {
-namespace {
-
-using ITEMInternal::GetCharFromCFStringRef;
-
-PlatformStringPtr NameOf(const std::string& bytes) {
-  return MakePlatformString(bytes, ITEMInternal::kTextEncodingMacRoman);
-}
-
-std::string TextOf(const std::string& value) {
-  const auto text = MakePlatformString(value, ITEMInternal::kTextEncodingUtf8);
-  const std::unique_ptr<char, decltype(&std::free)> bytes(
-      GetCharFromCFStringRef(text.get()), &std::free);
-  return bytes ? bytes.get() : "";
-}
-
-}  // namespace
 
 std::string PreferenceText(Machine& machine, const std::string& domain,
                            const std::string& key, PreferenceScope scope) {
-  const auto domain_name = NameOf(domain);
-  const auto key_name = NameOf(key);
-  const auto value =
-      machine.Preference(domain_name->utf8(), key_name->utf8(), scope);
-  return value ? TextOf(*value) : "";
+  const auto value = machine.Preference(MacRomanToUtf8(UpToZero(domain)),
+                                        MacRomanToUtf8(UpToZero(key)), scope);
+  if (!value) return "";
+  auto text = DecodeText(*value, TextEncoding::kUtf8);
+  return text && FitsMaximumSize(*text) ? std::move(*text) : "";
 }
 
 }  // namespace velmohelp

@@ -1,11 +1,10 @@
 #include "resolve/page_target.h"
 
-#include <velmohelp/platform.h>
-#include <velmohelp/resolve.h>
-#include <velmohelp/text.h>
-
-#include "platform/folders.h"
+#include "resolve/help_map/help_map.h"
+#include "resolve/page_id.h"
 #include "resolve/url_check.h"
+#include "util/path_join.h"
+#include "util/str_cat.h"
 
 namespace velmohelp {
 namespace {
@@ -16,101 +15,106 @@ struct Search {
   const HelpContent& content;
   const std::string& page_id;
   bool online;
-  HelpMapsRead& maps;
+  LazyHelpMap& help_map;
   std::string& out;
 };
 
-/// The key of a page id: without the ".html" that normalisation put there.
-/// Five bytes are cut whatever they are.
-std::string KeyOf(const std::string& page_id) {
+/// A content folder. The path is root + name, as the rows' authors wrote it.
+struct Folder {
+  const std::string& name;
+  std::string path;
+};
+
+/// The key of a page id: the id without the ".html" that normalisation
+/// appended. Five bytes are cut whatever they are.
+std::string_view KeyOf(std::string_view page_id) {
   constexpr std::size_t kSuffixLength = 5;
-  if (page_id.size() < kSuffixLength) return page_id;
-  return page_id.substr(0, page_id.size() - kSuffixLength);
+  if (page_id.size() >= kSuffixLength) page_id.remove_suffix(kSuffixLength);
+  return page_id;
 }
 
-std::string OnlineTarget(const Search& search, const std::string& folder,
-                         const std::string& page) {
-  return search.content.base_url + folder + "/" + page;
+std::string OnlineTarget(const Search& search, const Folder& folder,
+                         std::string_view page) {
+  return StrCat({search.content.base_url, folder.name, "/", page});
+}
+
+std::string LocalTarget(const Folder& folder, std::string_view page) {
+  return JoinPathWithSlash(folder.path, page);
 }
 
 /// "page.html#top" -> "page.html?nameAnchor=top": a file URL's fragment would
 /// not reach the help page's own script.
-std::string WithAnchorAsQuery(std::string page) {
+std::string WithAnchorAsQuery(std::string_view page) {
   const std::size_t anchor = page.find('#');
-  if (anchor != std::string::npos) page.replace(anchor, 1, "?nameAnchor=");
-  return page;
+  if (anchor == std::string_view::npos) return std::string(page);
+  return StrCat(
+      {page.substr(0, anchor), "?nameAnchor=", page.substr(anchor + 1)});
 }
 
 /// A mapped page is trusted to exist; only a mapped URL is checked, and with
 /// the state's flag: offline it is tested as a path, and fails.
-bool AcceptMapped(const Search& search, const std::string& folder,
-                  const std::string& directory, const std::string& value) {
-  if (isUrl(value)) {
-    if (!ValidateUrl(search.machine, value, search.content.is_online)) {
+bool AcceptMapped(const Search& search, const Folder& folder,
+                  std::string_view value) {
+  if (IsUrl(value)) {
+    std::string url(value);
+    if (!ValidateUrl(search.machine, url, search.content.is_online)) {
       return false;
     }
-    search.out = value;
+    search.out = std::move(url);
   } else if (search.online) {
     search.out = OnlineTarget(search, folder, value);
   } else {
-    search.out = AppentPath(directory, WithAnchorAsQuery(value));
+    search.out = LocalTarget(folder, WithAnchorAsQuery(value));
   }
   return true;
 }
 
-/// A folder with a help map is trusted to list all its pages: a page that the
-/// map does not know is not looked for beside it.
-bool AcceptFromMap(const Search& search, const std::string& folder,
-                   const std::string& directory, const std::string& map_path) {
-  search.maps.Read(map_path);
-  if (const auto value = search.maps.Find(KeyOf(search.page_id))) {
-    return AcceptMapped(search, folder, directory, std::string(*value));
+/// A folder with a help map is trusted to list all its pages: a page that is
+/// not in the map is not looked for in the folder.
+bool AcceptFromMap(const Search& search, const Folder& folder,
+                   const std::string& map_path) {
+  search.help_map.Read(map_path);
+  if (const auto value = search.help_map.Find(KeyOf(search.page_id))) {
+    return AcceptMapped(search, folder, *value);
   }
-  if (!search.online) search.out = AppentPath(directory, search.page_id);
+  if (!search.online) search.out = LocalTarget(folder, search.page_id);
   return false;
 }
 
-bool AcceptUnmapped(const Search& search, const std::string& folder,
-                    const std::string& directory) {
+bool AcceptUnmapped(const Search& search, const Folder& folder) {
   search.out = search.online ? OnlineTarget(search, folder, search.page_id)
-                             : AppentPath(directory, search.page_id);
+                             : LocalTarget(folder, search.page_id);
   return ValidateUrl(search.machine, search.out, search.online);
 }
 
-bool AcceptFolder(const Search& search, const std::string& root,
-                  const std::string& folder) {
-  const std::string directory = root + folder;
-  const std::string map_path = directory + "//" + kHelpMapName;
+bool AcceptFolder(const Search& search, const Folder& folder) {
+  const std::string map_path = StrCat({folder.path, "//", kHelpMapName});
   return search.machine.FileExists(map_path)
-             ? AcceptFromMap(search, folder, directory, map_path)
-             : AcceptUnmapped(search, folder, directory);
-}
-
-bool AcceptBelow(const Search& search, const std::string& root) {
-  for (std::uint32_t i = 0; i < search.content.row_count; ++i) {
-    const auto& [folder, mark] = search.content.rows[i];
-    if (mark == kFolderTakesPart && AcceptFolder(search, root, folder)) {
-      return true;
-    }
-  }
-  return false;
+             ? AcceptFromMap(search, folder, map_path)
+             : AcceptUnmapped(search, folder);
 }
 
 }  // namespace
 
-unsigned char ValidateId(Machine& machine, const HelpContent& content,
-                         const std::string& page_id, bool online,
-                         HelpMap& help_map, std::string& out) {
-  HelpMapsRead maps(help_map);
-  const Search search{machine, content, page_id, online, maps, out};
-  const bool found = maps.KeepLast([&] {
-    return AcceptBelow(search,
-                       BelowPreferences(machine, content.downloaded_suffix)) ||
-           AcceptBelow(search, ITEMInternal::GetInstalledContentPath() + "/");
+bool FindPageTarget(Machine& machine, const HelpContent& content,
+                    const std::string& page_id, bool online, HelpMap& help_map,
+                    std::string& out) {
+  LazyHelpMap lazy_map(help_map);
+  const Search search{.machine = machine,
+                      .content = content,
+                      .page_id = page_id,
+                      .online = online,
+                      .help_map = lazy_map,
+                      .out = out};
+  const bool found = lazy_map.BuildAfter([&] {
+    return AnyLocalFolder(
+        machine, content,
+        [&](const std::string& root, const std::string& name) {
+          return AcceptFolder(search, {.name = name, .path = root + name});
+        });
   });
-  if (found) return kTargetFound;
-  out = page_id;
-  return kTargetNotFound;
+  if (!found) out = page_id;
+  return found;
 }
 
 }  // namespace velmohelp

@@ -1,38 +1,25 @@
-#include <velmohelp/platform.h>
-#include <velmohelp/resolve.h>
+#include "resolve/search_page.h"
 
-#include "client/state.h"
-#include "resolve/page_target.h"
+#include "resolve/url_check.h"
+#include "util/str_cat.h"
 
 namespace velmohelp {
-namespace {
 
-/// The search page of the first content folder below root that has one.
-bool FindBelow(const std::string& root, std::string& page) {
-  for (std::int32_t row = 0; row < sHelpPathCount; ++row) {
-    const auto& [folder, mark] = sHelpPaths[row];
-    if (mark != kFolderTakesPart) continue;
-    const std::string candidate = root + folder + "/search.html";
-    if (ITEMInternal::ValidateURL(candidate, sIsOnline)) {
-      page = candidate;
-      return true;
-    }
-  }
-  return false;
+std::optional<std::string> FindSearchPage(Machine& machine,
+                                          const HelpContent& content) {
+  std::string page;
+  const auto accept = [&](const std::string& root, const std::string& name) {
+    page = StrCat({root, name, "/search.html"});
+    return ValidateUrl(machine, page, content.is_online);
+  };
+  const bool found = content.is_online
+                         ? AnyFolder(content,
+                                     [&](const std::string& name) {
+                                       return accept(content.base_url, name);
+                                     })
+                         : AnyLocalFolder(machine, content, accept);
+  if (!found) return std::nullopt;
+  return page;
 }
 
-bool FindLocally(std::string& page) {
-  return FindBelow(ITEMInternal::GetDownloadedContentPath(), page) ||
-         FindBelow(ITEMInternal::GetInstalledContentPath() + "/", page);
-}
-
-}  // namespace
 }  // namespace velmohelp
-
-bool GetSearchPage(std::string& page, std::string /*locale*/,
-                   std::string /*paths*/[][2]) {
-  using namespace velmohelp;
-  const bool found = sIsOnline ? FindBelow(sBaseUrl, page) : FindLocally(page);
-  if (!found) page.clear();
-  return found;
-}

@@ -8,7 +8,8 @@
 
 namespace velmohelp {
 
-/// See ITEMInternal::ValidateURL.
+/// fetch: target is a URI, and a text could be loaded from it, whole; blocks
+/// meanwhile. Otherwise: something exists at the path target.
 bool ValidateUrl(Machine& machine, const std::string& target, bool fetch);
 
 }  // namespace velmohelp

@@ -1,13 +1,17 @@
-#include <velmohelp/text.h>
+#include "util/path_join.h"
 
-std::string AppentPath(std::string base, std::string leaf) {
-  if (!base.ends_with('/')) base += '/';
-  return base + leaf;
+#include "util/str_cat.h"
+
+namespace velmohelp {
+
+std::string JoinPath(std::string_view base, std::string_view leaf) {
+  if (base.empty()) return std::string(leaf);
+  if (leaf.empty()) return std::string(base);
+  return JoinPathWithSlash(base, leaf);
 }
 
-std::string ITEMInternal::AppendToPath(const std::string& base,
-                                       const std::string& leaf) {
-  if (base.empty()) return leaf;
-  if (leaf.empty()) return base;
-  return AppentPath(base, leaf);
+std::string JoinPathWithSlash(std::string_view base, std::string_view leaf) {
+  return StrCat({base, base.ends_with('/') ? "" : "/", leaf});
 }
+
+}  // namespace velmohelp

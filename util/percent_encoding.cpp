@@ -1,7 +1,5 @@
 #include "util/percent_encoding.h"
 
-#include <velmohelp/text.h>
-
 #include <algorithm>
 #include <array>
 #include <cstdint>
@@ -9,10 +7,12 @@
 #include <limits>
 
 #include "util/ascii.h"
-#include "util/platform_string.h"
 #include "util/search_term.h"
+#include "util/text_buffer.h"
+#include "util/text_encoding.h"
 #include "util/uri.h"
 
+namespace velmohelp {
 namespace {
 
 constexpr char kLowerHexDigits[] = "0123456789abcdef";
@@ -25,14 +25,19 @@ constexpr void WriteEscape(char* to, char byte, const char* digits) {
   to[2] = digits[value & 15];
 }
 
-/// What is written for a byte: one byte or three. The fourth is never part of
-/// a result; four are copied at once.
-struct Written {
+/// What is written for a byte: itself, or its escape of three bytes.
+///
+///   bytes   'a'  0   0   0     length 1
+///   bytes   '%' '2' '0'  0     length 3
+///
+/// All four bytes are copied at once; the next copy overwrites those beyond
+/// the length.
+struct Replacement {
   char bytes[4] = {};
   std::uint8_t length = 1;
 };
 
-using EscapeTable = std::array<Written, 256>;
+using EscapeTable = std::array<Replacement, 256>;
 
 constexpr EscapeTable EscapeAllBut(bool (*stays)(char), const char* digits) {
   EscapeTable table{};
@@ -48,39 +53,38 @@ constexpr EscapeTable EscapeAllBut(bool (*stays)(char), const char* digits) {
   return table;
 }
 
-constexpr bool StaysInSearchTerm(char byte) {
-  return velmohelp::StaysInSearchTerm(static_cast<unsigned char>(byte)) != 0;
+constexpr bool IsSearchTermByte(char byte) {
+  return StaysInSearchTerm(static_cast<unsigned char>(byte)) != 0;
 }
 
 constexpr EscapeTable kSearchTermTable =
-    EscapeAllBut(StaysInSearchTerm, kLowerHexDigits);
-constexpr EscapeTable kUriTable =
-    EscapeAllBut(velmohelp::IsUriCharacter, kUpperHexDigits);
+    EscapeAllBut(IsSearchTermByte, kLowerHexDigits);
+constexpr EscapeTable kUriTable = EscapeAllBut(IsUriCharacter, kUpperHexDigits);
 
-const Written& WrittenFor(char byte, const EscapeTable& table) {
+const Replacement& ReplacementOf(char byte, const EscapeTable& table) {
   return table[static_cast<unsigned char>(byte)];
 }
 
 std::size_t EscapedSize(std::string_view text, const EscapeTable& table) {
   std::size_t size = 0;
-  for (const char byte : text) size += WrittenFor(byte, table).length;
+  for (const char byte : text) size += ReplacementOf(byte, table).length;
   return size;
 }
 
-/// The result's size is known before its first byte is written: memory that
-/// grows is touched more than once, and that is most of the cost. Each byte is
-/// written without asking what it is: in running text nobody can guess which
-/// one is escaped, a processor neither.
+/// The table applied to every byte. size: the result's, counted before: memory
+/// that grows is touched more than once, which is most of the cost. The copy of
+/// each byte has no branch: in running text nobody, a processor neither, can
+/// guess which byte is escaped.
 std::string Escaped(std::string_view text, const EscapeTable& table,
                     std::size_t size) {
-  constexpr std::size_t kCopiedAtOnce = sizeof Written::bytes;
+  constexpr std::size_t kCopiedAtOnce = sizeof Replacement::bytes;
   if (size == text.size()) return std::string(text);
   std::string out(size + kCopiedAtOnce, '\0');
   char* to = out.data();
   for (const char byte : text) {
-    const Written& written = WrittenFor(byte, table);
-    std::memcpy(to, written.bytes, kCopiedAtOnce);
-    to += written.length;
+    const Replacement& replacement = ReplacementOf(byte, table);
+    std::memcpy(to, replacement.bytes, kCopiedAtOnce);
+    to += replacement.length;
   }
   out.resize(size);
   return out;
@@ -88,38 +92,50 @@ std::string Escaped(std::string_view text, const EscapeTable& table,
 
 }  // namespace
 
-/// Percent escapes are left out of what is escaped by going from one "%" to
-/// the next: between two of them the table decides alone.
-std::string velmohelp::EscapeForUri(std::string_view text) {
-  std::string out;
-  while (!text.empty()) {
-    const std::size_t length =
-        IsPercentEscape(text) ? 3 : std::min(text.find('%', 1), text.size());
-    const std::string_view piece = text.substr(0, length);
-    out += IsPercentEscape(text)
-               ? std::string(piece)
-               : Escaped(piece, kUriTable, EscapedSize(piece, kUriTable));
-    text.remove_prefix(length);
-  }
-  return out;
-}
-
-std::string char2hex(char byte) {
+std::string LowerHexDigits(char byte) {
   char escape[3];
   WriteEscape(escape, byte, kLowerHexDigits);
   return {escape + 1, escape + 3};
 }
 
-std::string urlencode(const std::string& text) {
-  // Lengths are signed 32-bit counts: 2 GiB and more count as less than none.
+std::string EscapeByte(char byte) {
+  char escape[3];
+  WriteEscape(escape, byte, kUpperHexDigits);
+  return {escape, escape + 3};
+}
+
+std::string EncodeSearchTerm(std::string_view text) {
+  // Lengths are signed 32-bit counts: 2 GiB and more count as negative.
   if (text.size() > std::numeric_limits<std::int32_t>::max()) return "";
-  const std::size_t escaped = text.size() - velmohelp::CountStaying(text);
+  const std::size_t escaped = text.size() - CountStaying(text);
   return Escaped(text, kSearchTermTable, text.size() + 2 * escaped);
 }
 
-std::string ITEMInternal::VelmoHelpEncodeURIComponent(const std::string& text) {
-  const auto original = velmohelp::MakePlatformString(text, kTextEncodingUtf8);
-  if (!original) return "";
-  const PlatformString escaped(velmohelp::EscapeForUri(original->utf8()));
-  return GetString(&escaped, kTextEncodingUtf8);
+/// Goes from one "%" to the next: an escape is copied, and between two of them
+/// the table decides alone.
+std::string EscapeForUri(std::string_view text) {
+  std::string out;
+  while (!text.empty()) {
+    const bool is_escape = IsPercentEscape(text);
+    const std::size_t length =
+        is_escape ? 3 : std::min(text.find('%', 1), text.size());
+    const std::string_view piece = text.substr(0, length);
+    if (is_escape) {
+      out += piece;
+    } else {
+      out += Escaped(piece, kUriTable, EscapedSize(piece, kUriTable));
+    }
+    text.remove_prefix(length);
+  }
+  return out;
 }
+
+std::string EncodeUriComponent(std::string_view text) {
+  const auto utf8 = DecodeText(text, TextEncoding::kUtf8);
+  if (!utf8) return "";
+  std::string escaped = EscapeForUri(*utf8);
+  if (!FitsTextBuffer(escaped)) return "";
+  return escaped;
+}
+
+}  // namespace velmohelp

@@ -3,15 +3,15 @@
 #define UTIL_TEXT_BUFFER_H_
 
 #include <cstddef>
-#include <string>
+#include <string_view>
 
 namespace velmohelp {
 
 /// Paths and encoded URLs pass through a buffer of this size.
 inline constexpr std::size_t kTextBufferSize = 1024;
 
-/// Whether text fits into the buffer with its terminating NUL.
-inline bool FitsTextBuffer(const std::string& text) {
+/// text fits into the buffer together with its terminating NUL.
+constexpr bool FitsTextBuffer(std::string_view text) {
   return text.size() < kTextBufferSize;
 }
 

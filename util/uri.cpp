@@ -1,5 +1,7 @@
 #include "util/uri.h"
 
+#include "util/c_string.h"
+
 namespace velmohelp {
 namespace {
 
@@ -49,10 +51,10 @@ bool IsUri(std::string_view text) {
   return true;
 }
 
-std::optional<std::string> UriOf(const std::string& text) {
-  std::string uri = text.substr(0, text.find('\0'));
+std::optional<std::string> UriOf(std::string_view text) {
+  const std::string_view uri = UpToZero(text);
   if (!IsUri(uri)) return std::nullopt;
-  return uri;
+  return std::string(uri);
 }
 
 std::string Unescaped(std::string_view text) {

@@ -10,7 +10,7 @@
 
 namespace velmohelp {
 
-/// A reserved or unreserved character: one that may stand in a URI as it is.
+/// A reserved or unreserved character: one that is legal in a URI unescaped.
 constexpr bool IsUriCharacter(char byte) {
   constexpr std::string_view kMarks = "-._~:/?#[]@!$&'()*+,;=";
   return IsAsciiAlnum(byte) || kMarks.find(byte) != std::string_view::npos;
@@ -19,21 +19,21 @@ constexpr bool IsUriCharacter(char byte) {
 /// text begins with "%" and two hexadecimal digits.
 bool IsPercentEscape(std::string_view text);
 
-/// text is not empty and made of URI characters and percent escapes alone.
+/// text is not empty and consists of URI characters and percent escapes only.
 bool IsUri(std::string_view text);
 
-/// The URI that text is up to its first zero byte, which is where platform
-/// calls see it end; nullopt when that is none.
-std::optional<std::string> UriOf(const std::string& text);
+/// The text up to its first zero byte, where platform calls see its end;
+/// nullopt when that is not a URI.
+std::optional<std::string> UriOf(std::string_view text);
 
-/// The path of a URI, as it stands there.
+/// The path of a URI, still escaped.
 std::string_view PathOfUri(std::string_view uri);
 
-/// text with its percent escapes replaced by the bytes that they stand for.
+/// text with each percent escape replaced by its byte.
 std::string Unescaped(std::string_view text);
 
 /// The host of a URI, unescaped, without user, port and the brackets of an IP
-/// literal; nullopt when it has none.
+/// literal; nullopt when the URI has no host.
 std::optional<std::string> HostOfUri(std::string_view uri);
 
 }  // namespace velmohelp

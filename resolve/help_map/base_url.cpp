@@ -1,12 +1,10 @@
-#include <velmohelp/resolve.h>
-
 #include "platform/open_file.h"
 #include "resolve/help_map/help_map.h"
 
 namespace velmohelp {
 namespace {
 
-/// -1 where text is not found: the rule below counts with it.
+/// -1 when text is not found: the rule below calculates with it.
 int PositionOf(const char* text, const std::string& in) {
   return static_cast<int>(in.find(text));
 }
@@ -24,8 +22,7 @@ std::string FirstLine(InputFile& file) {
   return line;
 }
 
-}  // namespace
-
+/// "http://[fe80::1%en0]/help" -> "http://[fe80::1%25en0]/help".
 std::string WithZoneSeparatorEncoded(std::string base_url) {
   if (base_url.find("://[") == std::string::npos) return base_url;
   const int bracket = PositionOf("]", base_url);
@@ -34,18 +31,19 @@ std::string WithZoneSeparatorEncoded(std::string base_url) {
   const bool first_is_bare = percent != -1 && encoded == -1;
   const bool encoded_in_host = encoded <= bracket - 1;
   if (first_is_bare || !encoded_in_host) {
-    // With neither "%" nor "]" the position is none at all, and replace throws
-    // std::out_of_range. Callers have come to expect it.
+    // With neither "%" nor "]" there is no position, and replace throws
+    // std::out_of_range. Callers rely on it.
     base_url.replace(static_cast<std::size_t>(percent), 1, "%25");
   }
   return base_url;
 }
 
-}  // namespace velmohelp
+}  // namespace
 
-std::string ITEMInternal::GetHelpMapBaseUrl(const std::string& path) {
-  const auto file =
-      velmohelp::OpenInputFile(path, velmohelp::kSettingsFileLimit);
+std::string ReadHelpMapBaseUrl(const std::string& path) {
+  const auto file = OpenInputFile(path, kSettingsFileLimit);
   if (!file) return "";
-  return velmohelp::WithZoneSeparatorEncoded(velmohelp::FirstLine(*file));
+  return WithZoneSeparatorEncoded(FirstLine(*file));
 }
+
+}  // namespace velmohelp

@@ -2,20 +2,21 @@
 
 #include <ios>
 
-#include "resolve/help_map/entry_order.h"
+#include "resolve/help_map/radix_sort.h"
 
 namespace velmohelp {
 namespace {
 
-/// In the order of keys, entries lie all over the text. Asked for so far ahead
-/// they are there when their turn comes; loading takes half as long.
-constexpr std::size_t kAhead = 8;
+/// In the order of keys, entries are spread over the whole text, and each one
+/// is a cache miss. Prefetched so many entries ahead it is in the cache when
+/// its turn comes; loading takes half as long.
+constexpr std::size_t kPrefetchDistance = 8;
 
 bool IsSorted(std::string_view lines) {
-  HelpMapReader reader(lines);
+  HelpMapParser parser(lines);
   HelpMapEntry entry;
   std::string_view last;
-  while (reader.Next(entry)) {
+  while (parser.Next(entry)) {
     if (entry.key < last) return false;
     last = entry.key;
   }
@@ -24,33 +25,34 @@ bool IsSorted(std::string_view lines) {
 
 }  // namespace
 
-void HelpMapFiller::PutFile(InputFile& file) {
-  HelpMapLines lines(file);
+void HelpMapBuilder::AddFile(InputFile& file) {
+  ChunkedLines lines(file);
   try {
-    PutLines(lines);
+    AddLines(lines);
   } catch (const std::ios_base::failure&) {
-    Put(lines.lines());
+    Add(lines.lines());
     throw;
   }
 }
 
-/// A sorted file is never in memory as a whole.
-void HelpMapFiller::PutLines(HelpMapLines& lines) {
+/// A sorted file is never in memory as a whole: each chunk replaces the one
+/// before.
+void HelpMapBuilder::AddLines(ChunkedLines& lines) {
   std::string_view rest;
-  while (rest.empty() && lines.Next()) rest = PutSorted(lines.lines());
+  while (rest.empty() && lines.Next()) rest = AddSorted(lines.lines());
   if (rest.empty()) return;
   lines.ReadRest(rest);
-  PutUnsorted(lines.lines());
+  AddUnsorted(lines.lines());
 }
 
-void HelpMapFiller::Put(std::string_view lines) {
-  PutUnsorted(PutSorted(lines));
+void HelpMapBuilder::Add(std::string_view lines) {
+  AddUnsorted(AddSorted(lines));
 }
 
-/// Puts entries as long as none comes before the one that was put last; returns
-/// the lines from the one that does. The first lines are looked at before any
-/// is put: a file in no order must not cost the old nodes that it would skip.
-std::string_view HelpMapFiller::PutSorted(std::string_view lines) {
+/// Adds entries while their keys ascend; returns the lines from the first key
+/// that does not. Checks the first lines before it adds any: an unsorted file
+/// would erase the old nodes that it skips, and allocate them again.
+std::string_view HelpMapBuilder::AddSorted(std::string_view lines) {
   if (lines.find('\t') == std::string_view::npos) return {};
   std::string_view last;
   if (last_ != map_.end()) {
@@ -58,18 +60,18 @@ std::string_view HelpMapFiller::PutSorted(std::string_view lines) {
   } else if (!IsSorted(lines)) {
     return lines;
   }
-  HelpMapReader reader(lines);
+  HelpMapParser parser(lines);
   HelpMapEntry entry;
-  while (reader.Next(entry)) {
+  while (parser.Next(entry)) {
     const int order = entry.key.compare(last);
     if (order < 0) return {entry.key.data(), lines.data() + lines.size()};
-    if (order > 0) PutBehindLast(entry);
+    if (order > 0) AddAfterLast(entry);
     last = entry.key;
   }
   return {};
 }
 
-void HelpMapFiller::PutBehindLast(const HelpMapEntry& entry) {
+void HelpMapBuilder::AddAfterLast(const HelpMapEntry& entry) {
   int order = 1;
   while (old_ != map_.end() && (order = old_->first.compare(entry.key)) < 0) {
     old_ = map_.erase(old_);
@@ -82,24 +84,28 @@ void HelpMapFiller::PutBehindLast(const HelpMapEntry& entry) {
   }
 }
 
-void HelpMapFiller::PutUnsorted(std::string_view lines) {
+void HelpMapBuilder::AddUnsorted(std::string_view lines) {
   const char* end = lines.data() + lines.size();
-  const std::vector<EntryPlace> places = EntriesByKey(lines);
+  const std::vector<EntryRef> entries = SortedEntries(lines);
   auto at = map_.begin();
-  for (std::size_t i = 0; i < places.size(); ++i) {
-    if (i + kAhead < places.size()) {
-      __builtin_prefetch(places[i + kAhead].start);
+  for (std::size_t i = 0; i < entries.size(); ++i) {
+    if (i + kPrefetchDistance < entries.size()) {
+      __builtin_prefetch(entries[i + kPrefetchDistance].start);
     }
     HelpMapEntry entry;
-    HelpMapReader({places[i].start, end}).TakeLine(entry);
+    HelpMapParser({entries[i].start, end}).ParseLine(entry);
     while (at != old_ && at->first < entry.key) ++at;
     if (at == old_) {
-      PutBehindLast(entry);
+      AddAfterLast(entry);
       at = old_;
     } else if (at->first != entry.key) {
       map_.emplace_hint(at, entry.key, entry.value);
     }
   }
+}
+
+void BuildHelpMap(std::string_view text, HelpMap& map) {
+  HelpMapBuilder(map).Add(text);
 }
 
 }  // namespace velmohelp

@@ -7,23 +7,23 @@
 
 namespace velmohelp {
 
-bool HelpMapLines::Next() {
+bool ChunkedLines::Next() {
   text_.KeepLast(text_.bytes().size() - whole_);
   whole_ = 0;
   while (whole_ == 0 && Read()) continue;
   return whole_ > 0;
 }
 
-void HelpMapLines::ReadRest(std::string_view rest) {
+void ChunkedLines::ReadRest(std::string_view rest) {
   text_.KeepLast(text_.bytes().size() - whole_ + rest.size());
   whole_ = rest.size();
   text_.Reserve(file_.size() + FileText::kPieceSize);
   while (Read()) continue;
 }
 
-/// Looks for a line's end only in what is new: a line may be as long as the
-/// file.
-bool HelpMapLines::Read() {
+/// Looks for a line end only in the new bytes: a line may be as long as the
+/// file, and looking at all of it after each read would be quadratic.
+bool ChunkedLines::Read() {
   const std::size_t before = text_.bytes().size();
   bool more = false;
   try {

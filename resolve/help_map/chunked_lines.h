@@ -1,4 +1,4 @@
-// A help map file as it is read.
+// A help map file, read in chunks of whole lines.
 #ifndef RESOLVE_HELP_MAP_CHUNKED_LINES_H_
 #define RESOLVE_HELP_MAP_CHUNKED_LINES_H_
 
@@ -9,19 +9,24 @@
 
 namespace velmohelp {
 
-/// Hands out a file's whole lines, some at a time. A read error is thrown; the
-/// lines read last are then those before the error.
-class HelpMapLines {
+/// Reads a file chunk by chunk. A chunk ends with a whole line:
+///
+///   buffer   |a\tb\n c\td\n|e\tf|          lines() | begun line
+///   Next()   |e\tf\n g\th\n|               begun line moved to the front
+///
+/// A read error is thrown; lines() are then the whole lines before the error.
+class ChunkedLines {
  public:
-  explicit HelpMapLines(InputFile& file) : file_(file) {}
+  explicit ChunkedLines(InputFile& file) : file_(file) {}
 
-  /// Reads the next lines in place of those before; false behind the last.
+  /// Replaces the chunk by the next one; false at the end of the file.
   bool Next();
 
-  /// The lines read last; the last line of a file needs no end.
+  /// The current chunk. The last line of a file needs no line end.
   std::string_view lines() const { return text_.bytes().substr(0, whole_); }
 
-  /// Reads all that follow. Of the lines read last, those from rest on stay.
+  /// Makes the chunk consist of its own end from rest on and of everything that
+  /// follows in the file.
   void ReadRest(std::string_view rest);
 
  private:
@@ -29,7 +34,7 @@ class HelpMapLines {
 
   InputFile& file_;
   FileText text_;
-  /// How many of the text's bytes are whole lines.
+  /// The size of the whole lines at the start of text_.
   std::size_t whole_ = 0;
 };
 

@@ -9,8 +9,8 @@ namespace {
 
 bool EndsField(char c) { return c == '\t' || EndsLine(c); }
 
-/// All three bytes that end a field lie below this one, and no others that one
-/// meets in a help map.
+/// All three bytes that end a field are below this one; the other bytes below
+/// it are rare in help maps.
 constexpr unsigned char kAboveFieldEnds = '\r' + 1;
 
 /// Marks each byte that ends a field; only the first mark is to be trusted. For
@@ -21,7 +21,12 @@ Word MarkFieldEnds(Word word) {
          MarkBelow(word ^ EightTimes('\r'), 1);
 }
 
-/// The first byte that ends a field, or end.
+/// The first byte that ends a field, or end. Compares eight bytes at once:
+///
+///   bytes   i  n  t  r  o  \t p  a
+///   marks   00 00 00 00 00 80 00 00    first mark: byte 5
+///
+/// A mark only says "below '\r' + 1", so the byte itself decides.
 inline const char* FieldEnd(const char* at, const char* end) {
   while (static_cast<std::size_t>(end - at) >= sizeof(Word)) {
     const Word word = LoadWord(at);
@@ -49,38 +54,38 @@ std::string_view LinesBeforeError(std::string_view text) {
   return WholeLines(text);
 }
 
-bool HelpMapReader::Next(HelpMapEntry& entry) {
+bool HelpMapParser::Next(HelpMapEntry& entry) {
   while (at_ != end_) {
-    if (TakeLine(entry)) return true;
+    if (ParseLine(entry)) return true;
     SkipLinesWithoutTab();
   }
   return false;
 }
 
-bool HelpMapReader::TakeLine(HelpMapEntry& entry) {
-  entry.key = TakeField();
-  entry.value = TakeField();
+bool HelpMapParser::ParseLine(HelpMapEntry& entry) {
+  entry.key = ParseField();
+  entry.value = ParseField();
   SkipLine();
   return !entry.value.empty();
 }
 
-std::string_view HelpMapReader::TakeField() {
+std::string_view HelpMapParser::ParseField() {
   while (at_ != end_ && *at_ == '\t') ++at_;
   const char* start = at_;
   at_ = FieldEnd(at_, end_);
   return {start, at_};
 }
 
-void HelpMapReader::SkipLine() {
+void HelpMapParser::SkipLine() {
   while (at_ != end_ && !EndsLine(*at_)) at_ = FieldEnd(at_ + 1, end_);
   if (at_ == end_) return;
   const bool is_cr = *at_++ == '\r';
   if (is_cr && at_ != end_ && *at_ == '\n') ++at_;
 }
 
-/// A line without a TAB has no entry. A file of line feeds alone is skipped as
+/// A line without a tab has no entry. A file of line feeds alone is skipped as
 /// fast as memchr looks through it.
-void HelpMapReader::SkipLinesWithoutTab() {
+void HelpMapParser::SkipLinesWithoutTab() {
   const auto left = static_cast<std::size_t>(end_ - at_);
   const auto* tab =
       left == 0 ? nullptr

@@ -1,4 +1,5 @@
-// The text of a help map file: one entry a line, key and value parted by TABs.
+// The text of a help map file: one entry per line, key and value separated by
+// tabs.
 #ifndef RESOLVE_HELP_MAP_ENTRY_PARSER_H_
 #define RESOLVE_HELP_MAP_ENTRY_PARSER_H_
 
@@ -12,30 +13,31 @@ struct HelpMapEntry {
   std::string_view value;
 };
 
-/// Both bytes can end a line.
+/// Lines end with LF, CR or CR LF.
 constexpr bool EndsLine(char c) { return c == '\n' || c == '\r'; }
 
-/// The bytes of text up to the end of its last line that has one.
+/// The bytes of text up to the end of its last line that has an end.
 std::string_view WholeLines(std::string_view text);
 
 /// The whole lines of a text that a read error ends. A line that ends in CR is
-/// not whole yet: whether an LF belongs to it is what could not be read.
+/// not whole yet: the byte that could not be read may be its LF.
 std::string_view LinesBeforeError(std::string_view text);
 
-/// Walks through the entries of a text, which must outlive it.
-class HelpMapReader {
+/// Iterates over the entries of a text, which must outlive it.
+class HelpMapParser {
  public:
-  explicit HelpMapReader(std::string_view text)
+  explicit HelpMapParser(std::string_view text)
       : at_(text.data()), end_(text.data() + text.size()) {}
 
-  /// The next line that has two fields; false at the end of the text.
+  /// Parses lines up to the next one that has two fields; false at the end of
+  /// the text.
   bool Next(HelpMapEntry& entry);
 
-  /// Takes one line off the text; true when it has two fields.
-  bool TakeLine(HelpMapEntry& entry);
+  /// Parses one line; true when it has two fields.
+  bool ParseLine(HelpMapEntry& entry);
 
  private:
-  std::string_view TakeField();
+  std::string_view ParseField();
   void SkipLine();
   void SkipLinesWithoutTab();
 
@@ -43,7 +45,8 @@ class HelpMapReader {
   const char* end_;
 };
 
-/// The value of the first entry of key, without walking through the others.
+/// The value of the first entry with this key, found without parsing the
+/// entries before it.
 std::optional<std::string_view> FindEntry(std::string_view text,
                                           std::string_view key);
 

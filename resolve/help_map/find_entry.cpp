@@ -1,4 +1,4 @@
-// One entry of a help map's text, found without taking the text apart.
+// One entry of a help map's text, found without parsing the text.
 #include "resolve/help_map/entry_parser.h"
 #include "util/word_scan.h"
 
@@ -7,7 +7,12 @@ namespace {
 
 constexpr std::size_t kNone = std::string_view::npos;
 
-/// Where first stands with second behind it, from position at on.
+/// The position of first followed by second, at or after position at. Compares
+/// eight pairs at once: the text, and the text moved on by one byte.
+///
+///   text          p  r  i  n  t  \t q  u        first 't'
+///   text + 1      r  i  n  t  \t q  u  i        second '\t'
+///   differing     .. .. .. .. 00 .. .. ..       0 in both: found at byte 4
 std::size_t FindPair(std::string_view text, std::size_t at, char first,
                      char second) {
   const Word firsts = EightTimes(static_cast<unsigned char>(first));
@@ -23,15 +28,15 @@ std::size_t FindPair(std::string_view text, std::size_t at, char first,
   return text.find(pair, at, sizeof pair);
 }
 
-/// Whether nothing but TABs stands between position and its line's start.
+/// Only tabs come between the start of position's line and position.
 bool BeginsLine(std::string_view text, std::size_t position) {
   const std::size_t before = text.substr(0, position).find_last_not_of('\t');
   return before == kNone || EndsLine(text[before]);
 }
 
-/// The value of key's entry whose key ends in front of position end. The cheap
-/// question comes first, and the key is compared only at a line's start: each
-/// byte is looked at so often and no more, whatever the text repeats.
+/// The value of key's entry when key ends before position end. The cheap test
+/// comes first, and the key is compared only at the start of a line, so that no
+/// text, however repetitive, makes the search quadratic.
 std::optional<std::string_view> ValueAt(std::string_view text, std::size_t end,
                                         std::string_view key) {
   if (end < key.size()) return std::nullopt;
@@ -39,14 +44,14 @@ std::optional<std::string_view> ValueAt(std::string_view text, std::size_t end,
   if (text[start] != key.front() || !BeginsLine(text, start)) return {};
   if (text.substr(start, key.size()) != key) return {};
   HelpMapEntry entry;
-  if (!HelpMapReader(text.substr(start)).TakeLine(entry)) return {};
+  if (!HelpMapParser(text.substr(start)).ParseLine(entry)) return {};
   return entry.value;
 }
 
 }  // namespace
 
-/// Looks for the last byte of the key and the TAB behind it: few lines have
-/// both, whereas the keys of a map often begin alike.
+/// Looks for the last byte of the key and the tab after it: few lines have
+/// both, whereas the keys of a map often have the same beginning.
 std::optional<std::string_view> FindEntry(std::string_view text,
                                           std::string_view key) {
   if (key.empty() || key.find_first_of("\t\r\n") != kNone) return {};

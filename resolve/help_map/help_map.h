@@ -1,69 +1,79 @@
-// Help maps ("helpmap.txt"): which page belongs to a page id.
+// Help maps ("helpmap.txt"): which page belongs to a page id. The rest of the
+// library includes this header and no other of the folder.
 #ifndef RESOLVE_HELP_MAP_HELP_MAP_H_
 #define RESOLVE_HELP_MAP_HELP_MAP_H_
 
-#include <map>
+#include <deque>
+#include <istream>
 #include <optional>
 #include <string>
 #include <string_view>
 
+#include "resolve/help_map/map_type.h"
 #include "util/file_text.h"
 
 namespace velmohelp {
 
-using HelpMap = std::map<std::string, std::string>;
+inline constexpr std::string_view kHelpMapName = "helpmap.txt";
+inline constexpr std::string_view kHelpMapBaseUrlName = "helpmapBaseUrl.txt";
 
-/// The entry without which a help map is not complete.
-inline constexpr char kHomePageKey[] = "VX_HOME";
+/// Makes map hold the entries of the file at path, and no others; of several
+/// entries with the same key the first counts. True when the file was read and
+/// has the home page's entry, without which a help map is not complete. Throws
+/// std::ios_base::failure when the file breaks while it is read; map then holds
+/// the entries of the whole lines before.
+bool LoadHelpMap(const std::string& path, HelpMap& map);
 
-inline constexpr char kHelpMapName[] = "helpmap.txt";
-inline constexpr char kHelpMapBaseUrlName[] = "helpmapBaseUrl.txt";
+/// The first line of a base URL file, with the zone separator of an IPv6 host
+/// percent-encoded; "" when the file cannot be opened. Throws
+/// std::out_of_range for a line with "://[" but neither "]" nor "%", and
+/// std::ios_base::failure when the file breaks while it is read.
+std::string ReadHelpMapBaseUrl(const std::string& path);
 
-/// Makes map hold the entries of a help map's text, and no others. The first of
-/// several entries of a key stays.
-void FillHelpMap(std::string_view text, HelpMap& map);
+/// See ITEMInternal::GetLine.
+bool ReadLine(std::istream& stream, std::string& line);
 
-/// The help maps that one search reads, of which the caller gets to see only
-/// the last: it alone is built as a map, the others are searched as text.
-class HelpMapsRead {
+/// See ITEMInternal::DelimitedStringToDeque.
+int SplitFields(char delimiter, std::string_view text,
+                std::deque<std::string>& out);
+
+/// The help maps of one search. The caller sees only the last one: it alone is
+/// built as a map, the others are searched as text.
+class LazyHelpMap {
  public:
-  /// last: what KeepLast fills.
-  explicit HelpMapsRead(HelpMap& last) : last_(last) {}
+  /// map: what BuildAfter fills.
+  explicit LazyHelpMap(HelpMap& map) : map_(map) {}
 
-  /// Reads the file at path in place of the one before. Throws
-  /// std::ios_base::failure when it breaks while it is read. False when it
-  /// cannot be opened.
-  bool Read(const std::string& path);
+  /// Reads the file at path in place of the one before; without a text when it
+  /// cannot be opened. Throws std::ios_base::failure when it breaks while it is
+  /// read.
+  void Read(const std::string& path);
 
   /// The value of a key in the file read last; nullopt also when that file
   /// could not be opened or is not complete. Valid until the next Read.
   std::optional<std::string_view> Find(std::string_view key) const;
 
-  /// What search returns. On the way out, an exception's too, the map becomes
-  /// what the file read last holds; it stays as it is when none was read.
+  /// What search returns. Afterwards, and also when search throws, the map
+  /// holds what the file read last holds; it stays as it is when none was read.
   template <typename Search>
-  auto KeepLast(Search search) {
+  auto BuildAfter(Search search) {
     try {
       auto result = search();
-      Keep();
+      Build();
       return result;
     } catch (...) {
-      Keep();
+      Build();
       throw;
     }
   }
 
  private:
-  void Keep();
+  void Build();
 
-  HelpMap& last_;
+  HelpMap& map_;
   FileText text_;
   bool was_read_ = false;
 };
-
-/// A base URL with the zone separator of its IPv6 host percent-encoded, by the
-/// rule (and with the mistake) that ITEMInternal::GetHelpMapBaseUrl tells.
-std::string WithZoneSeparatorEncoded(std::string base_url);
 
 }  // namespace velmohelp
 

@@ -1,5 +1,6 @@
-#include <velmohelp/resolve.h>
+#include "resolve/help_map/help_map.h"
 
+namespace velmohelp {
 namespace {
 
 using Traits = std::char_traits<char>;
@@ -16,8 +17,8 @@ void SkipLineFeed(std::streambuf& input) {
 
 }  // namespace
 
-bool ITEMInternal::GetLine(std::ifstream& stream, std::string& line) {
-  const std::ifstream::sentry good(stream, true);
+bool ReadLine(std::istream& stream, std::string& line) {
+  const std::istream::sentry good(stream, true);
   if (!good) return true;
   line.clear();
   std::streambuf& input = *stream.rdbuf();
@@ -32,23 +33,24 @@ bool ITEMInternal::GetLine(std::ifstream& stream, std::string& line) {
   return true;
 }
 
-int ITEMInternal::DelimitedStringToDeque(const char& delimiter,
-                                         const std::string& text,
-                                         std::deque<std::string>& out) {
-  constexpr std::size_t kNone = std::string::npos;
+int SplitFields(char delimiter, std::string_view text,
+                std::deque<std::string>& out) {
+  constexpr std::size_t kNone = std::string_view::npos;
   if (text.empty()) return 0;
   std::size_t start = text.find_first_not_of(delimiter);
   std::size_t end = text.find(delimiter, start);
   if (start == kNone || end == kNone) {
-    out.push_back(text);
+    out.emplace_back(text);
     return 1;
   }
   int count = 0;
   while (start < end) {
-    out.push_back(text.substr(start, end - start));
+    out.emplace_back(text.substr(start, end - start));
     ++count;
     start = text.find_first_not_of(delimiter, end);
     end = start == kNone ? kNone : text.find(delimiter, start);
   }
   return count;
 }
+
+}  // namespace velmohelp

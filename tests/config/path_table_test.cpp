@@ -39,7 +39,7 @@ class PathTable : public ::testing::TestWithParam<Row> {};
 
 TEST_P(PathTable, IsFilled) {
   Table table(100);
-  ScanPathTable(GetParam().text, table.rows, table.count);
+  ScanContentFolders(GetParam().text, table.rows, table.count);
   EXPECT_EQ(table.count, GetParam().count);
   const auto& expected = GetParam().first_rows;
   EXPECT_EQ(table.First(static_cast<int>(expected.size())), expected);
@@ -144,7 +144,7 @@ std::string TextOf(int folders) {
 
 TEST(PathTableCapacity, OfAHundredIsKeptWithMoreFoldersInTheText) {
   Table table(100);
-  ScanPathTable(TextOf(150), table.rows, table.count);
+  ScanContentFolders(TextOf(150), table.rows, table.count);
   EXPECT_EQ(table.count, 100);
   EXPECT_EQ(table.rows[99][0], "99");
   EXPECT_EQ(table.rows[99][1], "F99");
@@ -154,7 +154,7 @@ TEST(PathTableCapacity, OfAHundredIsKeptWithMoreFoldersInTheText) {
 
 TEST(PathTableCapacity, OfOneTakesOneRow) {
   Table table(1);
-  ScanPathTable(TextOf(3), table.rows, table.count);
+  ScanContentFolders(TextOf(3), table.rows, table.count);
   EXPECT_EQ(table.count, 1);
   EXPECT_THAT(table.First(2), ElementsAre(Pair("0", "F0"), Pair("old", "old")));
 }
@@ -162,7 +162,7 @@ TEST(PathTableCapacity, OfOneTakesOneRow) {
 TEST(PathTableCapacity, BelowOneFillsNothingAndBecomesNone) {
   for (const int capacity : {0, -1, -100}) {
     Table table(capacity);
-    ScanPathTable(TextOf(3), table.rows, table.count);
+    ScanContentFolders(TextOf(3), table.rows, table.count);
     EXPECT_EQ(table.count, 0);
     EXPECT_THAT(table.First(1), ElementsAre(Pair("old", "old")));
   }
@@ -170,7 +170,7 @@ TEST(PathTableCapacity, BelowOneFillsNothingAndBecomesNone) {
 
 TEST(PathTableCapacity, BelowOneStaysInATextWithoutAPath) {
   Table table(-7);
-  ScanPathTable("contextSensitivity=\"yes\"", table.rows, table.count);
+  ScanContentFolders("contextSensitivity=\"yes\"", table.rows, table.count);
   EXPECT_EQ(table.count, -7);
 }
 
@@ -190,7 +190,7 @@ TEST(PathTableOfAParser, ComesFromMegabytesToo) {
   std::string text = TextOf(100);
   while (text.size() < 8'000'000) text += " path=\"x\" contextSensitivit";
   Table table(100);
-  ScanPathTable(text, table.rows, table.count);
+  ScanContentFolders(text, table.rows, table.count);
   EXPECT_EQ(table.count, 100);
 }
 

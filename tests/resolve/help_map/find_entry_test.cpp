@@ -2,8 +2,8 @@
 // be the one that the map would give.
 #include <gtest/gtest.h>
 
+#include "resolve/help_map/builder.h"
 #include "resolve/help_map/entry_parser.h"
-#include "resolve/help_map/help_map.h"
 #include "tests/support/random_text.h"
 
 namespace velmohelp::testing {
@@ -12,7 +12,7 @@ namespace {
 std::optional<std::string> ByMap(const std::string& text,
                                  const std::string& key) {
   HelpMap map;
-  FillHelpMap(text, map);
+  BuildHelpMap(text, map);
   const auto entry = map.find(key);
   if (entry == map.end()) return std::nullopt;
   return entry->second;

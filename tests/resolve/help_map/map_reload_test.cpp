@@ -6,7 +6,6 @@
 #include <sstream>
 
 #include "resolve/help_map/builder.h"
-#include "resolve/help_map/help_map.h"
 #include "tests/support/failing_memory.h"
 #include "tests/support/random_text.h"
 #include "tests/support/sentence.h"
@@ -104,8 +103,8 @@ TEST(ReloadOfRandomFiles, LeavesWhatAFirstLoadGives) {
       text += random.Next(1 + random.Below(2)) + "\t" + random.Next(20) + "\n";
     }
     HelpMap fresh;
-    FillHelpMap(text, fresh);
-    FillHelpMap(text, map);
+    BuildHelpMap(text, fresh);
+    BuildHelpMap(text, map);
     ASSERT_EQ(map, fresh) << text;
   }
 }
@@ -151,7 +150,7 @@ class BrokenFile : public InputFile {
 HelpMap LoadedFromBroken(std::string_view text) {
   BrokenFile file(text);
   HelpMap map = {{"0", "old"}, {"100500", "old"}, {"x", "old"}};
-  EXPECT_THROW(HelpMapFiller(map).PutFile(file), std::ios_base::failure);
+  EXPECT_THROW(HelpMapBuilder(map).AddFile(file), std::ios_base::failure);
   return map;
 }
 

@@ -1,6 +1,7 @@
-#include "util/platform_string.h"
+#include "util/text_encoding.h"
 
 #include <gtest/gtest.h>
+#include <velmohelp/platform.h>
 
 #include <cstdlib>
 #include <memory>
@@ -12,7 +13,10 @@ namespace velmohelp::testing {
 namespace {
 
 using namespace std::string_literals;
-using namespace ITEMInternal;
+using ITEMInternal::CstrToNSstr;
+using ITEMInternal::GetCharFromCFStringRef;
+using ITEMInternal::GetString;
+using ITEMInternal::PlatformString;
 
 struct CStringRow {
   const char* sentence;
@@ -115,19 +119,57 @@ TEST(TextOfACString, IsThereForUtf8Alone) {
   EXPECT_EQ(CstrToNSstr("a\xC3\xA4")->utf8(), "a\xC3\xA4");
 }
 
-TEST(MadeText, IsThatOfBytesUpToTheFirstZeroByte) {
-  EXPECT_EQ(MakePlatformString("a\0\xFF"s, kUtf8)->utf8(), "a");
-  EXPECT_EQ(MakePlatformString("a\0b"s, kMacRoman)->utf8(), "a");
-  EXPECT_EQ(MakePlatformString("\0b"s, kAscii)->utf8(), "");
+struct DecodedRow {
+  const char* sentence;
+  std::string bytes;
+  std::uint32_t encoding;
+  std::optional<std::string> text;
+};
+
+class DecodedBytes : public ::testing::TestWithParam<DecodedRow> {};
+
+TEST_P(DecodedBytes, AreTheText) {
+  EXPECT_EQ(DecodeText(GetParam().bytes, TextEncoding{GetParam().encoding}),
+            GetParam().text);
 }
 
-TEST(MadeText, IsThereForBytesOfItsEncoding) {
-  EXPECT_EQ(MakePlatformString("\x8A", kMacRoman)->utf8(), "\u00E4");
-  EXPECT_EQ(MakePlatformString("\x8A", kUtf8), nullptr);
-  EXPECT_EQ(MakePlatformString("\x80", kAscii), nullptr);
-  EXPECT_EQ(MakePlatformString("\x7F", kAscii)->utf8(), "\x7F");
-  EXPECT_EQ(MakePlatformString("a", 1), nullptr);
-}
+const DecodedRow kDecodings[] = {
+    {.sentence = "UTF-8 ends at the first zero byte",
+     .bytes = "a\0\xFF"s,
+     .encoding = kUtf8,
+     .text = "a"},
+    {.sentence = "Mac Roman ends at the first zero byte",
+     .bytes = "a\0b"s,
+     .encoding = kMacRoman,
+     .text = "a"},
+    {.sentence = "ASCII ends at the first zero byte",
+     .bytes = "\0b"s,
+     .encoding = kAscii,
+     .text = ""},
+    {.sentence = "Mac Roman has a character for every byte",
+     .bytes = "\x8A",
+     .encoding = kMacRoman,
+     .text = "\u00E4"},
+    {.sentence = "a continuation byte alone is not valid UTF-8",
+     .bytes = "\x8A",
+     .encoding = kUtf8,
+     .text = std::nullopt},
+    {.sentence = "a byte above 127 is not valid ASCII",
+     .bytes = "\x80",
+     .encoding = kAscii,
+     .text = std::nullopt},
+    {.sentence = "byte 127 is valid ASCII",
+     .bytes = "\x7F",
+     .encoding = kAscii,
+     .text = "\x7F"},
+    {.sentence = "nothing is valid in an unknown encoding",
+     .bytes = "a",
+     .encoding = 1,
+     .text = std::nullopt},
+};
+
+INSTANTIATE_TEST_SUITE_P(Decodings, DecodedBytes,
+                         ::testing::ValuesIn(kDecodings), SentenceOf());
 
 }  // namespace
 }  // namespace velmohelp::testing

@@ -1,0 +1,18 @@
+// The viewer's preference file, "klh-pref.xml".
+#ifndef CONFIG_VIEWER_PREFERENCES_H_
+#define CONFIG_VIEWER_PREFERENCES_H_
+
+#include <string>
+
+namespace velmohelp {
+
+/// False when "accessibleMode" is "TRUE" in any letter case: a person who needs
+/// it reads help in the browser. True without a file or a setting.
+bool IsViewerAllowed(const std::string& preference_file);
+
+/// False when "localHelp" is "TRUE" in any letter case, else true.
+bool IsNetworkHelpAllowed(const std::string& preference_file);
+
+}  // namespace velmohelp
+
+#endif  // CONFIG_VIEWER_PREFERENCES_H_
