@@ -1,5 +1,7 @@
 #include "platform/linux/preference_file.h"
 
+#include "util/percent_encoding.h"
+#include "util/trim.h"
 #include "util/utf8.h"
 
 namespace velmohelp {
@@ -8,18 +10,13 @@ namespace {
 constexpr std::string_view kGroup = "[Preferences]";
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
-std::string_view Trimmed(std::string_view text) {
-  constexpr std::string_view kSpaces = " \t\r\v\f";
-  const std::size_t first = text.find_first_not_of(kSpaces);
-  if (first == std::string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(kSpaces) - first + 1);
-}
+constexpr std::string_view kSpaces = " \t\r\v\f";
 
 /// Consumes and returns the first line of the text, trimmed.
 std::string_view ConsumeLine(std::string_view& text) {
   const std::string_view line = text.substr(0, text.find('\n'));
   text.remove_prefix(line.size() < text.size() ? line.size() + 1 : line.size());
-  return Trimmed(line);
+  return Trimmed(line, kSpaces);
 }
 
 /// The value of a line "key = value", when it has this key.
@@ -29,18 +26,12 @@ std::optional<std::string_view> ValueIn(std::string_view line,
   if (line.starts_with('#') || sign == std::string_view::npos) {
     return std::nullopt;
   }
-  if (Trimmed(line.substr(0, sign)) != key) return std::nullopt;
-  return Trimmed(line.substr(sign + 1));
+  if (Trimmed(line.substr(0, sign), kSpaces) != key) return std::nullopt;
+  return Trimmed(line.substr(sign + 1), kSpaces);
 }
 
 bool IsText(std::string_view value) {
   return value.find('\0') == std::string_view::npos && IsUtf8(value);
-}
-
-std::string Encoded(char byte) {
-  constexpr std::string_view kDigits = "0123456789ABCDEF";
-  const auto value = static_cast<unsigned char>(byte);
-  return {'%', kDigits[value / 16], kDigits[value % 16]};
 }
 
 }  // namespace
@@ -70,7 +61,7 @@ std::string PreferenceFileName(std::string_view domain) {
   for (const char byte : domain) {
     const bool encode = byte == '/' || byte == '\0' || byte == '%' ||
                         (byte == '.' && name.empty());
-    name += encode ? Encoded(byte) : std::string(1, byte);
+    name += encode ? EscapeByte(byte) : std::string(1, byte);
   }
   return name + ".conf";
 }

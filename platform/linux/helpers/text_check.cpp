@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+#include "util/trim.h"
+
 namespace velmohelp {
 namespace {
 
@@ -22,12 +24,7 @@ constexpr ByteOrderMark kMarks[] = {
 };
 constexpr std::size_t kLongestMark = 4;
 
-std::string_view Trimmed(std::string_view text) {
-  constexpr std::string_view kSpaces = " \t";
-  const std::size_t first = text.find_first_not_of(kSpaces);
-  if (first == std::string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(kSpaces) - first + 1);
-}
+constexpr std::string_view kSpaces = " \t";
 
 bool EqualNames(std::string_view a, std::string_view b) {
   return a.size() == b.size() && strncasecmp(a.data(), b.data(), a.size()) == 0;
@@ -53,8 +50,9 @@ std::string CharsetOf(std::string_view content_type) {
     const std::string_view parameter = ConsumeParameter(content_type);
     const std::size_t sign = parameter.find('=');
     if (sign == std::string_view::npos) continue;
-    if (EqualNames(Trimmed(parameter.substr(0, sign)), "charset")) {
-      return std::string(Unquoted(Trimmed(parameter.substr(sign + 1))));
+    if (EqualNames(Trimmed(parameter.substr(0, sign), kSpaces), "charset")) {
+      return std::string(
+          Unquoted(Trimmed(parameter.substr(sign + 1), kSpaces)));
     }
   }
   return "";
