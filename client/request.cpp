@@ -7,6 +7,8 @@
 #include <cstring>
 
 #include "client/state.h"
+#include "util/c_string.h"
+#include "util/str_cat.h"
 
 namespace velmohelp {
 namespace {
@@ -60,6 +62,8 @@ int LaunchViewer(const char* verb, const std::string& request) {
                                          sLocale, request);
 }
 
-std::string Quoted(const std::string& url) { return '"' + url + '"'; }
+std::string Quoted(const std::string& url) {
+  return StrCat({"\"", UpToZero(url), "\""});
+}
 
 }  // namespace velmohelp

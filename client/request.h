@@ -41,7 +41,8 @@ bool IsViewerUsable(const std::string& preference_file);
 /// Starts the viewer with a verb, product, locale and request. 0 or 1.
 int LaunchViewer(const char* verb, const std::string& request);
 
-/// url between double quotes; nothing in it is escaped.
+/// url between double quotes; nothing in it is escaped. It ends at its first
+/// zero byte: the viewer gets a C string, and would lose the closing quote.
 std::string Quoted(const std::string& url);
 
 }  // namespace velmohelp

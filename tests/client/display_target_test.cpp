@@ -163,6 +163,26 @@ INSTANTIATE_TEST_SUITE_P(
                "page", ""}),
     testing::SentenceOf());
 
+/// The viewer gets its arguments as C strings, which end at a zero byte.
+TEST(ZeroByteInAMappedTarget, EndsTheTargetAndKeepsTheViewersClosingQuote) {
+  using namespace std::string_literals;
+  for (const std::string& value : {"https://x/y\0z"s, "y\0z"s}) {
+    ClientWorld world;
+    world.Install({.base_url = "https://x/"});
+    world.InstallWorkingViewer();
+    world.GoOnline();
+    world.machine().AddText("https://x/y");
+    world.AddFile(ClientWorld::InstalledManual() + "/helpmap.txt",
+                  "VX_HOME\t" + value + "\n");
+    world.Initialise();
+    EXPECT_EQ(DisplayVelmoHelpClientPage("page"), kDisplaySuccess);
+    ASSERT_EQ(world.Shown().size(), 1);
+    const std::string shown = world.Shown()[0];
+    EXPECT_EQ(shown.find('\0'), std::string::npos);
+    EXPECT_TRUE(shown.ends_with("y\"\"")) << shown;
+  }
+}
+
 TEST(DisplayedMap, StaysInTheState) {
   ClientWorld world;
   world.Install();
