@@ -32,7 +32,7 @@ TEST_F(ConfigName, IsNotTheUsersOwnPreference) {
   EXPECT_EQ(GetHelpConfigName("a", "b"), "");
 }
 
-TEST_F(ConfigName, OfAnEmptyWordIsNeverAskedFor) {
+TEST_F(ConfigName, OfAnEmptyWordIsNeverLookedUp) {
   SetName("com.velmo.a.", "Foo");
   SetName("com.velmo..b", "Foo");
   SetName("com.velmo..", "Foo");
@@ -42,7 +42,7 @@ TEST_F(ConfigName, OfAnEmptyWordIsNeverAskedFor) {
   EXPECT_THAT(machine.Questions(), IsEmpty());
 }
 
-TEST_F(ConfigName, IsEmptyWhereNothingIsSet) {
+TEST_F(ConfigName, IsEmptyWhenNothingIsSet) {
   EXPECT_EQ(GetHelpConfigName("a", "b"), "");
 }
 
@@ -51,7 +51,7 @@ TEST_F(ConfigName, MayBeAnyText) {
   EXPECT_EQ(GetHelpConfigName("a", "b"), "../Pr\xC3\xB6 x");
 }
 
-TEST_F(ConfigName, IsEmptyForValuesThatHaveNoCString) {
+TEST_F(ConfigName, IsEmptyForValuesThatDoNotFitTheirBuffer) {
   SetName("com.velmo.a.b", "");
   EXPECT_EQ(GetHelpConfigName("a", "b"), "");
   SetName("com.velmo.a.b", "\xE2\x82\xAC");
@@ -60,7 +60,7 @@ TEST_F(ConfigName, IsEmptyForValuesThatHaveNoCString) {
   EXPECT_EQ(GetHelpConfigName("a", "b"), "");
 }
 
-TEST_F(ConfigName, OfHostileWordsIsAskedForInOneDomain) {
+TEST_F(ConfigName, OfHostileWordsIsLookedUpInOneDomain) {
   GetHelpConfigName("../../etc", "x/y");
   GetHelpConfigName(" ", "\"");
   GetHelpConfigName("a.b", "c\nd");
@@ -71,7 +71,7 @@ TEST_F(ConfigName, OfHostileWordsIsAskedForInOneDomain) {
                   "Preference admin com.velmo.a.b.c\nd HelpcfgName"));
 }
 
-TEST_F(ConfigName, IsAskedForInMacRomanUpToTheFirstZeroByte) {
+TEST_F(ConfigName, IsLookedUpInMacRomanUpToTheFirstZeroByte) {
   GetHelpConfigName("\x8A\xFF", "b");
   GetHelpConfigName("a\0x"s, "b");
   GetHelpConfigName("\0"s, "b");
@@ -81,7 +81,7 @@ TEST_F(ConfigName, IsAskedForInMacRomanUpToTheFirstZeroByte) {
                           "Preference admin com.velmo. HelpcfgName"));
 }
 
-TEST_F(ConfigName, OfMegabytesIsAskedForToo) {
+TEST_F(ConfigName, OfMegabytesIsLookedUpToo) {
   const std::string word(4'000'000, 'a');
   EXPECT_EQ(GetHelpConfigName(word, word), "");
   EXPECT_EQ(machine.Questions().front().size(), 8'000'040);

@@ -20,18 +20,18 @@ TEST_F(ConfigPath, PutsTheLocaleBeforeTheProduct) {
   EXPECT_THAT(machine.Questions(), ElementsAre("ResourcesDirectory"));
 }
 
-TEST_F(ConfigPath, TakesBothWordsAsTheyAre) {
+TEST_F(ConfigPath, UsesBothWordsUnchanged) {
   machine.SetResourcesDirectory("/r");
   EXPECT_EQ(GetHelpConfigPath("", ""), "/r/help//.helpcfg");
   EXPECT_EQ(GetHelpConfigPath("../a/b", ".."), "/r/help/../../a/b.helpcfg");
 }
 
-TEST_F(ConfigPath, FallsBackWhereTheHostHasNoResources) {
+TEST_F(ConfigPath, FallsBackWhenTheHostHasNoResources) {
   EXPECT_EQ(GetHelpConfigPath("Foo", "en_US"),
             std::string(kFallback) + "/help/en_US/Foo.helpcfg");
 }
 
-TEST_F(ConfigPath, TakesAResourcesDirectoryOf1023Bytes) {
+TEST_F(ConfigPath, AcceptsAResourcesDirectoryOf1023Bytes) {
   const std::string directory = "/" + std::string(1022, 'a');
   machine.SetResourcesDirectory(directory);
   EXPECT_EQ(GetHelpConfigPath("p", "l"), directory + "/help/l/p.helpcfg");
@@ -43,7 +43,7 @@ TEST_F(ConfigPath, FallsBackForAResourcesDirectoryOf1024Bytes) {
             std::string(kFallback) + "/help/l/p.helpcfg");
 }
 
-TEST_F(ConfigPath, OfADownloadLiesInTheViewersStore) {
+TEST_F(ConfigPath, OfADownloadIsInTheViewersStore) {
   machine.SetPreferencesFolder("/prefs");
   kDownloadedHelpcfg = "/klh.1/Local Store/";
   EXPECT_EQ(GetDownloadedHelpConfigPath("dir", "Foo"),

@@ -1,6 +1,6 @@
-// A closing quote with a backslash before it makes the scan look at the same
-// quote for ever. Files in the field are written around this, so it stays, in
-// optimised builds too: the scan is ended by its limit of processor time.
+// After a closing quote with a backslash before it, the scan finds the same
+// quote again, forever. Existing files rely on this, so it stays, also in
+// optimised builds. A limit of processor time ends the scan here.
 #include <gtest/gtest.h>
 #include <sys/resource.h>
 #include <velmohelp/config.h>

@@ -26,7 +26,7 @@ struct Row {
 
 class Pieces : public ::testing::TestWithParam<Row> {};
 
-TEST_P(Pieces, AreTakenUpToTheirFirstZeroByte) {
+TEST_P(Pieces, AreReadUpToTheirFirstZeroByte) {
   const TempFolder folder;
   XMLParser parser;
   ASSERT_TRUE(parser.ReadFileToBuffer(folder.Write("x", GetParam().bytes)));
@@ -37,29 +37,42 @@ const std::string kLetters(kPiece - 3, 'a');
 const std::string kLettersLessOne(kPiece - 4, 'a');
 
 const Row kRows[] = {
-    {"a file of one piece is whole", "k=\"b\"", "b"},
-    {"a value runs on over the border of a piece", kFullPiece + "b\"",
-     kLetters + "b"},
-    {"a quote may be the last byte of a piece",
-     kOpening + kLettersLessOne + "\"", kLettersLessOne},
-    {"a zero byte drops the rest of its piece", "k=\"b\"\0k=\"c\""s, "b"},
-    {"a value cut by a zero byte in the only piece is none", "k=\"b\0c\""s, ""},
-    {"a value cut by a zero byte goes on with the next piece",
-     kOpening + "b\0"s + std::string(kPiece - 5, 'x') + "c\"", "bc"},
-    {"a zero byte at the end of a piece drops itself alone",
-     kOpening + kLettersLessOne + "\0b\""s, kLettersLessOne + "b"},
-    {"a zero byte at the start of a piece drops all of it",
-     kFullPiece + "\0"s + std::string(kPiece - 1, 'x') + "b\"", kLetters + "b"},
-    {"a zero byte at the start of the last piece drops all of it",
-     kFullPiece + "\0b\""s, ""},
-    {"a second zero byte of a piece drops nothing more",
-     kOpening + "b\0x\0"s + std::string(kPiece - 7, 'x') + "c\"", "bc"},
+    {.sentence = "a file of one piece is whole",
+     .bytes = "k=\"b\"",
+     .value = "b"},
+    {.sentence = "a value runs on over the border of a piece",
+     .bytes = kFullPiece + "b\"",
+     .value = kLetters + "b"},
+    {.sentence = "a quote may be the last byte of a piece",
+     .bytes = kOpening + kLettersLessOne + "\"",
+     .value = kLettersLessOne},
+    {.sentence = "a zero byte drops the rest of its piece",
+     .bytes = "k=\"b\"\0k=\"c\""s,
+     .value = "b"},
+    {.sentence = "a value cut by a zero byte in the only piece is not found",
+     .bytes = "k=\"b\0c\""s,
+     .value = ""},
+    {.sentence = "a value cut by a zero byte goes on with the next piece",
+     .bytes = kOpening + "b\0"s + std::string(kPiece - 5, 'x') + "c\"",
+     .value = "bc"},
+    {.sentence = "a zero byte at the end of a piece drops only itself",
+     .bytes = kOpening + kLettersLessOne + "\0b\""s,
+     .value = kLettersLessOne + "b"},
+    {.sentence = "a zero byte at the start of a piece drops all of it",
+     .bytes = kFullPiece + "\0"s + std::string(kPiece - 1, 'x') + "b\"",
+     .value = kLetters + "b"},
+    {.sentence = "a zero byte at the start of the last piece drops all of it",
+     .bytes = kFullPiece + "\0b\""s,
+     .value = ""},
+    {.sentence = "a second zero byte of a piece drops nothing more",
+     .bytes = kOpening + "b\0x\0"s + std::string(kPiece - 7, 'x') + "c\"",
+     .value = "bc"},
 };
 
 INSTANTIATE_TEST_SUITE_P(OfAFile, Pieces, ::testing::ValuesIn(kRows),
                          SentenceOf());
 
-TEST(PiecesOfRandomFiles, AreTakenAsTheSlowReaderTakesThem) {
+TEST(PiecesOfRandomFiles, AreReadAsTheOracleReadsThem) {
   const TempFolder folder;
   RandomText random(std::string(700, 'a') + "\0"s);
   for (const std::size_t pieces : {1U, 2U, 63U, 64U, 65U, 128U, 200U}) {
@@ -98,14 +111,14 @@ TEST_F(Unreadable, IsAFileBelowAFile) {
   ExpectFalseAndEmpty(folder.Write("file", "") + "/x");
 }
 
-TEST_F(Unreadable, IsAPipeWhichNobodyOpensAndNobodyWaitsFor) {
+TEST_F(Unreadable, IsAPipeAndDoesNotBlock) {
   ASSERT_EQ(mkfifo(folder.Path("pipe").c_str(), 0600), 0);
   ExpectFalseAndEmpty(folder.Path("pipe"));
 }
 
 TEST_F(Unreadable, IsADeviceThatNeverEnds) { ExpectFalseAndEmpty("/dev/zero"); }
 
-TEST_F(Unreadable, IsAFileThatTheUserMayNotRead) {
+TEST_F(Unreadable, IsAFileWithoutReadPermission) {
   if (geteuid() == 0) GTEST_SKIP() << "root may read every file";
   const std::string path = folder.Write("x", "k=\"w\"");
   chmod(path.c_str(), 0);

@@ -35,7 +35,7 @@ class UpdateConfig : public OnScriptedMachine {
   const TempFolder folder;
 };
 
-TEST_F(UpdateConfig, TakesTheInstalledFileWhereNothingWasDownloaded) {
+TEST_F(UpdateConfig, ReadsTheInstalledFileWhenNothingWasDownloaded) {
   Install(kGood);
   EXPECT_EQ(UpdateHelpConfigInfo("en_US"), 0);
   EXPECT_EQ(sBaseUrl, "installed");
@@ -49,7 +49,7 @@ TEST_F(UpdateConfig, TakesTheInstalledFileWhereNothingWasDownloaded) {
                   "FileExists " + DownloadPath()));
 }
 
-TEST_F(UpdateConfig, TakesTheViewersIdsFromTheInstalledFileAlone) {
+TEST_F(UpdateConfig, ReadsTheViewersIdsOnlyFromTheInstalledFile) {
   Install(kGood);
   Download(R"(id="en_US_Foo" baseUrl="downloaded" path="other" appId="x"
       pubId="y" path="b" contextSensitivity="no" path="c"
@@ -93,7 +93,8 @@ TEST_F(UpdateConfig, ReturnsTheInstalledFilesResultAfterAFallback) {
   EXPECT_EQ(sConfigID, "en_US_Bar");
 }
 
-TEST_F(UpdateConfig, ChecksTheInstalledFileByTheLocaleThatTheDownloadLeft) {
+TEST_F(UpdateConfig,
+       ChecksTheInstalledFileAgainstTheLocaleThatTheDownloadLeft) {
   sLocale = "en";
   Install(R"(id="en_Foo" baseUrl="installed" path="dir")", "en");
   Download(R"(id="en_Foo")");
@@ -108,7 +109,7 @@ TEST_F(UpdateConfig, DoesNotRetryAnInstalledFile) {
   EXPECT_EQ(machine.Questions().size(), 3);
 }
 
-TEST_F(UpdateConfig, IsUnreadableWithoutTheInstalledFileThoughOneIsDownloaded) {
+TEST_F(UpdateConfig, IsUnreadableWithoutTheInstalledFileDespiteADownload) {
   Download(kGood);
   sAppID = "old app";
   sHelpPathCount = 3;
@@ -149,7 +150,7 @@ TEST_F(UpdateConfig, AssignsIdsThatTheFileLacks) {
   EXPECT_FALSE(sAppIDIsNull);
 }
 
-TEST_F(UpdateConfig, NamesNoViewerForNullInAnyLetterCase) {
+TEST_F(UpdateConfig, HasNoViewerForNullInAnyLetterCase) {
   for (const std::string null : {"NULL", "null", "Null", "nUlL"}) {
     sAppIDIsNull = false;
     Install(R"(id="en_US_Foo" baseUrl="u" path="d" pubId="p" appId=")" + null +
@@ -161,7 +162,7 @@ TEST_F(UpdateConfig, NamesNoViewerForNullInAnyLetterCase) {
   }
 }
 
-TEST_F(UpdateConfig, NamesAViewerForWhatOnlyLooksLikeNull) {
+TEST_F(UpdateConfig, HasAViewerForWhatOnlyLooksLikeNull) {
   for (const std::string id : {" NULL", "NULL ", "NULLL", "NUL", ""}) {
     sAppIDIsNull = true;
     Install(R"(id="en_US_Foo" baseUrl="u" path="d" pubId="NULL" appId=")" + id +

@@ -1,4 +1,4 @@
-// Page ids in the local branch, in folders without a help map.
+// Page ids offline, in folders without a help map.
 #include "tests/support/content_folders.h"
 
 namespace velmohelp::testing {
@@ -28,7 +28,7 @@ TEST_F(LocalPage, IsLookedForOnlyInRowsMarkedYesExactly) {
   EXPECT_EQ(Locally("intro.html"), Found(Downloaded("a") + "/intro.html"));
 }
 
-TEST_F(LocalPage, IsTakenFromTheDownloadedFolderBeforeTheInstalledOne) {
+TEST_F(LocalPage, IsFoundInTheDownloadedFolderBeforeTheInstalledOne) {
   AddRow("a");
   AddPage(Downloaded("a"), "intro.html");
   AddPage(Installed("a"), "intro.html");
@@ -46,7 +46,7 @@ TEST_F(LocalPage, IsLookedForInAllDownloadedFoldersBeforeAnyInstalledOne) {
   EXPECT_EQ(Locally("intro.html"), Found(Downloaded("b") + "/intro.html"));
 }
 
-TEST_F(LocalPage, IsTakenFromTheFirstRowThatHasIt) {
+TEST_F(LocalPage, IsFoundInTheFirstRowThatHasIt) {
   AddRow("b");
   AddRow("a");
   AddPage(Downloaded("a"), "intro.html");
@@ -72,13 +72,13 @@ TEST_F(LocalPage, HasADoubledSlashInItsInstalledPathAndInEachMapsPath) {
                           AsksForMap(Installed("b")), Asks(page)));
 }
 
-TEST_F(LocalPage, ThatIsNowhereLeavesTheIdThoughCandidatesWereWritten) {
+TEST_F(LocalPage, ThatIsNotFoundLeavesTheIdAlthoughCandidatesWereWritten) {
   AddRow("a");
   EXPECT_EQ(Locally("x y\xFF.html"), NotFound("x y\xFF.html"));
   EXPECT_EQ(machine.Questions().size(), 5);
 }
 
-TEST_F(LocalPage, GetsNoSecondSlashBehindAFolderThatEndsWithOne) {
+TEST_F(LocalPage, GetsNoSecondSlashAfterAFolderThatEndsWithOne) {
   AddRow("a");
   sHelpPaths[0][0] += "/";
   AddPage(Downloaded("a"), "intro.html");
@@ -86,7 +86,7 @@ TEST_F(LocalPage, GetsNoSecondSlashBehindAFolderThatEndsWithOne) {
   EXPECT_EQ(machine.Questions()[1], Asks(Downloaded("a") + "///helpmap.txt"));
 }
 
-TEST_F(LocalPage, OfANamelessFolderLiesInTheRootItself) {
+TEST_F(LocalPage, OfAFolderWithoutANameIsInTheRootItself) {
   AddRow("a");
   sHelpPaths[0][0] = "";
   kDownloadedOfflineContent = "/store/Help";
@@ -120,7 +120,7 @@ TEST_F(LocalPage, MayBeADirectory) {
   EXPECT_EQ(Locally(""), Found(Downloaded("a") + "/"));
 }
 
-TEST_F(LocalPage, LeavesTheHelpMapAloneWhereNoFolderHasOne) {
+TEST_F(LocalPage, LeavesTheHelpMapAloneWhenNoFolderHasOne) {
   AddRow("a");
   sHelpMap = {{"old", "old"}};
   EXPECT_EQ(Locally("intro.html"), NotFound("intro.html"));

@@ -1,4 +1,4 @@
-// Page ids in the local branch, in folders with a help map.
+// Page ids offline, in folders with a help map.
 #include <sys/stat.h>
 
 #include "tests/support/content_folders.h"
@@ -18,7 +18,7 @@ class MappedPage : public ContentFolders {
   MappedPage() { AddRow("a"); }
 };
 
-TEST_F(MappedPage, IsTakenUncheckedWithItsAnchorAsAQuery) {
+TEST_F(MappedPage, IsAcceptedUncheckedWithItsAnchorAsAQuery) {
   AddMap(Downloaded("a"), kMap);
   EXPECT_EQ(Locally("intro.html"),
             Found(Downloaded("a") + "/intro_v2.html?nameAnchor=top"));
@@ -26,7 +26,7 @@ TEST_F(MappedPage, IsTakenUncheckedWithItsAnchorAsAQuery) {
               ElementsAre(asks_for_root, AsksForMap(Downloaded("a"))));
 }
 
-TEST_F(MappedPage, IsNotLookedForBesideAMapThatDoesNotKnowIt) {
+TEST_F(MappedPage, IsNotLookedForInAFolderWhoseMapLacksIt) {
   AddMap(Downloaded("a"), "VX_HOME\thome.html\n");
   AddPage(Downloaded("a"), "intro.html");
   EXPECT_EQ(Locally("intro.html"), NotFound("intro.html"));
@@ -36,7 +36,7 @@ TEST_F(MappedPage, IsNotLookedForBesideAMapThatDoesNotKnowIt) {
                           Asks(Installed("a") + "/intro.html")));
 }
 
-TEST_F(MappedPage, IsNeverTakenFromAMapWithoutAHomePage) {
+TEST_F(MappedPage, IsNeverFoundInAMapWithoutAHomePage) {
   AddMap(Downloaded("a"), "intro\tintro_v2.html\n");
   AddPage(Downloaded("a"), "intro.html");
   AddPage(Downloaded("a"), "intro_v2.html");
@@ -44,7 +44,7 @@ TEST_F(MappedPage, IsNeverTakenFromAMapWithoutAHomePage) {
   EXPECT_THAT(sHelpMap, ElementsAre(Pair("intro", "intro_v2.html")));
 }
 
-TEST_F(MappedPage, IsNotFoundWhereTheMapCannotBeOpened) {
+TEST_F(MappedPage, IsNotFoundWhenTheMapCannotBeOpened) {
   sHelpMap = {{"old", "old"}};
   AddPage(Downloaded("a"), "helpmap.txt");
   AddPage(Downloaded("a"), "intro.html");
@@ -52,20 +52,20 @@ TEST_F(MappedPage, IsNotFoundWhereTheMapCannotBeOpened) {
   EXPECT_TRUE(sHelpMap.empty());
 }
 
-TEST_F(MappedPage, IsNotFoundWhereTheMapIsAPipe) {
+TEST_F(MappedPage, IsNotFoundWhenTheMapIsAPipe) {
   AddMap(Downloaded("a"), "");
   std::filesystem::remove(Downloaded("a") + "/helpmap.txt");
   ASSERT_EQ(mkfifo((Downloaded("a") + "/helpmap.txt").c_str(), 0600), 0);
   EXPECT_EQ(Locally("intro.html"), NotFound("intro.html"));
 }
 
-TEST_F(MappedPage, BreaksWithTheStreamsFailureWhereTheMapIsADirectory) {
+TEST_F(MappedPage, ThrowsTheStreamsFailureWhenTheMapIsADirectory) {
   std::filesystem::create_directories(Downloaded("a") + "/helpmap.txt");
   machine.AddDirectory(Downloaded("a") + "/helpmap.txt");
   EXPECT_THROW(Locally("intro.html"), std::ios_base::failure);
 }
 
-TEST_F(MappedPage, IsTakenFromALaterFolderWhenAMapDoesNotKnowIt) {
+TEST_F(MappedPage, IsFoundInALaterFolderWhenAMapLacksIt) {
   AddRow("b");
   AddMap(Downloaded("a"), "VX_HOME\thome.html\n");
   AddMap(Downloaded("b"), "VX_HOME\tother.html\nintro\tb.html\n");
@@ -74,14 +74,14 @@ TEST_F(MappedPage, IsTakenFromALaterFolderWhenAMapDoesNotKnowIt) {
                                     Pair("intro", "b.html")));
 }
 
-TEST_F(MappedPage, IsTakenFromTheInstalledFolderWhenTheDownloadedMapFails) {
+TEST_F(MappedPage, IsFoundInTheInstalledFolderWhenTheDownloadedMapFails) {
   AddMap(Downloaded("a"), "intro\tx.html\n");
   AddMap(Installed("a"), kMap);
   EXPECT_EQ(Locally("intro.html"),
             Found(Installed("a") + "/intro_v2.html?nameAnchor=top"));
 }
 
-TEST_F(MappedPage, LeavesTheMapThatWasReadLast) {
+TEST_F(MappedPage, LeavesTheMapReadLast) {
   AddRow("b");
   AddMap(Downloaded("a"), "VX_HOME\t1\nonly-a\tx\n");
   AddMap(Installed("b"), "VX_HOME\t2\nonly-b\tx\n");
@@ -116,33 +116,81 @@ TEST_P(MappedId, IsLookedUpWithoutItsLastFiveBytes) {
 }
 
 constexpr Row kKeys[] = {
-    {"a normalised id loses its extension", "ab.html", "ab\tx", "/x"},
-    {"an id shorter than five bytes is used whole", "ab", "ab\tx", "/x"},
-    {"an id of four bytes is used whole", "abcd", "abcd\tx", "/x"},
-    {"an id of five bytes becomes empty", "abcde", "abcde\tx", ""},
-    {"an id of six bytes keeps one", "abcdef", "a\tx", "/x"},
-    {"five bytes are cut from htm too", "page.htm", "pag\tx", "/x"},
-    {"the whole id is no key", "ab.html", "ab.html\tx", ""},
-    {"the letter case of a key counts", "ab.html", "AB\tx", ""},
-    {"an empty id is used whole", "", "ab\tx", ""},
+    {.sentence = "a normalised id loses its extension",
+     .id = "ab.html",
+     .map_line = "ab\tx",
+     .page = "/x"},
+    {.sentence = "an id shorter than five bytes is used whole",
+     .id = "ab",
+     .map_line = "ab\tx",
+     .page = "/x"},
+    {.sentence = "an id of four bytes is used whole",
+     .id = "abcd",
+     .map_line = "abcd\tx",
+     .page = "/x"},
+    {.sentence = "an id of five bytes becomes empty",
+     .id = "abcde",
+     .map_line = "abcde\tx",
+     .page = ""},
+    {.sentence = "an id of six bytes keeps one",
+     .id = "abcdef",
+     .map_line = "a\tx",
+     .page = "/x"},
+    {.sentence = "five bytes are cut off htm too",
+     .id = "page.htm",
+     .map_line = "pag\tx",
+     .page = "/x"},
+    {.sentence = "the whole id is not the key",
+     .id = "ab.html",
+     .map_line = "ab.html\tx",
+     .page = ""},
+    {.sentence = "the letter case of a key counts",
+     .id = "ab.html",
+     .map_line = "AB\tx",
+     .page = ""},
+    {.sentence = "an empty id is used whole",
+     .id = "",
+     .map_line = "ab\tx",
+     .page = ""},
 };
 
 constexpr Row kValues[] = {
-    {"only the first number sign is rewritten", "ab.html", "ab\tx#b#c",
-     "/x?nameAnchor=b#c"},
-    {"a number sign at the start leaves no page", "ab.html", "ab\t#b",
-     "/?nameAnchor=b"},
-    {"a number sign at the end leaves an empty anchor", "ab.html", "ab\tx#",
-     "/x?nameAnchor="},
-    {"a query before the anchor stays", "ab.html", "ab\tx?q=1#b",
-     "/x?q=1?nameAnchor=b"},
-    {"a leading slash is doubled", "ab.html", "ab\t/x", "//x"},
-    {"a path upwards stays", "ab.html", "ab\t../../x", "/../../x"},
-    {"blanks stay", "ab.html", "ab\t x y ", "/ x y "},
-    {"a URL in another letter case is a page", "ab.html", "ab\tHTTP://x",
-     "/HTTP://x"},
-    {"a URL behind a blank is a page", "ab.html", "ab\t http://x",
-     "/ http://x"},
+    {.sentence = "only the first number sign is rewritten",
+     .id = "ab.html",
+     .map_line = "ab\tx#b#c",
+     .page = "/x?nameAnchor=b#c"},
+    {.sentence = "a number sign at the start leaves no page",
+     .id = "ab.html",
+     .map_line = "ab\t#b",
+     .page = "/?nameAnchor=b"},
+    {.sentence = "a number sign at the end leaves an empty anchor",
+     .id = "ab.html",
+     .map_line = "ab\tx#",
+     .page = "/x?nameAnchor="},
+    {.sentence = "a query before the anchor stays",
+     .id = "ab.html",
+     .map_line = "ab\tx?q=1#b",
+     .page = "/x?q=1?nameAnchor=b"},
+    {.sentence = "a leading slash is doubled",
+     .id = "ab.html",
+     .map_line = "ab\t/x",
+     .page = "//x"},
+    {.sentence = "a path upwards stays",
+     .id = "ab.html",
+     .map_line = "ab\t../../x",
+     .page = "/../../x"},
+    {.sentence = "spaces stay",
+     .id = "ab.html",
+     .map_line = "ab\t x y ",
+     .page = "/ x y "},
+    {.sentence = "a URL in another letter case is a page",
+     .id = "ab.html",
+     .map_line = "ab\tHTTP://x",
+     .page = "/HTTP://x"},
+    {.sentence = "a URL after a space is a page",
+     .id = "ab.html",
+     .map_line = "ab\t http://x",
+     .page = "/ http://x"},
 };
 
 INSTANTIATE_TEST_SUITE_P(Keys, MappedId, ::testing::ValuesIn(kKeys),

@@ -17,7 +17,7 @@ class OnlinePage : public ContentFolders {
   }
 };
 
-TEST_F(OnlinePage, OfAFolderWithoutAMapMustGiveAText) {
+TEST_F(OnlinePage, OfAFolderWithoutAMapMustBeFetchable) {
   AddRow("b");
   machine.AddText(Online("b", "intro.html"));
   EXPECT_EQ(OnTheNet("intro.html"), Found(Online("b", "intro.html")));
@@ -45,14 +45,14 @@ TEST_F(OnlinePage, IsFetchedByTheArgumentNotByTheStatesFlag) {
   EXPECT_EQ(Locally("intro.html"), NotFound("intro.html"));
 }
 
-TEST_F(OnlinePage, ThatIsMappedIsTakenUncheckedWithItsAnchorAsItIs) {
+TEST_F(OnlinePage, ThatIsMappedIsAcceptedUncheckedWithItsAnchor) {
   AddMap(Downloaded("a"), "VX_HOME\th.html\nintro\tx.html#b#c\n");
   EXPECT_EQ(OnTheNet("intro.html"), Found(Online("a", "x.html#b#c")));
   EXPECT_THAT(machine.Questions(),
               ElementsAre(asks_for_root, AsksForMap(Downloaded("a"))));
 }
 
-TEST_F(OnlinePage, IsNotFetchedWhereAMapDoesNotKnowIt) {
+TEST_F(OnlinePage, IsNotFetchedWhenAMapLacksIt) {
   AddMap(Downloaded("a"), "VX_HOME\th.html\n");
   AddMap(Installed("a"), "intro\tx.html\n");
   machine.AddText(Online("a", "intro.html"));
@@ -63,14 +63,14 @@ TEST_F(OnlinePage, IsNotFetchedWhereAMapDoesNotKnowIt) {
   EXPECT_EQ(sHelpMap.count("intro"), 1);
 }
 
-TEST_F(OnlinePage, StandsBehindTheBaseUrlAsItIs) {
+TEST_F(OnlinePage, FollowsTheBaseUrlUnchanged) {
   sBaseUrl = "http://h?x=";
   machine.AddText("http://h?x=" + Folder("a") + "/intro.html");
   EXPECT_EQ(OnTheNet("intro.html"),
             Found("http://h?x=" + Folder("a") + "/intro.html"));
 }
 
-TEST_F(OnlinePage, IsNotAskedForWhereTheBaseUrlMakesNoUrl) {
+TEST_F(OnlinePage, IsNotFetchedWhenTheBaseUrlMakesAnInvalidUrl) {
   sBaseUrl = "http://a b/";
   EXPECT_EQ(OnTheNet("intro.html"), NotFound("intro.html"));
   EXPECT_EQ(machine.Questions().size(), 3);
@@ -81,7 +81,7 @@ class MappedUrl : public OnlinePage {
   MappedUrl() { AddMap(Downloaded("a"), kUrlMap); }
 };
 
-TEST_F(MappedUrl, IsTakenOnlineWhenItGivesAText) {
+TEST_F(MappedUrl, IsAcceptedOnlineWhenItCanBeFetched) {
   machine.AddText(kUrl);
   EXPECT_EQ(OnTheNet("intro.html"), Found(kUrl));
   EXPECT_THAT(machine.Questions(),
@@ -124,7 +124,7 @@ TEST_F(MappedUrl, OfAFileIsCheckedLikeAnyOther) {
   EXPECT_EQ(Locally("intro.html"), Found("file:///x#y"));
 }
 
-TEST_F(MappedUrl, ThatIsNoUrlAfterAllFails) {
+TEST_F(MappedUrl, ThatIsNotAValidUriFails) {
   AddMap(Downloaded("a"), "VX_HOME\th\nintro\thttp://a b\n");
   machine.AddText("http://a b");
   EXPECT_EQ(OnTheNet("intro.html"), NotFound("intro.html"));

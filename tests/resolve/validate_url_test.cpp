@@ -30,7 +30,7 @@ TEST_F(ValidUrl, WithoutAFetchNeverTouchesTheNetwork) {
               ElementsAre("FileExists http://localhost/x"));
 }
 
-TEST_F(ValidUrl, WithAFetchIsOneThatGivesAText) {
+TEST_F(ValidUrl, WithAFetchIsOneThatHasAText) {
   machine.AddText("http://localhost/x");
   machine.AddFile("/x");
   EXPECT_TRUE(ValidateURL("http://localhost/x", true));
@@ -47,7 +47,7 @@ TEST_F(ValidUrl, WithAFetchEndsAtItsFirstZeroByte) {
   EXPECT_THAT(machine.Questions(), ElementsAre("FetchText http://localhost/x"));
 }
 
-TEST_F(ValidUrl, WithAFetchIsNeverTextThatIsNoUrl) {
+TEST_F(ValidUrl, WithAFetchIsNeverAnInvalidUri) {
   for (const char* text :
        {"", "http://a b/", "http://a/\xC3\xA4", "http://a/\"", "http://a/%",
         "http://a/%2", "http://a/%zz", "http://a/<b>", "http://a/\xFF",

@@ -25,7 +25,7 @@ struct Row {
 
 class EncodeUri : public ::testing::TestWithParam<Row> {};
 
-TEST_P(EncodeUri, EscapesWhatMayNotStandInAUrl) {
+TEST_P(EncodeUri, EscapesWhatIsNotLegalInAUrl) {
   EXPECT_EQ(Encoded(GetParam().text), GetParam().encoded);
 }
 
@@ -34,40 +34,78 @@ TEST_P(EncodeUri, LeavesAnEscapedTextAsItIs) {
 }
 
 const Row kRows[] = {
-    {"an empty text stays empty", "", ""},
-    {"a URL with a blank", "http://x/a b?q=1&r=2", "http://x/a%20b?q=1&r=2"},
-    {"reserved characters stay", ":/?#[]@!$&'()*+,;=", ":/?#[]@!$&'()*+,;="},
-    {"unreserved characters stay", "aZ09-._~", "aZ09-._~"},
-    {"quotes brackets and braces go", "\"<>{}|\\^`",
-     "%22%3C%3E%7B%7D%7C%5C%5E%60"},
-    {"controls go", "\x01\t\n\r\x7F", "%01%09%0A%0D%7F"},
-    {"letters beyond ASCII go byte by byte", "\xC3\xBC\xE2\x82\xAC",
-     "%C3%BC%E2%82%AC"},
-    {"characters of four bytes go byte by byte", "\xF0\x9F\x98\x80",
-     "%F0%9F%98%80"},
-    {"an escape stays", "a%20b%c3%BC", "a%20b%c3%BC"},
-    {"an escaped percent sign stays", "%25", "%25"},
-    {"a percent sign before other letters goes", "100% a%zz%2g",
-     "100%25%20a%25zz%252g"},
-    {"a percent sign at the end goes", "a%", "a%25"},
-    {"a percent sign before one digit goes", "a%4", "a%254"},
-    {"of two percent signs the first goes", "%%41", "%25%41"},
-    {"a text ends at its first zero byte", "a b\0c"s, "a%20b"},
-    {"bytes that are no UTF-8 give nothing", "a\xFF", ""},
-    {"a cut character gives nothing", "a\xC3", ""},
-    {"a surrogate gives nothing", "\xED\xA0\x80", ""},
-    {"a result of 1023 bytes fits", std::string(1023, 'a'),
-     std::string(1023, 'a')},
-    {"a result of 1024 bytes gives nothing", std::string(1024, 'a'), ""},
-    {"a result of 1023 bytes of escapes fits", std::string(341, ' '),
-     [] {
-       std::string text;
-       for (int i = 0; i < 341; ++i) text += "%20";
-       return text;
-     }()},
-    {"a result of 1026 bytes of escapes gives nothing", std::string(342, ' '),
-     ""},
-    {"megabytes give nothing", std::string(4'000'000, '%'), ""},
+    {.sentence = "an empty text stays empty", .text = "", .encoded = ""},
+    {.sentence = "a URL with a space",
+     .text = "http://x/a b?q=1&r=2",
+     .encoded = "http://x/a%20b?q=1&r=2"},
+    {.sentence = "reserved characters stay",
+     .text = ":/?#[]@!$&'()*+,;=",
+     .encoded = ":/?#[]@!$&'()*+,;="},
+    {.sentence = "unreserved characters stay",
+     .text = "aZ09-._~",
+     .encoded = "aZ09-._~"},
+    {.sentence = "quotes brackets and braces are escaped",
+     .text = "\"<>{}|\\^`",
+     .encoded = "%22%3C%3E%7B%7D%7C%5C%5E%60"},
+    {.sentence = "control characters are escaped",
+     .text = "\x01\t\n\r\x7F",
+     .encoded = "%01%09%0A%0D%7F"},
+    {.sentence = "letters beyond ASCII are escaped byte by byte",
+     .text = "\xC3\xBC\xE2\x82\xAC",
+     .encoded = "%C3%BC%E2%82%AC"},
+    {.sentence = "characters of four bytes are escaped byte by byte",
+     .text = "\xF0\x9F\x98\x80",
+     .encoded = "%F0%9F%98%80"},
+    {.sentence = "an escape stays",
+     .text = "a%20b%c3%BC",
+     .encoded = "a%20b%c3%BC"},
+    {.sentence = "an escaped percent sign stays",
+     .text = "%25",
+     .encoded = "%25"},
+    {.sentence = "a percent sign before other letters is escaped",
+     .text = "100% a%zz%2g",
+     .encoded = "100%25%20a%25zz%252g"},
+    {.sentence = "a percent sign at the end is escaped",
+     .text = "a%",
+     .encoded = "a%25"},
+    {.sentence = "a percent sign before one digit is escaped",
+     .text = "a%4",
+     .encoded = "a%254"},
+    {.sentence = "of two percent signs the first is escaped",
+     .text = "%%41",
+     .encoded = "%25%41"},
+    {.sentence = "a text ends at its first zero byte",
+     .text = "a b\0c"s,
+     .encoded = "a%20b"},
+    {.sentence = "bytes that are not valid UTF-8 give nothing",
+     .text = "a\xFF",
+     .encoded = ""},
+    {.sentence = "an incomplete character gives nothing",
+     .text = "a\xC3",
+     .encoded = ""},
+    {.sentence = "a surrogate gives nothing",
+     .text = "\xED\xA0\x80",
+     .encoded = ""},
+    {.sentence = "a result of 1023 bytes fits",
+     .text = std::string(1023, 'a'),
+     .encoded = std::string(1023, 'a')},
+    {.sentence = "a result of 1024 bytes gives nothing",
+     .text = std::string(1024, 'a'),
+     .encoded = ""},
+    {.sentence = "a result of 1023 bytes of escapes fits",
+     .text = std::string(341, ' '),
+     .encoded =
+         [] {
+           std::string text;
+           for (int i = 0; i < 341; ++i) text += "%20";
+           return text;
+         }()},
+    {.sentence = "a result of 1026 bytes of escapes gives nothing",
+     .text = std::string(342, ' '),
+     .encoded = ""},
+    {.sentence = "megabytes give nothing",
+     .text = std::string(4'000'000, '%'),
+     .encoded = ""},
 };
 
 INSTANTIATE_TEST_SUITE_P(OfAText, EncodeUri, ::testing::ValuesIn(kRows),
@@ -93,7 +131,7 @@ TEST(EncodeUriOfEscapedText, ChangesNothing) {
 
 class EncodeIntoABuffer : public ::testing::Test {
  protected:
-  /// Encodes into a buffer that is larger than told and full of "#".
+  /// Encodes into a buffer full of "#" that is larger than size.
   long Encode(const char* in, long size) {
     std::memset(buffer, '#', sizeof buffer);
     return VelmoHelpEncodeURIComponent(in, buffer, size);

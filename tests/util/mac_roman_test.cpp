@@ -12,7 +12,7 @@ namespace velmohelp::testing {
 namespace {
 
 /// The C library's view of one byte. It keeps an older edition of the set, in
-/// which two characters are told by other code points.
+/// which two characters have other code points.
 std::string FromCLibrary(char byte) {
   static auto* const converter = iconv_open("UTF-8", "MACINTOSH");
   char out[8] = {};
@@ -57,7 +57,7 @@ TEST(MacRoman, HasNoOtherCharacter) {
   }
 }
 
-TEST(MacRoman, TakesMegabytes) {
+TEST(MacRoman, ConvertsMegabytes) {
   const std::string bytes(4'000'000, '\xFF');
   EXPECT_EQ(Utf8ToMacRoman(MacRomanToUtf8(bytes)), bytes);
 }

@@ -26,7 +26,7 @@ struct CStringRow {
 
 class CString : public ::testing::TestWithParam<CStringRow> {};
 
-TEST_P(CString, IsMadeOfAPlatformString) {
+TEST_P(CString, IsAllocatedForAPlatformString) {
   const PlatformString text(GetParam().text);
   const std::unique_ptr<char, decltype(&std::free)> bytes(
       GetCharFromCFStringRef(&text), &std::free);
@@ -37,17 +37,27 @@ TEST_P(CString, IsMadeOfAPlatformString) {
 }
 
 const CStringRow kMade[] = {
-    {"one letter", "a", true},
-    {"a letter of two bytes", "\xC3\xA4", true},
-    {"a character of four bytes", "\xF0\x9F\x98\x80", true},
-    {"a letter among characters of three bytes", "\u20ACx\u20AC", true},
-    {"a text of megabytes", std::string(8'000'000, 'a'), true},
+    {.sentence = "one letter", .text = "a", .is_made = true},
+    {.sentence = "a letter of two bytes", .text = "\xC3\xA4", .is_made = true},
+    {.sentence = "a character of four bytes",
+     .text = "\xF0\x9F\x98\x80",
+     .is_made = true},
+    {.sentence = "a letter among characters of three bytes",
+     .text = "\u20ACx\u20AC",
+     .is_made = true},
+    {.sentence = "a text of megabytes",
+     .text = std::string(8'000'000, 'a'),
+     .is_made = true},
 };
 
 const CStringRow kNotMade[] = {
-    {"an empty text", "", false},
-    {"a character of three bytes", "\u20AC", false},
-    {"many characters of three bytes", "\u20AC\u20AC\uFFFD", false},
+    {.sentence = "an empty text", .text = "", .is_made = false},
+    {.sentence = "a character of three bytes",
+     .text = "\u20AC",
+     .is_made = false},
+    {.sentence = "many characters of three bytes",
+     .text = "\u20AC\u20AC\uFFFD",
+     .is_made = false},
 };
 
 INSTANTIATE_TEST_SUITE_P(Made, CString, ::testing::ValuesIn(kMade),
@@ -55,7 +65,7 @@ INSTANTIATE_TEST_SUITE_P(Made, CString, ::testing::ValuesIn(kMade),
 INSTANTIATE_TEST_SUITE_P(NotMade, CString, ::testing::ValuesIn(kNotMade),
                          SentenceOf());
 
-TEST(CStringOfNull, IsNotMade) {
+TEST(CStringOfNull, IsNotAllocated) {
   EXPECT_EQ(GetCharFromCFStringRef(nullptr), nullptr);
 }
 
@@ -78,26 +88,65 @@ constexpr std::uint32_t kAscii = 0x0600;
 constexpr std::uint32_t kMacRoman = 0;
 
 const EncodedRow kEncodings[] = {
-    {"UTF-8 has all characters", "a\u00E4\u20AC\U0001F600", kUtf8,
-     "a\xC3\xA4\xE2\x82\xAC\xF0\x9F\x98\x80"},
-    {"ASCII has its own", "a\x7F", kAscii, "a\x7F"},
-    {"ASCII has no others", "a\u00E4", kAscii, ""},
-    {"Mac Roman has its own", "a\u00E4\u20AC", kMacRoman, "a\x8A\xDB"},
-    {"Mac Roman has no others", "a\u0100", kMacRoman, ""},
-    {"an unknown encoding has none", "a", 1, ""},
-    {"an empty text is empty", "", kUtf8, ""},
+    {.sentence = "UTF-8 has all characters",
+     .text = "a\u00E4\u20AC\U0001F600",
+     .encoding = kUtf8,
+     .bytes = "a\xC3\xA4\xE2\x82\xAC\xF0\x9F\x98\x80"},
+    {.sentence = "ASCII has its own characters",
+     .text = "a\x7F",
+     .encoding = kAscii,
+     .bytes = "a\x7F"},
+    {.sentence = "ASCII has no other characters",
+     .text = "a\u00E4",
+     .encoding = kAscii,
+     .bytes = ""},
+    {.sentence = "Mac Roman has its own characters",
+     .text = "a\u00E4\u20AC",
+     .encoding = kMacRoman,
+     .bytes = "a\x8A\xDB"},
+    {.sentence = "Mac Roman has no other characters",
+     .text = "a\u0100",
+     .encoding = kMacRoman,
+     .bytes = ""},
+    {.sentence = "an unknown encoding has no characters",
+     .text = "a",
+     .encoding = 1,
+     .bytes = ""},
+    {.sentence = "an empty text is empty",
+     .text = "",
+     .encoding = kUtf8,
+     .bytes = ""},
 };
 
 const EncodedRow kLimits[] = {
-    {"1023 bytes fit", std::string(1023, 'a'), kUtf8, std::string(1023, 'a')},
-    {"1024 bytes do not", std::string(1024, 'a'), kUtf8, ""},
-    {"1024 bytes of ASCII do not", std::string(1024, 'a'), kAscii, ""},
-    {"bytes count and not characters", std::string(1022, 'a') + "\u00E4", kUtf8,
-     ""},
-    {"bytes count in the target's encoding", std::string(1022, 'a') + "\u00E4",
-     kMacRoman, std::string(1022, 'a') + "\x8A"},
-    {"megabytes do not", std::string(8'000'000, 'a'), kUtf8, ""},
-    {"a text ends at its first zero byte", "a\0b"s, kUtf8, "a"},
+    {.sentence = "1023 bytes fit",
+     .text = std::string(1023, 'a'),
+     .encoding = kUtf8,
+     .bytes = std::string(1023, 'a')},
+    {.sentence = "1024 bytes do not",
+     .text = std::string(1024, 'a'),
+     .encoding = kUtf8,
+     .bytes = ""},
+    {.sentence = "1024 bytes of ASCII do not",
+     .text = std::string(1024, 'a'),
+     .encoding = kAscii,
+     .bytes = ""},
+    {.sentence = "bytes count and not characters",
+     .text = std::string(1022, 'a') + "\u00E4",
+     .encoding = kUtf8,
+     .bytes = ""},
+    {.sentence = "bytes count in the target's encoding",
+     .text = std::string(1022, 'a') + "\u00E4",
+     .encoding = kMacRoman,
+     .bytes = std::string(1022, 'a') + "\x8A"},
+    {.sentence = "megabytes do not",
+     .text = std::string(8'000'000, 'a'),
+     .encoding = kUtf8,
+     .bytes = ""},
+    {.sentence = "a text ends at its first zero byte",
+     .text = "a\0b"s,
+     .encoding = kUtf8,
+     .bytes = "a"},
 };
 
 INSTANTIATE_TEST_SUITE_P(Encodings, EncodedText,
@@ -111,7 +160,7 @@ TEST(EncodedTextOfNull, IsEmpty) {
   }
 }
 
-TEST(TextOfACString, IsThereForUtf8Alone) {
+TEST(TextOfACString, ExistsOnlyForUtf8) {
   EXPECT_EQ(CstrToNSstr(nullptr), nullptr);
   EXPECT_EQ(CstrToNSstr("\xFF"), nullptr);
   EXPECT_EQ(CstrToNSstr("a\xC3"), nullptr);
@@ -134,34 +183,42 @@ TEST_P(DecodedBytes, AreTheText) {
 }
 
 const DecodedRow kDecodings[] = {
+
     {.sentence = "UTF-8 ends at the first zero byte",
      .bytes = "a\0\xFF"s,
      .encoding = kUtf8,
      .text = "a"},
+
     {.sentence = "Mac Roman ends at the first zero byte",
      .bytes = "a\0b"s,
      .encoding = kMacRoman,
      .text = "a"},
+
     {.sentence = "ASCII ends at the first zero byte",
      .bytes = "\0b"s,
      .encoding = kAscii,
      .text = ""},
+
     {.sentence = "Mac Roman has a character for every byte",
      .bytes = "\x8A",
      .encoding = kMacRoman,
      .text = "\u00E4"},
+
     {.sentence = "a continuation byte alone is not valid UTF-8",
      .bytes = "\x8A",
      .encoding = kUtf8,
      .text = std::nullopt},
+
     {.sentence = "a byte above 127 is not valid ASCII",
      .bytes = "\x80",
      .encoding = kAscii,
      .text = std::nullopt},
+
     {.sentence = "byte 127 is valid ASCII",
      .bytes = "\x7F",
      .encoding = kAscii,
      .text = "\x7F"},
+
     {.sentence = "nothing is valid in an unknown encoding",
      .bytes = "a",
      .encoding = 1,

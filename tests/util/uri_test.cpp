@@ -25,27 +25,80 @@ TEST_P(UriParts, ArePathAndHost) {
 }
 
 const Row kRows[] = {
-    {"all parts", "http://u:p@h:8/a/b?q#f", "/a/b", "h"},
-    {"a host alone", "http://h", "", "h"},
-    {"a path alone", "/a:b//c", "/a:b//c", std::nullopt},
-    {"a relative path with a colon behind a slash", "a/b:c", "a/b:c",
-     std::nullopt},
-    {"a file URL", "file:///a", "/a", std::nullopt},
-    {"a slash inside a query", "http://h?a/b@c", "", "h"},
-    {"a question mark inside a fragment", "/a#b?c", "/a", std::nullopt},
-    {"an at sign inside a path", "http://h/u@x", "/u@x", "h"},
-    {"two at signs before a host", "http://a@b@h/", "/", "h"},
-    {"a path with an escape", "/a%20b", "/a%20b", std::nullopt},
-    {"a host with an escape", "//%61%62", "", "ab"},
-    {"an IP literal", "http://[::1]:8/", "/", "::1"},
-    {"an IP literal without an end", "http://[::1/x", "/x", "::1"},
-    {"an empty IP literal", "http://[]/", "/", std::nullopt},
-    {"an opaque URI", "mailto:a@b", "a@b", std::nullopt},
-    {"an empty text", "", "", std::nullopt},
-    {"a scheme alone", "http:", "", std::nullopt},
-    {"slashes alone", "//", "", std::nullopt},
-    {"a colon in front ends no scheme", "://h/p", "://h/p", std::nullopt},
-    {"a colon alone is a path", ":", ":", std::nullopt},
+    {.sentence = "all parts",
+     .uri = "http://u:p@h:8/a/b?q#f",
+     .path = "/a/b",
+     .host = "h"},
+    {.sentence = "a host alone", .uri = "http://h", .path = "", .host = "h"},
+    {.sentence = "a path alone",
+     .uri = "/a:b//c",
+     .path = "/a:b//c",
+     .host = std::nullopt},
+    {.sentence = "a relative path with a colon after a slash",
+     .uri = "a/b:c",
+     .path = "a/b:c",
+     .host = std::nullopt},
+    {.sentence = "a file URL",
+     .uri = "file:///a",
+     .path = "/a",
+     .host = std::nullopt},
+    {.sentence = "a slash inside a query",
+     .uri = "http://h?a/b@c",
+     .path = "",
+     .host = "h"},
+    {.sentence = "a question mark inside a fragment",
+     .uri = "/a#b?c",
+     .path = "/a",
+     .host = std::nullopt},
+    {.sentence = "an at sign inside a path",
+     .uri = "http://h/u@x",
+     .path = "/u@x",
+     .host = "h"},
+    {.sentence = "two at signs before a host",
+     .uri = "http://a@b@h/",
+     .path = "/",
+     .host = "h"},
+    {.sentence = "a path with an escape",
+     .uri = "/a%20b",
+     .path = "/a%20b",
+     .host = std::nullopt},
+    {.sentence = "a host with an escape",
+     .uri = "//%61%62",
+     .path = "",
+     .host = "ab"},
+    {.sentence = "an IP literal",
+     .uri = "http://[::1]:8/",
+     .path = "/",
+     .host = "::1"},
+    {.sentence = "an IP literal without an end",
+     .uri = "http://[::1/x",
+     .path = "/x",
+     .host = "::1"},
+    {.sentence = "an empty IP literal",
+     .uri = "http://[]/",
+     .path = "/",
+     .host = std::nullopt},
+    {.sentence = "an opaque URI",
+     .uri = "mailto:a@b",
+     .path = "a@b",
+     .host = std::nullopt},
+    {.sentence = "an empty text", .uri = "", .path = "", .host = std::nullopt},
+    {.sentence = "a scheme alone",
+     .uri = "http:",
+     .path = "",
+     .host = std::nullopt},
+    {.sentence = "slashes alone",
+     .uri = "//",
+     .path = "",
+     .host = std::nullopt},
+    {.sentence = "a colon at the start does not end a scheme",
+     .uri = "://h/p",
+     .path = "://h/p",
+     .host = std::nullopt},
+    {.sentence = "a colon alone is a path",
+     .uri = ":",
+     .path = ":",
+     .host = std::nullopt},
 };
 
 INSTANTIATE_TEST_SUITE_P(OfAText, UriParts, ::testing::ValuesIn(kRows),
@@ -57,7 +110,7 @@ TEST(Unescaped, ReplacesEscapesOfEitherLetterCaseOnce) {
   EXPECT_EQ(Unescaped("a%00b"), std::string("a\0b", 3));
 }
 
-TEST(Uri, IsMadeOfUriCharactersAndEscapesAlone) {
+TEST(Uri, HasOnlyUriCharactersAndEscapes) {
   EXPECT_FALSE(IsUri(""));
   const std::string legal =
       "0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz"
@@ -70,7 +123,7 @@ TEST(Uri, IsMadeOfUriCharactersAndEscapesAlone) {
   }
 }
 
-TEST(Uri, OfMegabytesIsWalkedOnce) {
+TEST(Uri, OfMegabytesIsReadOnce) {
   std::string text;
   while (text.size() < 4'000'000) text += "%20";
   EXPECT_TRUE(IsUri(text));

@@ -28,47 +28,78 @@ TEST_P(BaseUrl, IsTheFirstLine) {
 }
 
 const Row kLines[] = {
-    {"an empty file has none", "", ""},
-    {"an empty first line is empty", "\nhttp://x", ""},
-    {"a line feed ends it", "http://host/x\nhttp://y\n", "http://host/x"},
-    {"a carriage return ends it", "http://host/x\rhttp://y", "http://host/x"},
-    {"both together end it", "http://host/x\r\nhttp://y", "http://host/x"},
-    {"the end of the file ends it", "http://host/x", "http://host/x"},
-    {"blanks and TABs stay", " \thttp://host/x \t\n", " \thttp://host/x \t"},
-    {"it need not be a URL", "any\0thing"s, "any\0thing"s},
-    {"a percent sign stays without a bracketed host", "http://host/a%20b",
-     "http://host/a%20b"},
-    {"a bracket elsewhere is no bracketed host", "http://host/[a%20b",
-     "http://host/[a%20b"},
+    {.sentence = "an empty file has no base URL", .text = "", .base_url = ""},
+    {.sentence = "an empty first line is empty",
+     .text = "\nhttp://x",
+     .base_url = ""},
+    {.sentence = "a line feed ends it",
+     .text = "http://host/x\nhttp://y\n",
+     .base_url = "http://host/x"},
+    {.sentence = "a carriage return ends it",
+     .text = "http://host/x\rhttp://y",
+     .base_url = "http://host/x"},
+    {.sentence = "CR LF ends it",
+     .text = "http://host/x\r\nhttp://y",
+     .base_url = "http://host/x"},
+    {.sentence = "the end of the file ends it",
+     .text = "http://host/x",
+     .base_url = "http://host/x"},
+    {.sentence = "spaces and tabs stay",
+     .text = " \thttp://host/x \t\n",
+     .base_url = " \thttp://host/x \t"},
+    {.sentence = "it need not be a URL",
+     .text = "any\0thing"s,
+     .base_url = "any\0thing"s},
+    {.sentence = "a percent sign stays without a bracketed host",
+     .text = "http://host/a%20b",
+     .base_url = "http://host/a%20b"},
+    {.sentence = "a bracket elsewhere does not begin a host",
+     .text = "http://host/[a%20b",
+     .base_url = "http://host/[a%20b"},
 };
 
 const Row kZones[] = {
-    {"a bare zone separator is encoded", "http://[fe80::1%en0]/help",
-     "http://[fe80::1%25en0]/help"},
-    {"an encoded zone separator stays", "http://[fe80::1%25en0]/help",
-     "http://[fe80::1%25en0]/help"},
-    {"a host without a zone stays", "http://[::1]/help", "http://[::1]/help"},
-    {"the first percent sign is encoded even behind the host",
-     "http://[::1]/a%20b", "http://[::1]/a%2520b"},
-    {"only the first percent sign is encoded", "http://[fe80::1%en0]/a%20b%20c",
-     "http://[fe80::1%25en0]/a%20b%20c"},
-    {"an encoded sign behind the host does not help the zone",
-     "http://[fe80::1%en0]/a%25b", "http://[fe80::1%25en0]/a%25b"},
-    {"an encoded sign alone behind the host is encoded again",
-     "http://[::1]/a%25b", "http://[::1]/a%2525b"},
-    {"an encoded zone stays with more signs behind it",
-     "http://[fe80::1%25en0]/a%20b", "http://[fe80::1%25en0]/a%20b"},
-    {"an encoded sign right before the bracket counts", "http://[a%25]",
-     "http://[a%25]"},
-    {"a bare sign without a closing bracket is encoded", "http://[fe80::1%en0",
-     "http://[fe80::1%25en0"},
-    {"an encoded sign without a closing bracket is encoded again",
-     "http://[fe80::1%25en0", "http://[fe80::1%2525en0"},
-    {"any scheme will do", "://[%", "://[%25"},
-    {"the first closing bracket counts wherever it stands",
-     "]://[fe80::1%25en0]", "]://[fe80::1%2525en0]"},
-    {"a closing bracket at the start is enough without a percent sign", "]://[",
-     "]://["},
+    {.sentence = "a bare zone separator is encoded",
+     .text = "http://[fe80::1%en0]/help",
+     .base_url = "http://[fe80::1%25en0]/help"},
+    {.sentence = "an encoded zone separator stays",
+     .text = "http://[fe80::1%25en0]/help",
+     .base_url = "http://[fe80::1%25en0]/help"},
+    {.sentence = "a host without a zone stays",
+     .text = "http://[::1]/help",
+     .base_url = "http://[::1]/help"},
+    {.sentence = "the first percent sign is encoded even after the host",
+     .text = "http://[::1]/a%20b",
+     .base_url = "http://[::1]/a%2520b"},
+    {.sentence = "only the first percent sign is encoded",
+     .text = "http://[fe80::1%en0]/a%20b%20c",
+     .base_url = "http://[fe80::1%25en0]/a%20b%20c"},
+    {.sentence = "an encoded sign after the host does not protect the zone",
+     .text = "http://[fe80::1%en0]/a%25b",
+     .base_url = "http://[fe80::1%25en0]/a%25b"},
+    {.sentence = "a single encoded sign after the host is encoded again",
+     .text = "http://[::1]/a%25b",
+     .base_url = "http://[::1]/a%2525b"},
+    {.sentence = "an encoded zone stays with more signs after it",
+     .text = "http://[fe80::1%25en0]/a%20b",
+     .base_url = "http://[fe80::1%25en0]/a%20b"},
+    {.sentence = "an encoded sign right before the bracket counts",
+     .text = "http://[a%25]",
+     .base_url = "http://[a%25]"},
+    {.sentence = "a bare sign without a closing bracket is encoded",
+     .text = "http://[fe80::1%en0",
+     .base_url = "http://[fe80::1%25en0"},
+    {.sentence = "an encoded sign without a closing bracket is encoded again",
+     .text = "http://[fe80::1%25en0",
+     .base_url = "http://[fe80::1%2525en0"},
+    {.sentence = "any scheme counts", .text = "://[%", .base_url = "://[%25"},
+    {.sentence = "the first closing bracket counts wherever it is",
+     .text = "]://[fe80::1%25en0]",
+     .base_url = "]://[fe80::1%2525en0]"},
+    {.sentence =
+         "without a percent sign a closing bracket at the start is enough",
+     .text = "]://[",
+     .base_url = "]://["},
 };
 
 INSTANTIATE_TEST_SUITE_P(OfAFile, BaseUrl, ::testing::ValuesIn(kLines),
@@ -81,7 +112,7 @@ class BaseUrlFile : public ::testing::Test {
   const TempFolder folder;
 };
 
-TEST_F(BaseUrlFile, ThatCannotBeOpenedHasNone) {
+TEST_F(BaseUrlFile, ThatCannotBeOpenedHasNoBaseUrl) {
   EXPECT_EQ(GetHelpMapBaseUrl(""), "");
   EXPECT_EQ(GetHelpMapBaseUrl(folder.Path("missing")), "");
   EXPECT_EQ(GetHelpMapBaseUrl("/dev/zero"), "");
@@ -89,11 +120,11 @@ TEST_F(BaseUrlFile, ThatCannotBeOpenedHasNone) {
   EXPECT_EQ(GetHelpMapBaseUrl(folder.Path("pipe")), "");
 }
 
-TEST_F(BaseUrlFile, ThatIsADirectoryRaisesTheStreamsFailure) {
+TEST_F(BaseUrlFile, ThatIsADirectoryThrowsTheStreamsFailure) {
   EXPECT_THROW(GetHelpMapBaseUrl(folder.Path()), std::ios_base::failure);
 }
 
-// The mistake that callers have come to expect.
+// A mistake that callers rely on.
 TEST_F(BaseUrlFile, WithABracketButNoSignAndNoEndIsOutOfRange) {
   EXPECT_THROW(GetHelpMapBaseUrl(folder.Write("x", "http://[fe80::1\n%]")),
                std::out_of_range);

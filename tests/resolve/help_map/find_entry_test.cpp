@@ -1,5 +1,5 @@
-// A help map that no caller gets to see is searched as text. The answer must
-// be the one that the map would give.
+// A help map that no caller sees is searched as text, with the same result as a
+// search in the map.
 #include <gtest/gtest.h>
 
 #include "resolve/help_map/builder.h"
@@ -36,7 +36,7 @@ TEST(EntryOfRandomText, IsTheSameBySearchAndByMap) {
   }
 }
 
-TEST(EntryOfRandomText, IsNoneForAKeyThatNoFieldCanBe) {
+TEST(EntryOfRandomText, IsNotFoundForAKeyThatCannotBeAField) {
   RandomText texts("\t\n\rab");
   for (const std::string key : {"", "\t", "a\tb", "\ta", "a\n", "\ra", "a\r"}) {
     for (int i = 0; i < 300; ++i) {
@@ -47,7 +47,7 @@ TEST(EntryOfRandomText, IsNoneForAKeyThatNoFieldCanBe) {
   }
 }
 
-TEST(EntryOfMegabytes, IsFoundBehindNearMisses) {
+TEST(EntryOfMegabytes, IsFoundAfterNearMisses) {
   for (const std::string miss : {"a", "a\n", "\tca", "a\t\t\n", "ab\tc\n"}) {
     std::string text;
     while (text.size() < 4'000'000) text += miss;

@@ -32,61 +32,76 @@ TEST_P(LoadMap, FillsTheMap) {
 }
 
 const Row kComplete[] = {
-    {"CR LF and no final end make two entries",
-     "VX_HOME\tstart.html\r\nfoo\tbar.html",
-     true,
-     {{"VX_HOME", "start.html"}, {"foo", "bar.html"}}},
-    {"the home page alone makes it complete",
-     "VX_HOME\tx",
-     true,
-     {{"VX_HOME", "x"}}},
-    {"the first entry of a key wins",
-     "foo\t1\nVX_HOME\ta\nfoo\t2\rVX_HOME\tb\nbar\t3\nfoo\t0",
-     true,
-     {{"VX_HOME", "a"}, {"bar", "3"}, {"foo", "1"}}},
-    {"line ends may be mixed",
-     "a\t1\rb\t2\r\nc\t3\n\rVX_HOME\t4\r",
-     true,
-     {{"VX_HOME", "4"}, {"a", "1"}, {"b", "2"}, {"c", "3"}}},
-    {"keys are told apart byte by byte",
-     "VX_HOME\t1\nvx_home\t2\nVX_HOME \t3\n VX_HOME\t4",
-     true,
-     {{"VX_HOME", "1"},
-      {"vx_home", "2"},
-      {"VX_HOME ", "3"},
-      {" VX_HOME", "4"}}},
-    {"NUL bytes and bytes above 127 are kept",
-     "VX_HOME\t\0\n\xFF\0\t\xC3\xA4"s,
-     true,
-     {{"VX_HOME", "\0"s}, {"\xFF\0"s, "\xC3\xA4"}}},
+    {.sentence = "CR LF and no final end make two entries",
+     .text = "VX_HOME\tstart.html\r\nfoo\tbar.html",
+     .complete = true,
+     .map = {{"VX_HOME", "start.html"}, {"foo", "bar.html"}}},
+    {.sentence = "the home page alone makes it complete",
+     .text = "VX_HOME\tx",
+     .complete = true,
+     .map = {{"VX_HOME", "x"}}},
+    {.sentence = "the first entry of a key wins",
+     .text = "foo\t1\nVX_HOME\ta\nfoo\t2\rVX_HOME\tb\nbar\t3\nfoo\t0",
+     .complete = true,
+     .map = {{"VX_HOME", "a"}, {"bar", "3"}, {"foo", "1"}}},
+    {.sentence = "line ends may be mixed",
+     .text = "a\t1\rb\t2\r\nc\t3\n\rVX_HOME\t4\r",
+     .complete = true,
+     .map = {{"VX_HOME", "4"}, {"a", "1"}, {"b", "2"}, {"c", "3"}}},
+    {.sentence = "keys are compared byte by byte",
+     .text = "VX_HOME\t1\nvx_home\t2\nVX_HOME \t3\n VX_HOME\t4",
+     .complete = true,
+     .map = {{"VX_HOME", "1"},
+             {"vx_home", "2"},
+             {"VX_HOME ", "3"},
+             {" VX_HOME", "4"}}},
+    {.sentence = "NUL bytes and bytes above 127 are kept",
+     .text = "VX_HOME\t\0\n\xFF\0\t\xC3\xA4"s,
+     .complete = true,
+     .map = {{"VX_HOME", "\0"s}, {"\xFF\0"s, "\xC3\xA4"}}},
 };
 
 const Row kIncomplete[] = {
-    {"without the home page the entries stay",
-     "foo\tbar.html",
-     false,
-     {{"foo", "bar.html"}}},
-    {"runs of TABs part two fields and a third is ignored",
-     "foo\t\tbar.html\textra",
-     false,
-     {{"foo", "bar.html"}}},
-    {"leading and trailing TABs are ignored",
-     "\t\tfoo\tbar\t\n",
-     false,
-     {{"foo", "bar"}}},
-    {"a number sign begins no comment", "#foo\tbar", false, {{"#foo", "bar"}}},
-    {"blanks belong to the fields", " a \t b ", false, {{" a ", " b "}}},
-    {"a quote is a byte like others", "\"a\"\t'b", false, {{"\"a\"", "'b"}}},
-    {"a blank in place of a TAB makes no entry", "foo bar.html", false, {}},
-    {"lines with one field make no entry",
-     "foo\n\tfoo\nfoo\t\n\t\n\n\tVX_HOME\t\nVX_HOME",
-     false,
-     {}},
-    {"an empty file makes no entry", "", false, {}},
-    {"the home page as a value does not count",
-     "a\tVX_HOME",
-     false,
-     {{"a", "VX_HOME"}}},
+    {.sentence = "without the home page the entries stay",
+     .text = "foo\tbar.html",
+     .complete = false,
+     .map = {{"foo", "bar.html"}}},
+    {.sentence = "runs of tabs separate two fields and a third is ignored",
+     .text = "foo\t\tbar.html\textra",
+     .complete = false,
+     .map = {{"foo", "bar.html"}}},
+    {.sentence = "leading and trailing tabs are ignored",
+     .text = "\t\tfoo\tbar\t\n",
+     .complete = false,
+     .map = {{"foo", "bar"}}},
+    {.sentence = "a number sign does not begin a comment",
+     .text = "#foo\tbar",
+     .complete = false,
+     .map = {{"#foo", "bar"}}},
+    {.sentence = "spaces belong to the fields",
+     .text = " a \t b ",
+     .complete = false,
+     .map = {{" a ", " b "}}},
+    {.sentence = "a quote is a byte like any other",
+     .text = "\"a\"\t'b",
+     .complete = false,
+     .map = {{"\"a\"", "'b"}}},
+    {.sentence = "a space instead of a tab makes no entry",
+     .text = "foo bar.html",
+     .complete = false,
+     .map = {}},
+    {.sentence = "lines with one field make no entry",
+     .text = "foo\n\tfoo\nfoo\t\n\t\n\n\tVX_HOME\t\nVX_HOME",
+     .complete = false,
+     .map = {}},
+    {.sentence = "an empty file makes no entry",
+     .text = "",
+     .complete = false,
+     .map = {}},
+    {.sentence = "the home page as a value does not count",
+     .text = "a\tVX_HOME",
+     .complete = false,
+     .map = {{"a", "VX_HOME"}}},
 };
 
 INSTANTIATE_TEST_SUITE_P(Complete, LoadMap, ::testing::ValuesIn(kComplete),
@@ -110,21 +125,21 @@ TEST_F(LoadMapThatFails, HasNoFile) {
   ExpectFalseAndEmpty(folder.Path("missing"));
 }
 
-TEST_F(LoadMapThatFails, HasAPipeWhichNobodyOpensAndNobodyWaitsFor) {
+TEST_F(LoadMapThatFails, HasAPipeAndDoesNotBlock) {
   ASSERT_EQ(mkfifo(folder.Path("pipe").c_str(), 0600), 0);
   ExpectFalseAndEmpty(folder.Path("pipe"));
 }
 
 TEST_F(LoadMapThatFails, HasADevice) { ExpectFalseAndEmpty("/dev/zero"); }
 
-TEST_F(LoadMapThatFails, HasAFileThatTheUserMayNotRead) {
+TEST_F(LoadMapThatFails, HasAFileWithoutReadPermission) {
   if (geteuid() == 0) GTEST_SKIP() << "root may read every file";
   const std::string path = folder.Write("x", "VX_HOME\ta");
   chmod(path.c_str(), 0);
   ExpectFalseAndEmpty(path);
 }
 
-TEST_F(LoadMapThatFails, HasADirectoryAndRaisesTheStreamsFailure) {
+TEST_F(LoadMapThatFails, HasADirectoryAndThrowsTheStreamsFailure) {
   EXPECT_THROW(LoadMapFile(folder.Path(), map), std::ios_base::failure);
   EXPECT_TRUE(map.empty());
 }
@@ -143,7 +158,7 @@ TEST_F(LoadMapThatFails, HasNothingButEmptyLines) {
   ExpectFalseAndEmpty(folder.Write("x", std::string(8'000'000, '\r')));
 }
 
-TEST(LoadMapOfManyEntries, TakesThemInAnyOrder) {
+TEST(LoadMapOfManyEntries, AcceptsThemInAnyOrder) {
   const TempFolder folder;
   std::string upwards = "VX_HOME\th\n";
   std::string downwards = "VX_HOME\th\n";

@@ -1,5 +1,5 @@
-// The map loader works on the whole text at once. It must give what the plain
-// way gives: line by line, field by field, entry by entry.
+// The map loader works on the whole text at once. Its result must be that of an
+// oracle that goes line by line, field by field, entry by entry.
 #include "tests/support/map_oracle.h"
 
 #include <gtest/gtest.h>
@@ -14,7 +14,7 @@ namespace {
 
 using Map = std::map<std::string, std::string>;
 
-void ExpectAsTheSlowLoader(const TempFolder& folder, const std::string& text) {
+void ExpectAsTheOracle(const TempFolder& folder, const std::string& text) {
   Map map;
   const Map expected = OracleMap(text);
   const bool complete = expected.contains("VX_HOME");
@@ -22,15 +22,15 @@ void ExpectAsTheSlowLoader(const TempFolder& folder, const std::string& text) {
   ASSERT_EQ(map, expected);
 }
 
-TEST(MapOfRandomBytes, IsAsTheSlowLoaderHasIt) {
+TEST(MapOfRandomBytes, IsAsTheOracleLoader) {
   const TempFolder folder;
   RandomText random(std::string("\t\t\t\n\n\r\r ab\v\x01") + '\0');
   for (int i = 0; i < 1500; ++i) {
-    ExpectAsTheSlowLoader(folder, random.Next(random.Below(60)));
+    ExpectAsTheOracle(folder, random.Next(random.Below(60)));
   }
 }
 
-TEST(MapOfRandomLines, IsAsTheSlowLoaderHasIt) {
+TEST(MapOfRandomLines, IsAsTheOracleLoader) {
   const TempFolder folder;
   RandomText random("abc");
   const std::string ends[] = {"\n", "\r", "\r\n", "\n\n", "\t\n", "x\n"};
@@ -41,32 +41,32 @@ TEST(MapOfRandomLines, IsAsTheSlowLoaderHasIt) {
       text += home ? "VX_HOME" : random.Next(1 + random.Below(3));
       text += '\t' + random.Next(random.Below(3)) + ends[random.Below(6)];
     }
-    ExpectAsTheSlowLoader(folder, text);
+    ExpectAsTheOracle(folder, text);
   }
 }
 
-TEST(MapOfALargeRandomFile, IsAsTheSlowLoaderHasIt) {
+TEST(MapOfALargeRandomFile, IsAsTheOracleLoader) {
   const TempFolder folder;
   RandomText random("\t\t\n\rabcdefghijklmnop");
   for (const std::size_t size : {65535U, 65536U, 65537U, 200'000U}) {
-    ExpectAsTheSlowLoader(folder, random.Next(size));
+    ExpectAsTheOracle(folder, random.Next(size));
   }
 }
 
 /// Lines that are longer than any piece, and of every kind.
-TEST(MapOfLongLines, IsAsTheSlowLoaderHasIt) {
+TEST(MapOfLongLines, IsAsTheOracleLoader) {
   const TempFolder folder;
   const std::string a(FileText::kPieceSize * 2, 'a');
   const std::string tabs(FileText::kPieceSize * 2, '\t');
   for (const std::string& text :
        {a, a + "\tb\r\nc\td", tabs + "a" + tabs + "b" + tabs, a + "\t" + a,
         "b\tc\n" + a + "\td\n" + a + "\te", "b\tc\td" + a + "\na\tb"}) {
-    ExpectAsTheSlowLoader(folder, text);
+    ExpectAsTheOracle(folder, text);
   }
 }
 
-/// What stands at the border of two pieces, cut at every byte.
-TEST(MapAtAPiecesBorder, IsAsTheSlowLoaderHasIt) {
+/// A line at the border of two pieces, cut at every byte.
+TEST(MapAtAPiecesBorder, IsAsTheOracleLoader) {
   const TempFolder folder;
   const std::string cut = "\t\tkey\t\tvalue\tx\t\r\n\r\n\tk\nkey\tz\rl\tv";
   const std::string pad = "\tpage\n";
@@ -74,13 +74,13 @@ TEST(MapAtAPiecesBorder, IsAsTheSlowLoaderHasIt) {
     for (std::size_t shift = 0; shift <= cut.size(); ++shift) {
       const std::size_t before = 2 * FileText::kPieceSize - shift;
       const std::string text = std::string(before - pad.size() - 1, 'b') + pad;
-      ExpectAsTheSlowLoader(folder, first + text + cut);
+      ExpectAsTheOracle(folder, first + text + cut);
     }
   }
 }
 
 /// Keys that differ late, early, or by zero bytes alone.
-TEST(MapOfManyKeysInNoOrder, IsAsTheSlowLoaderHasIt) {
+TEST(MapOfManyKeysInNoOrder, IsAsTheOracleLoader) {
   const TempFolder folder;
   RandomText random(std::string("ab\0\x01\xFF", 5));
   for (const std::size_t equal : {0U, 1U, 7U, 8U, 9U, 63U, 64U, 65U, 200U}) {
@@ -90,7 +90,7 @@ TEST(MapOfManyKeysInNoOrder, IsAsTheSlowLoaderHasIt) {
       text += random.Next(1 + random.Below(12)) + '\t' + std::to_string(line) +
               '\n';
     }
-    ExpectAsTheSlowLoader(folder, text);
+    ExpectAsTheOracle(folder, text);
   }
 }
 

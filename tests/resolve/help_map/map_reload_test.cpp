@@ -1,5 +1,5 @@
-// A map that is loaded again keeps the nodes whose keys come again. Nobody may
-// see that: nothing of what the map held before is left, whatever happens.
+// A map that is loaded again reuses the nodes of the keys that come again.
+// Nobody may notice: no old entry is left, whatever happens.
 #include <gtest/gtest.h>
 #include <velmohelp/resolve.h>
 
@@ -17,7 +17,7 @@ namespace {
 
 using namespace std::string_literals;
 
-/// Values are too long to lie inside a string.
+/// Values are too long for a string's own buffer.
 std::string ValueOf(const std::string& key, const std::string& mark) {
   return "topics/a-long-name/" + mark + key;
 }
@@ -50,7 +50,7 @@ class Reload : public ::testing::TestWithParam<Row> {
   HelpMap map = MapOf(GetParam().before, "old");
 };
 
-TEST_P(Reload, LeavesWhatTheFileHolds) {
+TEST_P(Reload, LeavesTheFilesEntries) {
   ITEMInternal::LoadMapFile(path, map);
   EXPECT_EQ(map, expected);
 }
@@ -64,7 +64,7 @@ void ExpectPartOf(const HelpMap& whole, const HelpMap& map) {
   }
 }
 
-TEST_P(Reload, LeavesNothingOldWhereMemoryRunsOut) {
+TEST_P(Reload, LeavesNothingOldWhenOutOfMemory) {
   bool failed = true;
   for (int allocation = 1; failed; ++allocation) {
     map = MapOf(GetParam().before, "old");
@@ -82,16 +82,29 @@ TEST_P(Reload, LeavesNothingOldWhereMemoryRunsOut) {
 
 INSTANTIATE_TEST_SUITE_P(
     , Reload,
-    ::testing::Values(Row{"of an empty map", "", "abc"},
-                      Row{"of the same keys", "abc", "abc"},
-                      Row{"of the same keys in another order", "abc", "bca"},
-                      Row{"of fewer keys", "abcdef", "bd"},
-                      Row{"of more keys", "bd", "abcdef"},
-                      Row{"of other keys that lie behind", "abc", "xyz"},
-                      Row{"of other keys that lie before", "xyz", "abc"},
-                      Row{"of other keys in between", "ace", "bdf"},
-                      Row{"of other keys in another order", "ace", "fdb"},
-                      Row{"with a file that is empty", "abc", ""}),
+    ::testing::Values(
+        Row{.sentence = "of an empty map", .before = "", .file = "abc"},
+        Row{.sentence = "of the same keys", .before = "abc", .file = "abc"},
+        Row{.sentence = "of the same keys in another order",
+            .before = "abc",
+            .file = "bca"},
+        Row{.sentence = "of fewer keys", .before = "abcdef", .file = "bd"},
+        Row{.sentence = "of more keys", .before = "bd", .file = "abcdef"},
+        Row{.sentence = "of other keys that come after",
+            .before = "abc",
+            .file = "xyz"},
+        Row{.sentence = "of other keys that come before",
+            .before = "xyz",
+            .file = "abc"},
+        Row{.sentence = "of other keys in between",
+            .before = "ace",
+            .file = "bdf"},
+        Row{.sentence = "of other keys in another order",
+            .before = "ace",
+            .file = "fdb"},
+        Row{.sentence = "with a file that is empty",
+            .before = "abc",
+            .file = ""}),
     SentenceOf());
 
 TEST(ReloadOfRandomFiles, LeavesWhatAFirstLoadGives) {
@@ -109,8 +122,8 @@ TEST(ReloadOfRandomFiles, LeavesWhatAFirstLoadGives) {
   }
 }
 
-/// The first piece is put in order; what follows meets the entries of it.
-TEST(AFileThatLosesItsOrderBehindItsFirstPiece, KeepsTheFirstEntryOfAKey) {
+/// The first piece is added in order; what follows meets its entries.
+TEST(AFileThatLosesItsOrderAfterItsFirstPiece, KeepsTheFirstEntryOfAKey) {
   constexpr int kFirst = 10'000;
   constexpr int kLast = 20'000;
   std::string text;
