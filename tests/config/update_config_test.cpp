@@ -1,5 +1,6 @@
 #include <velmohelp/config.h>
 
+#include "config/help_config.h"
 #include "tests/support/on_scripted_machine.h"
 #include "tests/support/temp_folder.h"
 
@@ -101,6 +102,34 @@ TEST_F(UpdateConfig,
   EXPECT_EQ(UpdateHelpConfigInfo("en"), 7);
   EXPECT_EQ(sLocale, "en_Fo");
   EXPECT_EQ(sBaseUrl, "");
+}
+
+/// The download replaces the state's locale before it is rejected. The
+/// installed file is still looked for in the folder of the locale that was
+/// asked for.
+TEST_F(UpdateConfig, KeepsTheLocaleAskedForWhenItIsTheStatesOwn) {
+  Install(R"(id="en_Foo" baseUrl="installed" path="dir")", "en");
+  Download(R"(id="en_Foo")");
+  const std::string product_id = "Foo";
+  const std::string downloaded_suffix = "/store/";
+  std::string locale = "en";
+  std::string texts[4];
+  bool app_id_is_null = false;
+  std::string rows[kHelpPathCapacity][2];
+  std::int32_t row_count = 0;
+  const HelpConfigState state = {.product_id = product_id,
+                                 .downloaded_suffix = downloaded_suffix,
+                                 .locale = locale,
+                                 .config_id = texts[0],
+                                 .base_url = texts[1],
+                                 .app_id = texts[2],
+                                 .publisher_id = texts[3],
+                                 .app_id_is_null = app_id_is_null,
+                                 .help_paths = rows,
+                                 .help_path_count = row_count};
+  EXPECT_EQ(UpdateHelpConfig(machine, state, locale),
+            HelpConfigStatus::kInvalid);
+  EXPECT_EQ(locale, "en_Fo");
 }
 
 TEST_F(UpdateConfig, DoesNotRetryAnInstalledFile) {
