@@ -36,7 +36,7 @@ struct Row {
 
 void PrintTo(const Row& row, std::ostream* out) { *out << row.sentence; }
 
-// The stand-ins. What root is asked to do goes into a file of calls.
+// The stand-ins. They append what root is asked to do to a file.
 constexpr char kDpkgQuery[] = R"(sed -n "s/^$4 //p" "$FOLDER/packages")";
 constexpr char kSudo[] = R"(
   [ -e "$FOLDER/sudo-refuses" ] && exit 1
@@ -60,7 +60,7 @@ class InstallPackages : public ::testing::TestWithParam<Row> {
     folder_.WriteProgram("dpkg-query", kDpkgQuery);
     if (situation.has_sudo) folder_.WriteProgram("sudo", kSudo);
     // Nothing else of the machine can be found.
-    for (const std::string name : {"env", "grep", "sed"}) {
+    for (const std::string name : {"basename", "dirname", "env", "grep", "sed"}) {
       folder_.WriteProgram(name, "exec /bin/" + name + R"( "$@")");
     }
     folder_.WriteProgram("apt-get", kAptGet);
