@@ -1,23 +1,31 @@
-// What a script gets for require "velmohelp", in the host program and in the
-// stock interpreter alike.
+// What a script gets from require "velmohelp", in lxhost and in the stock
+// interpreter alike.
 #ifndef HOST_HELP_MODULE_H_
 #define HOST_HELP_MODULE_H_
 
+#include <cstdint>
 #include <lua.hpp>
 
 namespace velmohelp {
 
-/// The plug-in's load entry points.
-struct LoadEntryPoints {
-  lua_CFunction help;
-  lua_CFunction help_worker;
+/// What the module calls in the plug-in: its load entry points, and the
+/// requests of <velmohelp/velmohelp.h> that have no namespace.
+struct Plugin {
+  lua_CFunction load_help;
+  lua_CFunction load_help_worker;
+  std::uint32_t (*open_url)(const char*);
+  std::uint32_t (*search)(const char*, const char*, const char*);
+  std::uint32_t (*online_status)();
 };
 
-/// Calls both entry points and pushes the module: a table with the namespaces
-/// LxHelp and LxHelpWorker, which are globals as well, and with the named
-/// result codes InitReturnCode and DisplayPageReturnCode. Raises a script error
-/// when the plug-in registers nothing, and when memory runs out.
-void PushHelpModule(lua_State* state, const LoadEntryPoints& plugin);
+/// Calls both entry points and pushes the module, a table of
+///   LxHelp, LxHelpWorker       the namespaces, which are globals as well
+///   openURL, search, status    functions
+///   InitReturnCode, DisplayPageReturnCode, OpenUrlReturnCode,
+///   SearchReturnCode, OnlineStatus    the named results
+/// Raises a script error when the plug-in registers nothing, and when memory
+/// runs out. Copies the plugin.
+void PushHelpModule(lua_State* state, const Plugin& plugin);
 
 }  // namespace velmohelp
 

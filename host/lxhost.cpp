@@ -1,7 +1,5 @@
-// lxhost [SCRIPT [ARGUMENT...]]: a host program for the help plug-in, which
-// runs a Lua script. Without a script it reads one from standard input, or
-// prompts for statements when that is a terminal; the script "-" is standard
-// input too. Exit status 1 on an error.
+// lxhost: a host program for the help plug-in, which runs a Lua script. See
+// lxhost.1.
 #include <unistd.h>
 
 #include <cstdio>
@@ -9,16 +7,21 @@
 #include <cstring>
 #include <span>
 
+#include "host/line_editor.h"
+#include "host/options.h"
 #include "host/plugin.h"
 #include "host/prompt.h"
 
 namespace velmohelp {
 namespace {
 
-/// What the script state's main function is handed.
+constexpr int kUsageError = 2;
+
+/// What the script state's main function is given.
 struct Job {
-  LoadEntryPoints plugin;
+  const Plugin& plugin;
   std::span<char*> arguments;
+  const Options& options;
 };
 
 /// Message handler: the error's text with a traceback.
@@ -28,43 +31,72 @@ int Explain(lua_State* state) {
   return 1;
 }
 
-/// The global "arg": the script at 0, its arguments from 1, the program before.
-void SetArgTable(lua_State* state, std::span<char*> arguments) {
-  const lua_Integer script = arguments.size() > 1 ? 1 : 0;
-  lua_Integer index = -script;
+/// The global "arg": the script at 0, its arguments from 1, what comes before
+/// it on the command line below 0. Without a script the program is at 0.
+void SetArgTable(lua_State* state, const Job& job) {
+  const std::size_t before =
+      job.options.script.empty()
+          ? 0
+          : job.arguments.size() - job.options.script.size();
+  lua_Integer index = -static_cast<lua_Integer>(before);
   lua_newtable(state);
-  for (const char* argument : arguments) {
+  for (const char* argument : job.arguments) {
     lua_pushstring(state, argument);
     lua_rawseti(state, -2, index++);
   }
   lua_setglobal(state, "arg");
 }
 
-void SetModule(lua_State* state, const LoadEntryPoints& plugin) {
+void SetModule(lua_State* state, const Plugin& plugin) {
   luaL_getsubtable(state, LUA_REGISTRYINDEX, LUA_LOADED_TABLE);
   PushHelpModule(state, plugin);
   lua_setfield(state, -2, "velmohelp");
   lua_pop(state, 1);
 }
 
-/// The name "-" is standard input, so that a script from there can have
-/// arguments; luaL_loadfile calls it null.
-int PushChunk(lua_State* state, std::span<char*> arguments) {
-  const char* script = arguments.size() > 1 ? arguments[1] : "-";
-  if (std::strcmp(script, "-") != 0) return luaL_loadfile(state, script);
-  if (arguments.size() > 1 || isatty(STDIN_FILENO) == 0) {
-    return luaL_loadfile(state, nullptr);
-  }
-  return luaL_loadbuffer(state, kPrompt, sizeof kPrompt - 1, "=prompt");
+/// Runs the chunk on top of the stack, or raises the error that is there
+/// instead. status: what loading the chunk returned.
+void RunChunk(lua_State* state, int status) {
+  if (status != LUA_OK) lua_error(state);
+  lua_call(state, 0, 0);
 }
 
-/// The script gets its arguments as "..." too.
-int PushScriptArguments(lua_State* state, std::span<char*> arguments) {
-  const auto own =
-      arguments.subspan(arguments.size() > 2 ? 2 : arguments.size());
+void RunStatement(lua_State* state, const char* text) {
+  RunChunk(state,
+           luaL_loadbuffer(state, text, std::strlen(text), "=(command line)"));
+}
+
+/// The script's arguments are its "..." too. "-" is standard input, which
+/// luaL_loadfile calls null.
+void RunScript(lua_State* state, std::span<char*> script) {
+  const char* name = std::strcmp(script[0], "-") == 0 ? nullptr : script[0];
+  if (luaL_loadfile(state, name) != LUA_OK) lua_error(state);
+  const auto own = script.subspan(1);
   luaL_checkstack(state, static_cast<int>(own.size()), "too many arguments");
   for (const char* argument : own) lua_pushstring(state, argument);
-  return static_cast<int>(own.size());
+  lua_call(state, static_cast<int>(own.size()), 0);
+}
+
+void RunPrompt(lua_State* state) {
+  const int status =
+      luaL_loadbuffer(state, kPrompt, sizeof kPrompt - 1, "=prompt");
+  if (status != LUA_OK) lua_error(state);
+  PushLineReader(state);
+  lua_call(state, 1, 0);
+}
+
+void RunStandardInput(lua_State* state) {
+  if (isatty(STDIN_FILENO) != 0) return RunPrompt(state);
+  RunChunk(state, luaL_loadfile(state, nullptr));
+}
+
+void RunAll(lua_State* state, const Options& options) {
+  for (const char* text : options.statements) RunStatement(state, text);
+  if (!options.script.empty()) RunScript(state, options.script);
+  if (options.prompts) return RunPrompt(state);
+  if (options.script.empty() && options.statements.empty()) {
+    RunStandardInput(state);
+  }
 }
 
 /// Runs protected: every error of the script, of the preparation and of the
@@ -73,9 +105,8 @@ int RunJob(lua_State* state) {
   const Job& job = *static_cast<const Job*>(lua_touserdata(state, 1));
   luaL_openlibs(state);
   SetModule(state, job.plugin);
-  SetArgTable(state, job.arguments);
-  if (PushChunk(state, job.arguments) != LUA_OK) return lua_error(state);
-  lua_call(state, PushScriptArguments(state, job.arguments), 0);
+  SetArgTable(state, job);
+  RunAll(state, job.options);
   return 0;
 }
 
@@ -96,21 +127,44 @@ bool Run(lua_State* state, Job job) {
   return done;
 }
 
-bool RunHost(std::span<char*> arguments) {
+int RunHost(std::span<char*> arguments, const Options& options) {
   const auto plugin = LoadPlugin();
-  if (!plugin) return false;
+  if (!plugin) return EXIT_FAILURE;
   lua_State* state = luaL_newstate();
   if (state == nullptr) {
     std::fputs("lxhost: not enough memory\n", stderr);
-    return false;
+    return EXIT_FAILURE;
   }
-  return Run(state, {*plugin, arguments});
+  const bool done = Run(state, {*plugin, arguments, options});
+  return done ? EXIT_SUCCESS : EXIT_FAILURE;
+}
+
+int Refuse(const char* argument) {
+  std::fprintf(stderr, "lxhost: bad option '%s'; see lxhost --help\n",
+               argument);
+  return kUsageError;
+}
+
+int Main(std::span<char*> arguments) {
+  const Options options = ParseOptions(arguments);
+  switch (options.action) {
+    case Options::Action::kPrintUsage:
+      std::fputs(kUsage, stdout);
+      return EXIT_SUCCESS;
+    case Options::Action::kPrintVersion:
+      std::puts("lxhost " VELMO_VERSION ", " LUA_RELEASE);
+      return EXIT_SUCCESS;
+    case Options::Action::kRefuse:
+      return Refuse(options.refused);
+    case Options::Action::kRun:
+      return RunHost(arguments, options);
+  }
+  return EXIT_FAILURE;
 }
 
 }  // namespace
 }  // namespace velmohelp
 
 int main(int argc, char** argv) {
-  const std::span arguments(argv, static_cast<std::size_t>(argc));
-  return velmohelp::RunHost(arguments) ? EXIT_SUCCESS : EXIT_FAILURE;
+  return velmohelp::Main({argv, static_cast<std::size_t>(argc)});
 }

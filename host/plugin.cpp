@@ -9,22 +9,30 @@ namespace {
 
 constexpr char kLibrary[] = "libvelmohelp.so.1";
 
-lua_CFunction Find(void* library, const char* name) {
-  return reinterpret_cast<lua_CFunction>(dlsym(library, name));
+/// False when the library has no such name.
+template <typename Function>
+bool Find(void* library, const char* name, Function*& function) {
+  function = reinterpret_cast<Function*>(dlsym(library, name));
+  return function != nullptr;
+}
+
+bool FindAll(void* library, Plugin& plugin) {
+  return Find(library, "private_load_LxHelp", plugin.load_help) &&
+         Find(library, "private_load_LxHelpWorker", plugin.load_help_worker) &&
+         Find(library, "OpenURL", plugin.open_url) &&
+         Find(library, "SearchHelp", plugin.search) &&
+         Find(library, "GetVelmoHelpClientOnlineStatus", plugin.online_status);
 }
 
 }  // namespace
 
-std::optional<LoadEntryPoints> LoadPlugin() {
+std::optional<Plugin> LoadPlugin() {
+  Plugin plugin = {};
   void* library = dlopen(kLibrary, RTLD_NOW | RTLD_LOCAL);
-  if (library != nullptr) {
-    const LoadEntryPoints found = {Find(library, "private_load_LxHelp"),
-                                   Find(library, "private_load_LxHelpWorker")};
-    if (found.help != nullptr && found.help_worker != nullptr) return found;
-  }
+  if (library != nullptr && FindAll(library, plugin)) return plugin;
   const char* reason = dlerror();
   std::fprintf(stderr, "lxhost: cannot load %s: %s\n", kLibrary,
-               reason != nullptr ? reason : "no load entry points");
+               reason != nullptr ? reason : "unknown error");
   return std::nullopt;
 }
 

@@ -1,4 +1,4 @@
-// Loading the help plug-in, as a host application does it.
+// Loading the help plug-in as a host application does.
 #ifndef HOST_PLUGIN_H_
 #define HOST_PLUGIN_H_
 
@@ -8,9 +8,9 @@
 
 namespace velmohelp {
 
-/// Loads the plug-in, for good, and finds its entry points. Where it cannot,
-/// says why on standard error.
-std::optional<LoadEntryPoints> LoadPlugin();
+/// Loads the plug-in, finds what the module calls, and never unloads it.
+/// Prints the reason on standard error when it cannot.
+std::optional<Plugin> LoadPlugin();
 
 }  // namespace velmohelp
 

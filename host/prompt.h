@@ -1,21 +1,16 @@
-// The prompt of the host program.
+// The prompt of lxhost.
 #ifndef HOST_PROMPT_H_
 #define HOST_PROMPT_H_
 
 namespace velmohelp {
 
-/// A Lua chunk that reads statements from standard input, runs each and prints
-/// its results, until the input ends. A script, because what reads lines and
-/// runs chunks in Lua has no destructor that a script error could skip.
+/// A Lua chunk that reads statements, runs each and prints its results, until
+/// the input ends. Its argument is the function that reads a line. A script,
+/// because Lua code has no destructor that a script error could skip.
 inline constexpr char kPrompt[] = R"lua(
-local io, load, pack, print, traceback, unpack, xpcall =
-  io, load, table.pack, print, debug.traceback, table.unpack, xpcall
-
-local function ask(prompt)
-  io.write(prompt)
-  io.flush()
-  return io.read("L")
-end
+local read_line = ...
+local io, load, print, select, tostring, traceback, xpcall =
+  io, load, print, select, tostring, debug.traceback, xpcall
 
 -- One statement, which may take several lines; an expression is returned.
 local function compile(text)
@@ -24,8 +19,8 @@ local function compile(text)
   while not chunk do
     chunk, message = load(text, "=stdin")
     if chunk or message:sub(-5) ~= "<eof>" then break end
-    local more = ask(">> ")
-    if not more then break end
+    local more = read_line(">> ")
+    if not more then io.write("\n") break end
     text = text .. more
   end
   return chunk, message
@@ -40,7 +35,7 @@ local function show(ok, ...)
   if select("#", ...) > 0 then print(...) end
 end
 
-for text in function() return ask("> ") end do
+for text in function() return read_line("> ") end do
   local chunk, message = compile(text)
   if chunk then show(xpcall(chunk, traceback)) else report(message) end
 end

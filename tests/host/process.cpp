@@ -78,7 +78,7 @@ std::string Content(std::FILE* file) {
   return content;
 }
 
-/// Ends when the terminal's last user has gone, which reads as an error.
+/// Reads until the terminal's last user has gone, which reads as an error.
 std::string AllShown(int terminal) {
   std::string shown;
   std::array<char, 256> part{};
@@ -89,14 +89,16 @@ std::string AllShown(int terminal) {
   }
 }
 
-/// The two ends of a terminal that shows what is written to it as it stands.
+/// The two ends of a terminal that shows nothing but what is written to it. It
+/// is not in canonical mode, so that Control-D stays a byte until the program
+/// has set the terminal up for its line editor.
 std::array<int, 2> NewTerminal() {
   int ours = -1;
   int theirs = -1;
   EXPECT_EQ(openpty(&ours, &theirs, nullptr, nullptr, nullptr), 0);
   termios settings{};
   tcgetattr(theirs, &settings);
-  settings.c_lflag &= ~static_cast<tcflag_t>(ECHO);
+  settings.c_lflag &= ~static_cast<tcflag_t>(ECHO | ICANON);
   settings.c_oflag &= ~static_cast<tcflag_t>(OPOST);
   tcsetattr(theirs, TCSANOW, &settings);
   fcntl(ours, F_SETFD, FD_CLOEXEC);
@@ -123,7 +125,7 @@ Outcome RunOnTerminal(const Words& command, const std::string& input) {
   const std::string typed = input + "\x04";
   EXPECT_EQ(write(ours, typed.data(), typed.size()),
             static_cast<ssize_t>(typed.size()));
-  const pid_t child = Start(command, {theirs, theirs, theirs}, {});
+  const pid_t child = Start(command, {theirs, theirs, theirs}, {"TERM=dumb"});
   close(theirs);
   std::string shown = AllShown(ours);
   close(ours);

@@ -16,12 +16,12 @@ struct Outcome {
 using Words = std::vector<std::string>;
 
 /// Runs a program to its end with that standard input. Entries of the form
-/// NAME=value come before the test's own environment.
+/// NAME=value precede those of the test's own environment.
 Outcome RunProgram(const Words& command, const std::string& input = "",
                    const Words& environment = {});
 
-/// Runs a program on a terminal where the input is typed, then Control-D. All
-/// that the terminal shows is in out; the typing is not shown.
+/// Runs a program on a terminal where a person types the input, then Control-D.
+/// All that the program writes to the terminal is in out.
 Outcome RunOnTerminal(const Words& command, const std::string& input);
 
 }  // namespace velmohelp::testing
