@@ -16,7 +16,7 @@ struct Series {
   std::string what;
   std::string unit;
   std::vector<Point> points;
-  /// The figures are for each one, not for all.
+  /// A reading is the cost of each one, not of all together.
   bool each = false;
 };
 
@@ -49,7 +49,7 @@ Series Requests() {
   return series;
 }
 
-/// Long series are not repeated as often: they are means of many already.
+/// Long series run fewer rounds: each reading is a mean of many already.
 int RoundsFor(const Series& series, const Point& point, int rounds) {
   return series.each && point.amount > 100 ? std::min(rounds, 3) : rounds;
 }

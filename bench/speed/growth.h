@@ -1,4 +1,4 @@
-// How costs grow with what they grow with.
+// How costs grow with the number of folders, lines and requests.
 #ifndef BENCH_SPEED_GROWTH_H_
 #define BENCH_SPEED_GROWTH_H_
 
@@ -6,7 +6,7 @@
 
 namespace velmohelp::bench {
 
-/// Measures and prints the growth table. json: null for none.
+/// Measures and prints the growth table. json: null to write none.
 void PrintGrowth(int rounds, std::FILE* json);
 
 }  // namespace velmohelp::bench

@@ -37,7 +37,8 @@ Options Parse(int argc, char** argv) {
   return options;
 }
 
-/// The samples' browser is the world's, whatever desktop this runs on.
+/// Makes the browser of the benchmarks' world the default one, whatever desktop
+/// this runs on.
 void SetDesktop() {
   setenv("XDG_DATA_HOME", InWorld("data").c_str(), 1);
   setenv("XDG_DATA_DIRS", InWorld("none").c_str(), 1);

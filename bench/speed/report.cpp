@@ -61,16 +61,16 @@ std::string Target(Rule rule, double target) {
 
 const char* Verdict(const Row& row, double figure) {
   if (!Reaches(row.rule, figure, row.target)) return "NO";
-  const bool moonshot =
-      row.moonshot != 0 && Reaches(row.rule, figure, row.moonshot);
-  return moonshot ? "yes, and more" : "yes";
+  const bool stretch =
+      row.stretch != 0 && Reaches(row.rule, figure, row.stretch);
+  return stretch ? "yes, and more" : "yes";
 }
 
 }  // namespace
 
 void PrintHead() {
   std::printf(
-      "| what | ours | peer or floor | ratio | target | moonshot | met "
+      "| what | ours | peer or floor | ratio | target | stretch target | met "
       "|\n|---|---|---|---|---|---|---|\n");
 }
 
@@ -84,7 +84,7 @@ void Print(const Row& row, const std::vector<double>& medians,
   std::printf("| %s | %s | %s: %s | %s | %s | %s | %s |\n", row.what.c_str(),
               Amount(row.rule, medians[0]).c_str(), peer.c_str(),
               Amount(row.rule, medians[1]).c_str(), value.c_str(),
-              target.c_str(), Target(row.rule, row.moonshot).c_str(),
+              target.c_str(), Target(row.rule, row.stretch).c_str(),
               Verdict(row, figure));
   std::fflush(stdout);
   if (json == nullptr) return;

@@ -1,4 +1,4 @@
-// The figures as a table for people and as lines of JSON.
+// Prints the figures as a table, and as one JSON object per row.
 #ifndef BENCH_SPEED_REPORT_H_
 #define BENCH_SPEED_REPORT_H_
 
@@ -11,7 +11,7 @@ namespace velmohelp::bench {
 
 void PrintHead();
 
-/// medians: one for each of the row's candidates. json: null for none.
+/// medians: one for each of the row's candidates. json: null to write none.
 void Print(const Row& row, const std::vector<double>& medians, std::FILE* json);
 
 }  // namespace velmohelp::bench

@@ -10,8 +10,8 @@ Words Program(const std::string& name, Words words) {
   return words;
 }
 
-/// The files that a page display reads, in order; the configuration is read
-/// twice, and the administrator's preferences are not there.
+/// The files that a page display opens, in order. The configuration is read
+/// twice; the administrator's preferences do not exist.
 const Words kFilesOfRequest = {
     BENCH_PROGRAMS "/bench_sample.resources/help/en_US/page.helpcfg",
     BENCH_PROGRAMS "/bench_sample.resources/help/en_US/page.helpcfg",
@@ -91,7 +91,7 @@ Rows LoadRows() {
 
 Row MapRow(const std::string& what, const std::string& ours, Candidate peer,
            const std::string& kind, const std::string& lines, Rule rule,
-           double target, double moonshot = 0) {
+           double target, double stretch = 0) {
   const std::string path = InWorld("maps/" + kind + "-" + lines + ".txt");
   peer.command = Sample({peer.command.front(), path, lines});
   return {"map",
@@ -99,7 +99,7 @@ Row MapRow(const std::string& what, const std::string& ours, Candidate peer,
           {{"ours", Sample({ours, path, lines})}, std::move(peer)},
           rule,
           target,
-          moonshot};
+          stretch};
 }
 
 Rows MapRows() {

@@ -1,20 +1,20 @@
-// What is measured, against what, and what is to be reached.
+// What is measured, against what, and with which target.
 #ifndef BENCH_SPEED_ROWS_H_
 #define BENCH_SPEED_ROWS_H_
 
 #include <string>
 #include <vector>
 
-#include "bench/speed/measure.h"
+#include "bench/speed/candidate.h"
 
 namespace velmohelp::bench {
 
-/// How ours and the peer's figure make the figure that counts.
+/// How our reading and the peer's make the row's figure.
 enum class Rule {
-  kRatio,        ///< ours / peer, to be at most the target
-  kTimesFaster,  ///< peer / ours, to be at least the target
-  kDifference,   ///< ours - peer, to be at most the target
-  kCount,        ///< ours, to be at most the target
+  kRatio,        ///< ours / peer, at most the target
+  kTimesFaster,  ///< peer / ours, at least the target
+  kDifference,   ///< ours - peer, at most the target
+  kCount,        ///< ours, at most the target
 };
 
 struct Row {
@@ -25,8 +25,8 @@ struct Row {
   std::vector<Candidate> candidates;
   Rule rule;
   double target;
-  /// 0: there is none.
-  double moonshot = 0;
+  /// The stretch target; 0 without one.
+  double stretch = 0;
 };
 
 std::vector<Row> AllRows();

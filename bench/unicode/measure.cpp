@@ -1,33 +1,19 @@
 #include "bench/unicode/measure.h"
 
-#include <algorithm>
-#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
-#include <numeric>
-#include <random>
+
+#include "bench/measure.h"
+#include "bench/stopwatch.h"
 
 namespace velmohelp::bench {
 namespace {
 
-/// A reading lasts at least this long: the cost of the clock must not show.
+/// A reading lasts at least this long, or the clock's own cost would show.
 constexpr double kShortestReading = 400'000;  // nanoseconds
 
-double Nanoseconds(const std::function<std::size_t()>& run, int times) {
-  const auto start = std::chrono::steady_clock::now();
-  for (int i = 0; i < times; ++i) run();
-  const std::chrono::duration<double, std::nano> spent =
-      std::chrono::steady_clock::now() - start;
-  return spent.count() / times;
-}
-
-double Median(std::vector<double> readings) {
-  std::sort(readings.begin(), readings.end());
-  return readings[readings.size() / 2];
-}
-
-/// The floor runs like any candidate.
+/// The floor takes turns with the candidates, like one of them.
 std::vector<Candidate> WithFloor(const Task& task) {
   auto all = task.candidates;
   if (task.output_bytes != 0) {
@@ -49,29 +35,25 @@ void RequireAgreement(const Task& task) {
   }
 }
 
+Reading ReadingOf(const Candidate& candidate) {
+  const double once = MeanNanoseconds(3, candidate.run);
+  const int times = 1 + static_cast<int>(kShortestReading / once);
+  return [run = candidate.run, times] { return MeanNanoseconds(times, run); };
+}
+
 }  // namespace
 
 Medians Measure(const Task& task, int rounds) {
   RequireAgreement(task);
   const std::vector<Candidate> all = WithFloor(task);
-  std::vector<int> times;
+  std::vector<Reading> readings;
   for (const Candidate& candidate : all) {
-    times.push_back(
-        1 + static_cast<int>(kShortestReading / Nanoseconds(candidate.run, 3)));
+    readings.push_back(ReadingOf(candidate));
   }
-  std::vector<std::vector<double>> readings(all.size());
-  std::vector<std::size_t> order(all.size());
-  std::iota(order.begin(), order.end(), 0);
-  std::mt19937 random(9);  // NOLINT: the same orders every time
-  for (int round = 0; round < rounds; ++round) {
-    std::shuffle(order.begin(), order.end(), random);
-    for (const std::size_t i : order) {
-      readings[i].push_back(Nanoseconds(all[i].run, times[i]));
-    }
-  }
+  const std::vector<double> times = Measure(readings, rounds);
   Medians medians;
   for (std::size_t i = 0; i < all.size(); ++i) {
-    medians.candidates[all[i].name] = Median(readings[i]);
+    medians.candidates[all[i].name] = times[i];
   }
   if (task.output_bytes != 0) {
     medians.floor = medians.candidates.extract("floor").mapped();

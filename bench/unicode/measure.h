@@ -1,4 +1,4 @@
-// Measures candidates in random order and takes medians.
+// What one task costs each candidate.
 #ifndef BENCH_UNICODE_MEASURE_H_
 #define BENCH_UNICODE_MEASURE_H_
 
@@ -9,17 +9,15 @@
 
 namespace velmohelp::bench {
 
-/// Nanoseconds per run of each candidate, by its name.
+/// Nanoseconds for one run of each candidate, by its name.
 struct Medians {
   std::map<std::string, double> candidates;
-  /// memset of the output; 0 where there is no output.
+  /// memset of the output; 0 for a task without output.
   double floor = 0;
 };
 
-/// Runs all candidates in every round, in a new order each time, so that none
-/// always pays for what the one before left in the cache (memset leaves the
-/// whole output to be written back). Ends the program when a candidate fails,
-/// or when two disagree on the size of the output.
+/// Ends the program when a candidate fails or they disagree on the size of the
+/// output.
 Medians Measure(const Task& task, int rounds);
 
 }  // namespace velmohelp::bench

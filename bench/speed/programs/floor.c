@@ -1,12 +1,12 @@
-/* bench_floor: process starts and file reads as they are without a client.
+/* bench_floor: process starts and file reads without a client.
  * Prints nanoseconds, the median of some runs.
  *
  * start PROGRAM: starts a program and waits for its end.
- * start-read-start PROGRAM BROWSER WORD...: reads what the program writes until
- *   it ends, then starts the browser with the words.
- * request TOOL VIEWER REACH|- FILE...: what a page display makes of the
- *   machine: the tool three times, the reachability helper unless it is "-",
- *   every file read, the viewer started. */
+ * start-read-start PROGRAM BROWSER WORD...: reads the program's output until it
+ *   ends, then starts the browser with the words.
+ * request TOOL VIEWER REACH|- FILE...: what a page display asks of the system:
+ *   runs the tool three times, and the reachability helper unless it is "-",
+ *   reads every file, starts the viewer. */
 #include <fcntl.h>
 #include <spawn.h>
 #include <stdio.h>
@@ -18,7 +18,7 @@
 
 enum { RUNS = 15, WARM_UPS = 3, MAX_STARTED = 8 };
 
-/* Started and not waited for: taken at the next run, when they have ended. */
+/* Started and not waited for; reaped at the next run, when they have ended. */
 static pid_t started[MAX_STARTED];
 static int started_count;
 
@@ -54,7 +54,7 @@ static void leave(pid_t process) {
   started[started_count++] = process;
 }
 
-static void take_ended(void) {
+static void reap_ended(void) {
   for (int i = 0; i < started_count; ++i) waitpid(started[i], NULL, WNOHANG);
   started_count = 0;
 }
@@ -84,7 +84,7 @@ static void request(char* words[]) {
   char* runtime[] = {tool, "-isRuntimeInstalled", NULL};
   char* viewer[] = {words[1], "HELP", "page", "en_US", "page_7", NULL};
   char* reach[] = {words[2], "localhost", NULL};
-  take_ended();
+  reap_ended();
   run_to_end(installed);
   read_output(location, 0);
   if (strcmp(words[2], "-") != 0) read_output(reach, 1);
@@ -97,7 +97,7 @@ static void start(char* words[]) { run_to_end(words); }
 
 static void start_read_start(char* words[]) {
   char* helper[] = {words[0], NULL};
-  take_ended();
+  reap_ended();
   read_output(helper, 1);
   leave(spawn(words + 1, -1, POSIX_SPAWN_SETSID));
 }

@@ -1,3 +1,3 @@
-/* Links GIO and does nothing: what a helper that asks the desktop costs before
- * it has asked anything. */
+/* Links GIO and does nothing: what a helper that uses the desktop costs before
+ * it has done anything. */
 int main(void) { return 0; }

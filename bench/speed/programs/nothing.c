@@ -1,5 +1,5 @@
-/* The QTV tool, the viewer and the browser of the benchmarks: does nothing, but
- * tells where the viewer is when it is asked. Static, so that its start is the
+/* The QTV tool, the viewer and the browser of the benchmarks. Does nothing but
+ * print where the viewer is, on request. Static, so that its start costs the
  * least that a process's start can cost. */
 #include <string.h>
 #include <unistd.h>

@@ -1,4 +1,4 @@
-// Help maps: loading them, and what they are compared with.
+// Loading help maps, and what that is compared with.
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -9,7 +9,7 @@
 #include <string_view>
 
 #include "bench/speed/samples/samples.h"
-#include "bench/speed/samples/stopwatch.h"
+#include "bench/stopwatch.h"
 
 namespace velmohelp::bench {
 namespace {
@@ -21,9 +21,9 @@ struct Fields {
   std::string_view value;
 };
 
-/// The fields of a well-formed map: one TAB and one LF a line. The room for
-/// them is taken at once: what a vector that grows gives back is memory that
-/// has been touched, and a map that is built in it looks cheap.
+/// The fields of a well-formed map: one tab and one LF per line. Reserves the
+/// memory for all of them first: a growing vector frees memory that has been
+/// touched, and a map built in such memory looks cheap.
 std::vector<Fields> Split(std::string_view text) {
   std::vector<Fields> all;
   all.reserve(
@@ -37,8 +37,7 @@ std::vector<Fields> Split(std::string_view text) {
   return all;
 }
 
-/// What runs in between and at the end is not measured: maps are left to the
-/// process's end.
+/// Never freed: the end of the process does that, unmeasured.
 Map& EmptyMap() { return *new Map; }
 
 double Load(const Words& words) {
@@ -55,7 +54,7 @@ double LoadAgain(const Words& words) {
   return Nanoseconds([&] { ITEMInternal::LoadMapFile(words.at(0), map); });
 }
 
-/// The fields of a sorted file, each put at the map's end.
+/// The fields of a sorted file, each inserted at the map's end.
 double BuildAtEnd(const Words& words) {
   const std::string text = Contents(words.at(0));
   const std::vector<Fields> all = Split(text);
@@ -67,7 +66,7 @@ double BuildAtEnd(const Words& words) {
   });
 }
 
-/// The fields in the order of the file, each put where it belongs.
+/// The fields in the order of the file, each inserted where it belongs.
 double BuildInFileOrder(const Words& words) {
   const std::string text = Contents(words.at(0));
   const std::vector<Fields> all = Split(text);
@@ -93,7 +92,7 @@ double GetlineAgain(const Words& words) {
   return Nanoseconds([&] { ReadByGetline(words.at(0), map); });
 }
 
-/// Reads a file into room of its size; true when text is in it.
+/// Reads a file into a buffer of its size; true when the text is in it.
 bool IsInFile(const std::string& path, std::string_view text,
               std::vector<char>& room) {
   const int file = open(path.c_str(), O_RDONLY | O_CLOEXEC);
@@ -107,7 +106,7 @@ bool IsInFile(const std::string& path, std::string_view text,
 }
 
 /// scan FOLDER LINE: reads every folder's map up to the one that has the line,
-/// and builds that one, its fields already split.
+/// and builds that one from fields that are split already.
 double Scan(const Words& words) {
   constexpr int kFolders = 100;
   const auto path = [&](int folder) {

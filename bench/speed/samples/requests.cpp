@@ -8,20 +8,20 @@
 #include <cstring>
 
 #include "bench/speed/samples/samples.h"
-#include "bench/speed/samples/stopwatch.h"
+#include "bench/stopwatch.h"
 
 namespace velmohelp::bench {
 namespace {
 
-/// config: the user's configuration folder, which says whether online help is
-/// on.
+/// config: the user's configuration folder, which decides whether online help
+/// is on.
 void Initialise(const std::string& config, const std::string& product) {
   setenv("XDG_CONFIG_HOME", config.c_str(), 1);
   Require(InitializeVelmoHelpClient(product.c_str(), "en_US", 0) == 0,
           "not initialised");
 }
 
-/// Memory that the host has touched; lives to the end of the process.
+/// Memory that the host has touched. Never freed.
 void MakeResident(std::size_t bytes) {
   char* memory = static_cast<char*>(std::malloc(bytes));
   Require(memory != nullptr, "no memory");
@@ -29,8 +29,8 @@ void MakeResident(std::size_t bytes) {
   Use(memory);
 }
 
-/// A viewer that does nothing may have ended before it is asked whether it
-/// runs: both answers have cost the same.
+/// A viewer that does nothing may have ended before the library looks whether
+/// it runs: both results cost the same.
 void Display() {
   const std::uint32_t code = DisplayVelmoHelpClientPage("page_7");
   Require(code == 0 || code == 1, "not displayed");
@@ -43,7 +43,7 @@ double Request(const Words& words) {
   return MedianNanoseconds(15, Display);
 }
 
-/// requests CONFIG COUNT: nanoseconds for each of so many in one process.
+/// requests CONFIG COUNT: the mean of that many displays in one process.
 double Requests(const Words& words) {
   const int count = std::stoi(words.at(1));
   Initialise(words.at(0), "page");
@@ -53,7 +53,8 @@ double Requests(const Words& words) {
          count;
 }
 
-/// find CONFIG PRODUCT PAGE: a page that is in a content folder of the product.
+/// find CONFIG PRODUCT PAGE: looks for a page that a content folder of the
+/// product has.
 double Find(const Words& words) {
   Initialise(words.at(0), words.at(1));
   std::string target;

@@ -1,6 +1,6 @@
-// What can be measured in a process of its own, by name. Each sample prepares
-// what it needs, and returns the nanoseconds of what it measures. A sample
-// whose work has failed throws: a wrong answer is never fast.
+// The samples by name; each runs in a process of its own. A sample prepares
+// what it needs and returns the nanoseconds of what it measures. It throws when
+// its work fails: a wrong result is never fast.
 #ifndef BENCH_SPEED_SAMPLES_SAMPLES_H_
 #define BENCH_SPEED_SAMPLES_SAMPLES_H_
 
@@ -23,8 +23,8 @@ inline void Require(bool holds, const char* what) {
   if (!holds) throw std::runtime_error(what);
 }
 
-/// A whole file. For what a sample is given, not for what it measures: nothing
-/// that was touched for it is free again.
+/// A whole file, for the preparation of a sample. Frees nothing that it has
+/// touched, which would make the measured work look cheap.
 std::string Contents(const std::string& path);
 
 }  // namespace velmohelp::bench

@@ -1,4 +1,4 @@
-// Keys, page ids and percent-encoding, and what they are compared with.
+// Keys, page ids and percent-encoding, and what these are compared with.
 #include <curl/curl.h>
 #include <fcntl.h>
 #include <glib.h>
@@ -14,7 +14,7 @@
 #include <string_view>
 
 #include "bench/speed/samples/samples.h"
-#include "bench/speed/samples/stopwatch.h"
+#include "bench/stopwatch.h"
 
 namespace velmohelp::bench {
 namespace {
@@ -39,7 +39,7 @@ std::string TextOf(const std::string& kind, std::size_t size) {
     return Drawn(pieces, size);
   }
   for (char c = 'a'; c <= 'z'; ++c) pieces.emplace_back(1, c);
-  // As people type them: words and blanks, and now and then a mark.
+  // As people type them: words and spaces, sometimes punctuation.
   if (kind == "query") {
     for (const char* c : {" ", " ", " ", " ", " ", "?", "-", "é"}) {
       pieces.emplace_back(c);
@@ -73,7 +73,7 @@ double ByGlib(const Words& words) {
   });
 }
 
-/// Half of the bytes are not allowed in a page's file name.
+/// Half of the bytes may not be in a page's file name.
 std::string PageId() {
   return Drawn({"a", "7", "_", " ", "/", "Z", "ä"}, 1U << 20U);
 }

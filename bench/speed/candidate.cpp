@@ -1,4 +1,4 @@
-#include "bench/speed/measure.h"
+#include "bench/speed/candidate.h"
 
 #include <fcntl.h>
 #include <spawn.h>
@@ -8,7 +8,7 @@
 #include <cstdio>
 #include <cstdlib>
 
-#include "bench/speed/samples/stopwatch.h"
+#include "bench/measure.h"
 
 namespace velmohelp::bench {
 namespace {
@@ -22,7 +22,7 @@ std::vector<char*> VectorOf(const Words& command) {
   return words;
 }
 
-/// Starts the command with its output at the end of a pipe, which is returned.
+/// Starts the command and returns the end of a pipe where its output arrives.
 int Start(const Words& command, pid_t& process) {
   int ends[2] = {-1, -1};
   if (pipe2(ends, O_CLOEXEC) != 0) return -1;
@@ -36,7 +36,8 @@ int Start(const Words& command, pid_t& process) {
   return ends[0];
 }
 
-/// One line: a viewer that the command started may hold the pipe open.
+/// Not the whole output: a viewer that the command started may hold the pipe
+/// open.
 std::string FirstLine(int pipe) {
   std::string line;
   char byte = 0;
@@ -52,7 +53,7 @@ std::string FirstLine(int pipe) {
   std::exit(1);
 }
 
-double Reading(const Words& command) {
+double ReadingOf(const Words& command) {
   pid_t process = -1;
   int status = 0;
   const int pipe = Start(command, process);
@@ -66,18 +67,11 @@ double Reading(const Words& command) {
 
 std::vector<double> Measure(const std::vector<Candidate>& candidates,
                             int rounds) {
-  const std::size_t count = candidates.size();
-  std::vector<std::vector<double>> readings(count);
-  for (std::size_t round = 0; round < static_cast<std::size_t>(rounds);
-       ++round) {
-    for (std::size_t turn = 0; turn < count; ++turn) {
-      const std::size_t i = (round + turn) % count;
-      readings[i].push_back(Reading(candidates[i].command));
-    }
+  std::vector<Reading> readings;
+  for (const Candidate& candidate : candidates) {
+    readings.push_back([&] { return ReadingOf(candidate.command); });
   }
-  std::vector<double> medians;
-  for (auto& all : readings) medians.push_back(Median(std::move(all)));
-  return medians;
+  return Measure(readings, rounds);
 }
 
 }  // namespace velmohelp::bench

@@ -1,6 +1,6 @@
 // Time on the monotonic clock.
-#ifndef BENCH_SPEED_SAMPLES_STOPWATCH_H_
-#define BENCH_SPEED_SAMPLES_STOPWATCH_H_
+#ifndef BENCH_STOPWATCH_H_
+#define BENCH_STOPWATCH_H_
 
 #include <algorithm>
 #include <chrono>
@@ -8,7 +8,7 @@
 
 namespace velmohelp::bench {
 
-/// Nanoseconds that work takes.
+/// How long the work takes.
 template <typename Work>
 double Nanoseconds(Work work) {
   const auto start = std::chrono::steady_clock::now();
@@ -25,7 +25,7 @@ inline double Median(std::vector<double> readings) {
   return *middle;
 }
 
-/// The median of many readings, after as many as it takes to warm up.
+/// The median of many readings, after a few that warm up the caches.
 template <typename Work>
 double MedianNanoseconds(int times, Work work) {
   std::vector<double> readings;
@@ -34,17 +34,22 @@ double MedianNanoseconds(int times, Work work) {
   return Median(std::move(readings));
 }
 
-/// The mean of as many runs as fill ten milliseconds: for work that is shorter
-/// than the clock's own cost allows to take by itself.
+/// Nanoseconds of one run, as the mean of so many.
 template <typename Work>
-double MeanNanoseconds(Work work) {
-  constexpr double kSpan = 10e6;
-  const double once = Nanoseconds(work);
-  const int times = 1 + static_cast<int>(kSpan / (once + 1));
+double MeanNanoseconds(int times, Work work) {
   const double all = Nanoseconds([&] {
     for (int i = 0; i < times; ++i) work();
   });
   return all / times;
+}
+
+/// The mean of as many runs as fill ten milliseconds: for work that is too
+/// short to be timed by itself.
+template <typename Work>
+double MeanNanoseconds(Work work) {
+  constexpr double kSpan = 10e6;
+  const double once = Nanoseconds(work);
+  return MeanNanoseconds(1 + static_cast<int>(kSpan / (once + 1)), work);
 }
 
 /// Keeps a compiler from dropping work whose result nobody uses.
@@ -54,4 +59,4 @@ inline void Use(const void* result) {
 
 }  // namespace velmohelp::bench
 
-#endif  // BENCH_SPEED_SAMPLES_STOPWATCH_H_
+#endif  // BENCH_STOPWATCH_H_
