@@ -10,8 +10,8 @@ namespace {
 static_assert(sizeof(lua_Integer) == sizeof(std::int64_t));
 static_assert(std::is_trivially_destructible_v<NamedInteger>);
 
-// In the registry by name, so that two copies of this code in one process (a
-// host program's and the Lua module's) know each other's values.
+// The key in the registry. Two copies of this code in one process, a host
+// program's and the Lua module's, so recognise each other's values.
 constexpr char kMetatable[] = "velmohelp.NamedInteger";
 
 const NamedInteger& CheckNamedInteger(lua_State* state, int index) {
@@ -64,8 +64,8 @@ constexpr luaL_Reg kMetamethods[] = {{"__index", GetField},
                                      {"__eq", Equal},
                                      {nullptr, nullptr}};
 
-/// "__name" is the word for a value in Lua's own messages; "__metatable" keeps
-/// scripts from changing what all results of the state can do.
+/// Lua's own messages call a value by "__name"; "__metatable" keeps scripts
+/// from changing the operators of all results of the state.
 void PushNewMetatable(lua_State* state) {
   luaL_newlib(state, kMetamethods);
   SetOperators(state);
@@ -75,7 +75,7 @@ void PushNewMetatable(lua_State* state) {
   lua_setfield(state, -2, "__metatable");
 }
 
-/// Registers the metatable only when it is whole: memory may run out before.
+/// Registers the metatable only when it is complete: memory may run out before.
 void PushMetatable(lua_State* state) {
   if (luaL_getmetatable(state, kMetatable) != LUA_TNIL) return;
   lua_pop(state, 1);

@@ -1,5 +1,5 @@
-// The operators of named integers. Each puts plain values in the places of the
-// named ones and leaves the rest to Lua.
+// The operators of named integers. Each replaces the named integers by plain
+// values and leaves the rest to Lua.
 #include "host/named_integer.h"
 
 namespace velmohelp {
@@ -38,8 +38,8 @@ void PutText(lua_State* state, int index) {
   lua_replace(state, index);
 }
 
-/// Refuses an operand that neither fits nor brings the operator along. Lua
-/// would refuse it as well, but without the script's line in its message.
+/// Raises an error for an operand that does not fit and has no such operator of
+/// its own. Lua would do so too, but without the script's line in its message.
 void Require(lua_State* state, bool fits, int index, const char* action) {
   const char* event = lua_tostring(state, lua_upvalueindex(2));
   if (fits) return;

@@ -7,8 +7,8 @@
 
 namespace {
 
-/// Pushes the global table of that name, made when there is none. Raw access:
-/// a host that forbids undeclared globals means its scripts, not us.
+/// Pushes the global table of that name, after creating it if necessary. Raw
+/// access: a host that forbids undeclared globals means its scripts, not us.
 void PushNamespace(lua_State* state, const char* name) {
   lua_pushglobaltable(state);
   lua_pushstring(state, name);
@@ -20,12 +20,12 @@ void PushNamespace(lua_State* state, const char* name) {
     lua_rawset(state, -4);
   }
   if (!lua_istable(state, -1)) {
-    luaL_error(state, "the global '%s' is no table", name);
+    luaL_error(state, "the global '%s' is not a table", name);
   }
   lua_remove(state, -2);
 }
 
-/// Makes the table on top of the stack known as a library: Lua then names its
+/// Registers the table on top of the stack as a library. Lua then names its
 /// functions in messages and tracebacks, however the script called them.
 void NameAsLibrary(lua_State* state, const char* name) {
   luaL_getsubtable(state, LUA_REGISTRYINDEX, LUA_LOADED_TABLE);
@@ -49,9 +49,8 @@ VELMOHELP_API void LxNamespace_exportFunctions(LxState* state,
   lua_pop(state, 1);
 }
 
-/// As Lua's own libraries check a string, numbers are taken as their text. The
-/// plug-in reads up to the first zero byte: a text that has one inside is
-/// refused, not cut.
+/// A number counts as its text, as in Lua's own libraries. The plug-in reads up
+/// to the first zero byte: a string that contains one is refused, not cut.
 VELMOHELP_API const char* LxLua_checkString(LxState* state, int index) {
   std::size_t size = 0;
   const char* text = luaL_checklstring(state, index, &size);

@@ -150,7 +150,7 @@ TEST_F(ExportFunctions, IsNotStoppedByAGuardOfGlobals) {
 TEST_F(ExportFunctions, RefusesANameThatIsTaken) {
   lua_register(state_, "export", ExportIntoNumber);
   EXPECT_EQ(state_.Run("taken = 1 export()"),
-            "error: t:1: the global 'taken' is no table");
+            "error: t:1: the global 'taken' is not a table");
 }
 
 TEST_F(ExportFunctions, KeepsStatesApart) {
