@@ -37,7 +37,7 @@ int Search(lua_State* state) {
 
 int Status(lua_State* state) {
   LxLua_pushNamedInteger(state, PluginOf(state).online_status(),
-                         &kOnlineStatus.header);
+                         &kOnlineStatusReturnCode.header);
   return 1;
 }
 
@@ -56,7 +56,7 @@ constexpr Constants kConstants[] = {
     {"DisplayPageReturnCode", kDisplayPageReturnCode.header},
     {"OpenUrlReturnCode", kOpenUrlReturnCode.header},
     {"SearchReturnCode", kSearchReturnCode.header},
-    {"OnlineStatus", kOnlineStatus.header}};
+    {"OnlineStatusReturnCode", kOnlineStatusReturnCode.header}};
 
 /// Sets a field of the module on top of the stack to the global of that name.
 /// The global is missing when a program without the Lx... operations loaded the

@@ -22,7 +22,7 @@ struct Plugin {
 ///   LxHelp, LxHelpWorker       the namespaces, which are globals as well
 ///   openURL, search, status    functions
 ///   InitReturnCode, DisplayPageReturnCode, OpenUrlReturnCode,
-///   SearchReturnCode, OnlineStatus    the named results
+///   SearchReturnCode, OnlineStatusReturnCode    the named results
 /// Raises a script error when the plug-in registers nothing, and when memory
 /// runs out. Copies the plugin.
 void PushHelpModule(lua_State* state, const Plugin& plugin);

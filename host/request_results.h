@@ -27,12 +27,12 @@ inline constexpr ResultCodeTable<8> kSearchReturnCode = {
      {"invalidArgument", 3},
      {"missingConfig", 4},
      {"invalidConfig", 5},
-     {"noSearchPageOffline", 6},
-     {"noSearchPageOnline", 7},
+     {"noLocalPage", 6},
+     {"noOnlinePage", 7},
      {nullptr, 0}}};
 
-inline constexpr ResultCodeTable<4> kOnlineStatus = {
-    {"Online Status", kOnlineStatus.values},
+inline constexpr ResultCodeTable<4> kOnlineStatusReturnCode = {
+    {"Online Status Return Code", kOnlineStatusReturnCode.values},
     {{"online", 0}, {"offline", 1}, {"notInitialized", 2}, {nullptr, 0}}};
 
 }  // namespace velmohelp

@@ -62,8 +62,8 @@ TEST(HelpModule, HoldsExactlyWhatTheDocumentsList) {
                       "for name in pairs(help) do all[#all + 1] = name end "
                       "table.sort(all) return table.unpack(all)"),
             "DisplayPageReturnCode InitReturnCode LxHelp LxHelpWorker "
-            "OnlineStatus OpenUrlReturnCode SearchReturnCode openURL search "
-            "status");
+            "OnlineStatusReturnCode OpenUrlReturnCode SearchReturnCode openURL "
+            "search status");
 }
 
 struct Row {
@@ -123,17 +123,18 @@ INSTANTIATE_TEST_SUITE_P(
                       Row{"an invalid configuration at a search", kSearch, 5,
                           "invalidConfig Search Return Code"},
                       Row{"no search page offline", kSearch, 6,
-                          "noSearchPageOffline Search Return Code"},
+                          "noLocalPage Search Return Code"},
                       Row{"no search page online", kSearch, 7,
-                          "noSearchPageOnline Search Return Code"}),
+                          "noOnlinePage Search Return Code"}),
     SentenceOf());
 
 INSTANTIATE_TEST_SUITE_P(
     Status, ModuleResult,
-    ::testing::Values(Row{"online", kStatus, 0, "online Online Status"},
-                      Row{"offline", kStatus, 1, "offline Online Status"},
-                      Row{"not initialised", kStatus, 2,
-                          "notInitialized Online Status"}),
+    ::testing::Values(
+        Row{"online", kStatus, 0, "online Online Status Return Code"},
+        Row{"offline", kStatus, 1, "offline Online Status Return Code"},
+        Row{"not initialised", kStatus, 2,
+            "notInitialized Online Status Return Code"}),
     SentenceOf());
 
 class ModuleArgument : public ::testing::TestWithParam<Row> {};
@@ -167,8 +168,8 @@ INSTANTIATE_TEST_SUITE_P(
             .script = "search('p', 'l')",
             .seen = "bad argument #3 to 'search' (string expected, got no"},
         Row{.sentence = "a name that no result has",
-            .script = "return help.OnlineStatus.onlime",
-            .seen = "no \"onlime\" in \"Online Status\""}),
+            .script = "return help.OnlineStatusReturnCode.onlime",
+            .seen = "no \"onlime\" in \"Online Status Return Code\""}),
     SentenceOf());
 
 }  // namespace

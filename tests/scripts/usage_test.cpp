@@ -20,16 +20,20 @@ using ::testing::StartsWith;
 
 constexpr char kSource[] = VELMO_SOURCE;
 
+/// Not the programs that the demonstration installs.
 bool IsScript(const fs::directory_entry& entry) {
   constexpr auto kExecute = fs::perms::owner_exec;
+  const fs::path& path = entry.path();
   return entry.is_regular_file() &&
-         (entry.status().permissions() & kExecute) == kExecute;
+         (entry.status().permissions() & kExecute) == kExecute &&
+         (path.parent_path().filename() != "examples" ||
+          path.filename().string().starts_with("demo-"));
 }
 
 /// Paths below the root of the source tree.
 std::vector<std::string> AllScripts() {
   std::vector<std::string> scripts = {"demo", "test"};
-  for (const std::string folder : {"bench", "scripts"}) {
+  for (const std::string folder : {"bench", "examples", "scripts"}) {
     for (const auto& entry :
          fs::recursive_directory_iterator(kSource + ("/" + folder))) {
       if (!IsScript(entry)) continue;
@@ -45,7 +49,8 @@ std::vector<std::string> AllScripts() {
 class Script : public ::testing::TestWithParam<std::string> {
  protected:
   Script() {
-    for (const std::string name : {"bench", "scripts", "demo", "test"}) {
+    for (const std::string name :
+         {"bench", "examples", "scripts", "demo", "test"}) {
       fs::copy(kSource + ("/" + name), folder_.Path(name),
                fs::copy_options::recursive);
     }
