@@ -1,5 +1,6 @@
--- lxhost demo.lua WORLD BASE_URL [ID...]: shows the pages of the ids; without
--- ids it plays the scenes of the demonstration. Fails unless all goes well.
+-- lxhost demo.lua WORLD BASE_URL [ID...]: shows the pages of the ids. Without
+-- ids it plays the scenes of the demonstration. Fails when a result is not as
+-- expected.
 
 local world, base_url = ...
 local ids = { select(3, ...) }
@@ -26,7 +27,7 @@ local function write(path, text)
   assert(file:write(text))
 end
 
--- The URLs of a page of the downloaded help and of the help server's.
+-- The URL of a page in the downloaded help, and on the help server.
 local function local_page(page, anchor)
   local path = store .. "/Help/help/en-US/text/" .. page
   local escaped = path:gsub("[^A-Za-z0-9/._~:?#@!$&'()*+,;=%[%]-]",
@@ -39,8 +40,8 @@ local function online_page(page, anchor)
   return base_url .. "help/en-US/text/" .. page .. anchor
 end
 
--- What a scene expects: the result, the program, its arguments, and the first
--- line that it shows.
+-- What a scene expects: the result, the program that was started, its arguments,
+-- and the first line that it shows.
 local function viewer_shows(first_line, verb, request)
   return { result = "success", program = "viewer", first_line = first_line,
     arguments = { verb, "office", "en_US", request } }
@@ -71,11 +72,11 @@ stage.display(".uno:WordCountDialog", viewer_shows_page("Word Count",
 stage.display("modules/swriter/ui/mailmerge/printer", viewer_shows_page(
   "Printer", local_page("swriter/01/01150000.html", "bm_id3150497")))
 
-stage.title("An id that the help does not know leads to its home page.")
+stage.title("An unknown id leads to the home page.")
 stage.display("no/such place", viewer_shows_page(
   "The LibreOffice Help", local_page("shared/05/new_help.html")))
 
-stage.title("A URL goes to the viewer as it is.")
+stage.title("A URL goes to the viewer unchanged.")
 stage.display(shortcuts_online,
   viewer_shows("Shortcut Keys", "URL", '"' .. shortcuts_online .. '"'))
 

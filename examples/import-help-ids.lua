@@ -1,10 +1,10 @@
 -- lxhost import-help-ids.lua HOME PREFIX <hid2file.js >helpmap.txt
 --
--- Turns a table of context-help ids, one 'id':'page#anchor', to a line, into a
+-- Turns a table of context-help ids, one 'id':'page#anchor', per line, into a
 -- help map. HOME is the page of the entry VX_HOME, without which the client
--- takes no map for complete; PREFIX stands before each page that is no URL.
--- Lines that are no such row are passed over, and so is what a help map cannot
--- hold: an empty field, a TAB or a line end.
+-- rejects a map. PREFIX is put before each page that is not a URL. Skips all other
+-- lines, and rows that a help map cannot represent: those with an empty field, a
+-- tab or a line end.
 
 local home, prefix = ...
 
@@ -12,8 +12,8 @@ local function is_url(text)
   return text:find("^https?://") or text:find("^file://")
 end
 
--- The client looks a page id up as a file name without its last five bytes,
--- and ids that are URLs not at all.
+-- The key that the client looks up: a file name without its last five bytes. It
+-- looks up no id that is a URL.
 local function lookup_key(id)
   if is_url(id) then return "" end
   if not id:find("%.html?$") then
@@ -28,7 +28,7 @@ end
 
 local written = {}
 
--- Several modules have the same id; the client takes the first entry of a key.
+-- Several modules have the same id; the client uses the first entry of a key.
 local function write_entry(key, page)
   if written[key] or not (is_field(key) and is_field(page)) then return end
   written[key] = true

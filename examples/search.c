@@ -1,5 +1,5 @@
 /* search PRODUCT LOCALE TEXT: a C program that embeds the help client. It
- * searches the help of a product; its exit status is the client's answer. */
+ * searches the help of a product; its exit status is the result code. */
 #include <stdio.h>
 #include <velmohelp/velmohelp.h>
 

@@ -1,8 +1,9 @@
--- The stage of the demonstration: makes a request, prints what came of it, and
--- compares that with what the scene expects.
+-- The stage of the demonstration: makes a request, prints the outcome, and
+-- compares it with what the scene expects.
 --
--- expected: result, a name; program, its list of arguments and the first_line
--- that it shows, each left out when it does not matter; most_lines to print.
+-- expected: result (a name), program, arguments (a list), first_line that it
+-- shows; a field that does not matter is left out. most_lines: how many lines to
+-- print.
 
 local stage = { world = nil, requests = 0, failures = 0 }
 
@@ -18,8 +19,8 @@ local function expect(what, expected, got)
   say("    NOT AS EXPECTED: %s should be '%s'", what, expected)
 end
 
--- Waits, though not for ever, for the program that a request started. Returns
--- its name, its arguments, and the lines that it shows, without the blank ones.
+-- Waits for the program that a request started, but not forever. Returns its
+-- name, its arguments, and the lines that it shows, without the empty ones.
 local function read_screen()
   local pipe <close> =
     assert(io.popen("timeout 10 cat " .. quote(stage.world .. "/screen")))
@@ -84,8 +85,8 @@ local function name_of(value)
   return "unknown"
 end
 
--- Scripts have no search: a C program makes the request, and its exit status is
--- the answer.
+-- A C program makes the request, to show one that embeds the client. Its exit
+-- status is the result code.
 function stage.search(product, locale, text, expected)
   say_call("SearchHelp", product, locale, text)
   local search = { stage.world .. "/bin/search", product, locale, text }

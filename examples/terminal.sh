@@ -1,11 +1,11 @@
-# What the example viewer and the example browser share: how they show things as
-# text. Both source it, with $world set and a function "show" of their own.
+# Sourced by the example viewer and the example browser, which set $world and
+# define a function "show" before.
 
-# on_screen NAME [ARGUMENT...]: prints what "show" prints, before it the
-# program's name and exactly the arguments that it was started with, one to a
-# line. The demonstration reads all this from the pipe $world/screen when it
-# comes to it, and the program waits for that, though not for ever. Without the
-# pipe it prints what "show" prints on the terminal where the host was started.
+# on_screen NAME [ARGUMENT...]: writes the program's name, the exact arguments
+# that it was started with, one per line, and the output of "show" to the pipe
+# $world/screen. The demonstration reads the pipe later; the program waits for
+# that, but not forever. Without the pipe it prints the output of "show" alone,
+# on the terminal where the host was started.
 on_screen() {
   if [[ -p $world/screen ]]; then
     transcript "$@" | timeout 10 sh -c 'cat >"$0"' "$world/screen"
@@ -24,8 +24,8 @@ as_text() {
   w3m -T text/html -I UTF-8 -O UTF-8 -cols 72 -dump
 }
 
-# show_page URL: the page's text from the anchor on. The client hands a local
-# page's anchor over as "?nameAnchor=", an online page's behind "#".
+# show_page URL: the page's text from the anchor on. The client passes the anchor
+# of a local page as "?nameAnchor=", that of an online page after "#".
 show_page() {
   local anchor=
   case $1 in
@@ -36,8 +36,8 @@ show_page() {
     as_text
 }
 
-# A page that lacks the anchor is shown from its heading. What follows the text
-# proper is the frame of the help's own site.
+# A page without the anchor is shown from its heading on, and only up to the
+# search frame that the help's own site adds.
 from_anchor() {
   awk '{ line[NR] = $0 }
     !start && index($0, "name=\"" ENVIRON["anchor"] "\"") { start = NR }

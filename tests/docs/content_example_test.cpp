@@ -1,5 +1,5 @@
-// The complete example of docs/content.md, word for word: who copies it must
-// find what the document promises.
+// The complete example of docs/content.md, word for word: it must do what the
+// document promises.
 #include <gtest/gtest.h>
 #include <velmohelp/resolve.h>
 #include <velmohelp/velmohelp.h>
@@ -67,7 +67,7 @@ INSTANTIATE_TEST_SUITE_P(
                std::string(kBasics) + "/index.html"},
         Lookup{"the home page online", "VX_HOME", true, true,
                std::string(kBasicsOnline) + "/index.html"},
-        Lookup{"a mapped URL offline is passed over", "importing", false, false,
+        Lookup{"a mapped URL is skipped offline", "importing", false, false,
                "importing.html"},
         Lookup{"a page that no folder has", "other", false, false,
                "other.html"}),

@@ -1,5 +1,5 @@
-# Fails when a link in a document of the tree SOURCE leads to no file, or to no
-# heading of one.
+# Fails when a link in a document of the tree SOURCE leads to a file or heading
+# that does not exist.
 cmake_minimum_required(VERSION 3.25)
 
 # The anchors of a document's headings, as the usual renderers make them.
@@ -37,7 +37,7 @@ endfunction()
 file(GLOB documents "${SOURCE}/*.md" "${SOURCE}/docs/*.md")
 foreach(document IN LISTS documents)
   file(READ "${document}" text)
-  # A list with a bracket in it does not part at its semicolons.
+  # CMake does not split a list with a bracket in it at its semicolons.
   string(REPLACE "](" "link(" text "${text}")
   string(REGEX MATCHALL "link\\([^)]*\\)" links "${text}")
   foreach(link IN LISTS links)

@@ -1,4 +1,4 @@
-// The importer of the demonstration, run as the demonstration runs it.
+// The importer of the demonstration, called as the demonstration calls it.
 #include <gtest/gtest.h>
 #include <velmohelp/resolve.h>
 
@@ -23,7 +23,7 @@ constexpr char kRealTable[] = "/usr/share/libreoffice/help/hid2file.js";
 
 class ImportHelpIds : public ::testing::Test {
  protected:
-  /// Imports the table in a file; the path of the help map.
+  /// Imports the table in a file. Returns the path of the help map.
   std::string Import(const std::string& table) {
     std::string map = folder_.Path("helpmap.txt");
     const std::string command = "'" LXHOST "' '" IMPORTER
@@ -33,7 +33,7 @@ class ImportHelpIds : public ::testing::Test {
     return map;
   }
 
-  /// Imports a table; the text of the help map.
+  /// Imports a table. Returns the text of the help map.
   std::string ImportText(const std::string& table) {
     folder_.Write("table.js", table);
     Import(folder_.Path("table.js"));
@@ -64,13 +64,13 @@ INSTANTIATE_TEST_SUITE_P(
     ::testing::Values(
         Row{"a colon becomes an underscore", "'.uno:Save':'text/a.html#b',\n",
             ".uno_Save\ten-US/text/a.html#b\n"},
-        Row{"letters digits and three signs stay", "'aZ09_-.':'p',\n",
-            "aZ09_-.\ten-US/p\n"},
-        Row{"each byte of a letter beyond ASCII becomes an underscore",
+        Row{"letters digits and three other characters stay",
+            "'aZ09_-.':'p',\n", "aZ09_-.\ten-US/p\n"},
+        Row{"each byte of a non-ASCII letter becomes an underscore",
             "'my page/\xC3\xA4':'p',\n", "my_page___\ten-US/p\n"},
         Row{"a percent sign is a byte like any other", "'a%3Fb':'p',\n",
             "a_3Fb\ten-US/p\n"},
-        Row{"a TAB in an id becomes an underscore", "'a\tb':'p',\n",
+        Row{"a tab in an id becomes an underscore", "'a\tb':'p',\n",
             "a_b\ten-US/p\n"},
         Row{"a zero byte in an id becomes an underscore",
             std::string("'a\0b':'p',\n", 11), "a_b\ten-US/p\n"},
@@ -80,18 +80,17 @@ INSTANTIATE_TEST_SUITE_P(
             "'page.htm':'p',\n", "pag\ten-US/p\n"},
         Row{"an id shorter than five bytes is looked up whole", "'.htm':'p',\n",
             ".htm\ten-US/p\n"},
-        Row{"a scheme in capitals makes no URL", "'HTTP://x':'p',\n",
+        Row{"a scheme in capitals is not a URL", "'HTTP://x':'p',\n",
             "HTTP___x\ten-US/p\n"},
-        Row{"a page that is a URL stays as it is", "'a':'https://h/p#x',\n",
+        Row{"a page that is a URL stays unchanged", "'a':'https://h/p#x',\n",
             "a\thttps://h/p#x\n"},
-        Row{"a page may hold blanks and double quotes", "'a':'p \"q\".html',\n",
-            "a\ten-US/p \"q\".html\n"},
-        Row{"blanks around the parts do not matter", "  'a' : 'p' ,\n",
+        Row{"a page may contain spaces and double quotes",
+            "'a':'p \"q\".html',\n", "a\ten-US/p \"q\".html\n"},
+        Row{"spaces around the parts do not matter", "  'a' : 'p' ,\n",
             "a\ten-US/p\n"},
         Row{"the last row needs no comma and no line end", "'a':'p'",
             "a\ten-US/p\n"},
-        Row{"a line may end as on other systems", "'a':'p',\r\n",
-            "a\ten-US/p\n"},
+        Row{"a line may end with CR LF", "'a':'p',\r\n", "a\ten-US/p\n"},
         Row{"the first of two ids with one key wins",
             "'a:b':'p',\n'a/b':'q',\n", "a_b\ten-US/p\n"}),
     testing::SentenceOf());
@@ -103,11 +102,11 @@ INSTANTIATE_TEST_SUITE_P(
         Row{"a comment", "// 'a':'p',\n", ""},
         Row{"an id that is a URL", "'http://x/y':'p',\n", ""},
         Row{"an empty id", "'':'p',\n", ""},
-        Row{"an id that is nothing but the suffix", "'.html':'p',\n", ""},
+        Row{"an id that is only the suffix", "'.html':'p',\n", ""},
         Row{"an empty page", "'a':'',\n", ""},
-        Row{"a TAB in a page", "'a':'p\tq',\n", ""},
+        Row{"a tab in a page", "'a':'p\tq',\n", ""},
         Row{"a line end in a page", "'a':'p\rq',\n", ""},
-        Row{"a TAB in an id that stays as it is", "'a\tb.html':'p',\n", ""},
+        Row{"a tab in an id that stays unchanged", "'a\tb.html':'p',\n", ""},
         Row{"an escaped quote in an id", R"('a\'b':'p',)", ""},
         Row{"an escaped quote in a page", R"('a':'p\'q',)", ""},
         Row{"other quotes", R"("a":"p",)", ""},
@@ -116,13 +115,13 @@ INSTANTIATE_TEST_SUITE_P(
         Row{"a second home page", "'VX_HOME':'p',\n", ""}),
     testing::SentenceOf());
 
-/// What the client looks an id up by.
+/// The key that the client looks an id up by.
 std::string KeyOf(std::string id) {
   NormalizePageID(id);
   return id.substr(0, id.size() - 5);
 }
 
-/// The real table as the client needs it; one row of it has an empty id.
+/// The real table as the client needs it. One row has an empty id.
 Map ReadRealTable() {
   Map map = {{"VX_HOME", "en-US/home.html"}};
   std::ifstream table(kRealTable);

@@ -1,4 +1,4 @@
-// The Lua module: in the stock interpreter, and in two states of one process.
+// The Lua module in the stock interpreter, and in two states of one process.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -72,7 +72,7 @@ TEST(LuaModule, ServesAStateAfterAnotherHasGone) {
   }
 }
 
-TEST(LuaModule, SaysSoWhereTheLibraryWasLoadedWithoutAHostBefore) {
+TEST(LuaModule, FailsWhenTheLibraryWasLoadedWithoutAHostBefore) {
   const Outcome outcome =
       RunProgram({VELMO_BARE_PROGRAM, VELMO_PLUGIN, VELMO_LUA_CPATH});
   EXPECT_EQ(outcome.status, 0);

@@ -1,5 +1,4 @@
-// A Lua state for a test, with the standard libraries and the host's operations
-// over it.
+// A Lua state for a test, with the standard libraries.
 #ifndef TESTS_HOST_LUA_STATE_H_
 #define TESTS_HOST_LUA_STATE_H_
 
@@ -17,8 +16,8 @@ class LuaState {
 
   operator lua_State*() { return state_; }
 
-  /// The script's results as tostring shows them, with one blank between; for
-  /// a script that fails "error: " and the message. The chunk is called "t".
+  /// Returns the script's results as tostring shows them, separated by spaces,
+  /// or "error: " and the message when it fails. The chunk is called "t".
   std::string Run(const std::string& script) {
     lua_settop(state_, 0);
     if (luaL_loadbuffer(state_, script.data(), script.size(), "=t") != LUA_OK ||

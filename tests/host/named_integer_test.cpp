@@ -51,7 +51,7 @@ class NamedInteger : public ::testing::TestWithParam<Row> {
 
 class NamedIntegerRefuses : public NamedInteger {};
 
-TEST_P(NamedInteger, Answers) {
+TEST_P(NamedInteger, Gives) {
   EXPECT_EQ(state_.Run(GetParam().script), GetParam().expected);
 }
 
@@ -72,14 +72,14 @@ INSTANTIATE_TEST_SUITE_P(
         {"a value in no row has no name", "return colour(7).name", "nil"},
         {"a value in no row keeps its value and its type",
          "return colour(7).value, colour(7).type", "7 Colour"},
-        {"zero does not take the name of the list's end",
+        {"zero does not get the name of the row that ends the list",
          "return colour(0).name, colour(0)", "nil 0"},
         {"its type is the table's name", "return colour(1).type", "Colour"},
-        {"the greatest value arrives whole",
+        {"the greatest value is kept",
          "return colour(math.maxinteger).value == math.maxinteger, "
          "colour(math.maxinteger).name",
          "true last"},
-        {"its metatable is out of reach", "return getmetatable(colour(1))",
+        {"its metatable is protected", "return getmetatable(colour(1))",
          "named integer"}}),
     SentenceOf());
 
@@ -92,12 +92,13 @@ INSTANTIATE_TEST_SUITE_P(
          "return string.format('<%s>', colour(1))", "<red>"},
         {"a value in no row is printed as its number",
          "return tostring(colour(-7)) == '-7'", "true"},
-        {"it joins a string on its right", "return colour(1) .. '!'", "red!"},
-        {"it joins a string on its left", "return 'is ' .. colour(1)",
+        {"it is joined with a string on its right", "return colour(1) .. '!'",
+         "red!"},
+        {"it is joined with a string on its left", "return 'is ' .. colour(1)",
          "is red"},
-        {"it joins a number", "return 1 .. colour(1) .. 2", "1red2"},
-        {"two of them join", "return colour(1) .. colour(7)", "red7"},
-        {"it leaves joining to a table that can",
+        {"it is joined with a number", "return 1 .. colour(1) .. 2", "1red2"},
+        {"two of them are joined", "return colour(1) .. colour(7)", "red7"},
+        {"a table with a concatenation of its own does the joining",
          "return colour(1) .. setmetatable({}, {__concat = function(a, b) "
          "return type(a) .. type(b) end})",
          "stringtable"}}),
@@ -112,7 +113,7 @@ INSTANTIATE_TEST_SUITE_P(
          "return colour(2) == colour(1), colour(2) ~= colour(1)", "false true"},
         {"the value alone counts between two tables",
          "return colour(1) == size(1)", "true"},
-        {"the language finds no plain number equal to it",
+        {"no plain number is equal to it",
          "return colour(1) == 1, 1 == colour(1)", "false false"},
         {"it is not equal to its name", "return colour(1) == 'red'", "false"},
         {"it is not equal to another userdata",
@@ -131,12 +132,12 @@ INSTANTIATE_TEST_SUITE_P(
          "true true false"},
         {"it compares with a fraction",
          "return colour(1) < 1.5, 1.5 <= colour(1)", "true false"},
-        {"nothing that is no number is near it",
+        {"NaN is neither less nor greater",
          "return colour(1) < 0/0, colour(1) >= 0/0", "false false"},
         {"two of them compare",
          "return colour(1) < colour(2), colour(2) <= size(1)", "true false"},
         {"a negative one compares", "return colour(-5) < 0", "true"},
-        {"it leaves comparing to a table that can",
+        {"a table with a comparison of its own does the comparing",
          "return colour(1) < setmetatable({}, {__lt = function(a) return a "
          "== 1 end})",
          "true"}}),
@@ -151,9 +152,9 @@ INSTANTIATE_TEST_SUITE_P(
         {"it multiplies", "return colour(2) * 4, 4 * colour(2)", "8 8"},
         {"it divides in order", "return colour(2) / 4, 4 / colour(2)",
          "0.5 2.0"},
-        {"it divides without rest in order",
+        {"it divides to an integer in order",
          "return colour(2) // 4, 5 // colour(2)", "0 2"},
-        {"it leaves a rest in order", "return colour(2) % 4, 5 % colour(2)",
+        {"it has a remainder in order", "return colour(2) % 4, 5 % colour(2)",
          "2 1"},
         {"it is raised in order", "return colour(2) ^ 3, 3 ^ colour(2)",
          "8.0 9.0"},
@@ -166,13 +167,13 @@ INSTANTIATE_TEST_SUITE_P(
          "return colour(2) << 1, 1 << colour(2), colour(2) >> 1, 8 >> "
          "colour(2)",
          "4 4 1 2"},
-        {"its bits are turned", "return ~colour(2)", "-3"},
+        {"its bits are inverted", "return ~colour(2)", "-3"},
         {"two of them add", "return colour(2) + size(1)", "3"},
-        {"it calculates with a numeral as a number does",
+        {"a numeral counts as a number",
          "return colour(2) + '10', '10' - colour(2)", "12 8"},
-        {"what it yields is a plain number",
+        {"the result is a plain number",
          "return colour(2) + 0 == 2, math.type(colour(2) + 0)", "true integer"},
-        {"it leaves arithmetic to a table that can",
+        {"a table with arithmetic of its own does the arithmetic",
          "return colour(2) * setmetatable({}, {__mul = function(a) return "
          "a == 2 end})",
          "true"}}),
@@ -195,9 +196,9 @@ INSTANTIATE_TEST_SUITE_P(
     ::testing::ValuesIn(std::vector<Row>{
         {"an unknown field", "return colour(1).nmae",
          "a named integer has no field 'nmae'"},
-        {"a field that is no string", "return colour(1)[nil]",
+        {"a field that is not a string", "return colour(1)[nil]",
          "a named integer has no field 'nil'"},
-        {"a constant that is not there", "return constants().rde",
+        {"a constant that does not exist", "return constants().rde",
          "no \"rde\" in \"Colour\""},
         {"a new value", "local r = colour(1) r.value = 2",
          "attempt to index a named integer value (local 'r')"},
@@ -222,9 +223,9 @@ INSTANTIATE_TEST_SUITE_P(
         {"another metatable", "setmetatable(colour(1), {})",
          "bad argument #1 to 'setmetatable' (table expected, got named "
          "integer)"},
-        {"its place where a number is asked", "return math.abs(colour(1))",
+        {"itself where a number is required", "return math.abs(colour(1))",
          "bad argument #1 to 'abs' (number expected, got named integer)"},
-        {"a stranger handed to its operators",
+        {"another userdata passed to its operators",
          "local m = debug.getmetatable(colour(1)) m.__index({}, 'value')",
          "bad argument #1 to '__index' (velmohelp.NamedInteger expected, got "
          "table)"}}),

@@ -6,7 +6,7 @@
 namespace velmohelp::testing {
 namespace {
 
-/// Returns its second argument, to see what the plug-in would.
+/// Returns its second argument as the plug-in would see it.
 int Second(lua_State* state) {
   LxLua_checkString(state, 1);
   lua_pushstring(state, LxLua_checkString(state, 2));
@@ -42,7 +42,7 @@ class CheckString : public ::testing::TestWithParam<Row> {
   LuaState state_;
 };
 
-TEST_P(CheckString, Answers) {
+TEST_P(CheckString, Returns) {
   EXPECT_EQ(state_.Run(GetParam().script), GetParam().expected);
 }
 
@@ -51,7 +51,7 @@ INSTANTIATE_TEST_SUITE_P(
     ::testing::ValuesIn(std::vector<Row>{
         {"a string", "return Space.second('', 'page')", "page"},
         {"an empty string", "return Space.second('x', '') == ''", "true"},
-        {"bytes that are no text",
+        {"bytes that are not text",
          "return Space.second('', '\\xff\\x80') == '\\xff\\x80'", "true"},
         {"an integer as its numeral", "return Space.second('', 12) == '12'",
          "true"},
@@ -90,7 +90,7 @@ INSTANTIATE_TEST_SUITE_P(
         {"the namespace of a call with a colon", "Space:second('x')",
          "error: t:1: calling 'second' on bad self (string expected, got "
          "table)"},
-        {"a wrong argument of a call that shows no name",
+        {"a wrong argument of a call without a name",
          "local ok, why = pcall(Space.second) return why",
          "bad argument #1 to 'Space.second' (string expected, got no value)"}}),
     SentenceOf());
@@ -111,7 +111,7 @@ TEST_F(ExportFunctions, LeavesTheStackAsItWas) {
   EXPECT_EQ(lua_gettop(state_), 0);
 }
 
-TEST_F(ExportFunctions, ExtendsATableThatIsThere) {
+TEST_F(ExportFunctions, ExtendsAnExistingTable) {
   state_.Run("Space = {mine = 1}");
   LxNamespace_exportFunctions(state_, "Space", kSecond);
   LxNamespace_exportFunctions(state_, "Space", kOther);
@@ -120,7 +120,7 @@ TEST_F(ExportFunctions, ExtendsATableThatIsThere) {
       "1 b other");
 }
 
-TEST_F(ExportFunctions, TwiceRegistersAgain) {
+TEST_F(ExportFunctions, RegistersAgainWhenCalledAgain) {
   LxNamespace_exportFunctions(state_, "Space", kSecond);
   state_.Run("kept, Space.second = Space, nil");
   LxNamespace_exportFunctions(state_, "Space", kSecond);
@@ -139,7 +139,7 @@ TEST_F(ExportFunctions, OfAnEmptyTableMakesAnEmptyNamespace) {
   EXPECT_EQ(state_.Run("return type(Space), next(Space)"), "table nil");
 }
 
-TEST_F(ExportFunctions, IsNotStoppedByAGuardOfGlobals) {
+TEST_F(ExportFunctions, WorksWhereUndeclaredGlobalsAreForbidden) {
   state_.Run(
       "local function guard() error('undeclared') end "
       "setmetatable(_G, {__index = guard, __newindex = guard})");

@@ -14,7 +14,7 @@ constexpr char kConfiguration[] =
     R"(<help id="en_US_Product" path="content" appId="NULL" pubId=""
         baseUrl="http://localhost/"/>)";
 
-/// A host whose resources hold one product's help configuration.
+/// A host whose resources contain one product's help configuration.
 class ScriptOverClient : public ::testing::Test {
  protected:
   ScriptOverClient() {

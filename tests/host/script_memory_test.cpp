@@ -1,5 +1,5 @@
-// Memory that runs out at each place in turn: a script error every time, and
-// the state is as good as before once there is memory again.
+// Out of memory at each allocation in turn: a script error every time, and the
+// state works as before once there is memory again.
 #include <gtest/gtest.h>
 
 #include <cstdlib>
@@ -61,7 +61,7 @@ std::uint32_t Search(const char*, const char*, const char*) { return 0; }
 
 std::uint32_t Status() { return 0; }
 
-/// All that the host does for a script.
+/// Everything that the host does for a script.
 int UseEverything(lua_State* state) {
   PushHelpModule(state, {LoadHelp, LoadHelpWorker, OpenUrl, Search, Status});
   if (luaL_dostring(state, kScript) != LUA_OK) return lua_error(state);
