@@ -1,10 +1,16 @@
 #!/bin/sh
-# baseline.sh check LIBRARY: fails when a program that was built with the
-#   library of the baseline would meet another binary interface: a symbol, a
-#   type in a signature, a layout, a constant's value. Skipped without abidiff.
-# baseline.sh write LIBRARY: makes the library's interface the baseline.
+# usage: tests/abi/baseline.sh check LIBRARY
+#        tests/abi/baseline.sh write LIBRARY
+#
+# check fails when the binary interface of LIBRARY is not that of the baseline,
+# so that programs built with the baseline's library would break: a symbol, a
+# type in a signature, a layout, a constant's value. Skipped without abidiff.
+# write makes the interface of LIBRARY the baseline.
+#
 # The library needs debug information.
 set -eu
+. "$(dirname "$0")/../../scripts/usage.sh"
+check_usage 2 2 "" "$@"
 here=$(cd "$(dirname "$0")" && pwd)
 baseline=$here/baseline.xml
 library=$2
@@ -28,4 +34,5 @@ write() {
 case $1 in
   check) check ;;
   write) write ;;
+  *) fail_usage "unknown command: $1" ;;
 esac

@@ -32,7 +32,7 @@ bool IsScript(const fs::directory_entry& entry) {
 
 /// Paths below the root of the source tree.
 std::vector<std::string> AllScripts() {
-  std::vector<std::string> scripts = {"demo", "test"};
+  std::vector<std::string> scripts = {"demo", "test", "tests/abi/baseline.sh"};
   for (const std::string folder : {"bench", "examples", "scripts"}) {
     for (const auto& entry :
          fs::recursive_directory_iterator(kSource + ("/" + folder))) {
@@ -49,8 +49,9 @@ std::vector<std::string> AllScripts() {
 class Script : public ::testing::TestWithParam<std::string> {
  protected:
   Script() {
+    fs::create_directory(folder_.Path("tests"));
     for (const std::string name :
-         {"bench", "examples", "scripts", "demo", "test"}) {
+         {"bench", "examples", "scripts", "demo", "test", "tests/abi"}) {
       fs::copy(kSource + ("/" + name), folder_.Path(name),
                fs::copy_options::recursive);
     }
