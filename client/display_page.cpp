@@ -1,106 +1,146 @@
-#include <velmohelp/config.h>
-#include <velmohelp/online.h>
-#include <velmohelp/platform.h>
-#include <velmohelp/resolve.h>
-#include <velmohelp/text.h>
-#include <velmohelp/velmohelp.h>
+#include <string>
 
-#include "client/request.h"
-#include "client/state.h"
-#include "exports/guarded.h"
+#include "client/client.h"
+#include "client/configuration.h"
+#include "client/viewer.h"
+#include "resolve/page_id.h"
+#include "resolve/page_target.h"
+#include "util/path_join.h"
+#include "util/percent_encoding.h"
 
 namespace velmohelp {
 namespace {
 
 constexpr char kHomePage[] = "VX_HOME.html";
-constexpr unsigned char kTargetFound = 0;
 
-/// What OpenURL answers, in this operation's numbers. A configuration that has
-/// become unreadable is no result that a display of a URL has a name for.
-std::uint32_t CodeOfOpenUrl(std::uint32_t code) {
-  switch (code) {
-    case kDisplaySuccess:
-    case kDisplayInvalidArgument:
-    case kDisplayInvalidInitialization:
-      return code;
-    case kDisplayHelpAppLaunchFailure:
-    case kDisplayBrowserLaunchFailure:
+DisplayPageReturnCode CodeOf(LaunchResult launch) {
+  switch (launch) {
+    case LaunchResult::kLaunched:
+      return kDisplaySuccess;
+    case LaunchResult::kViewerNotLaunched:
+      return kDisplayHelpAppLaunchFailure;
+    case LaunchResult::kBrowserNotLaunched:
       return kDisplayBrowserLaunchFailure;
-    default:
-      return kDisplayUnexpectedResult;
   }
+  return kDisplayUnexpectedResult;
 }
 
-std::uint32_t ShowInViewer(const std::string& request) {
-  return static_cast<std::uint32_t>(LaunchViewer("HELP", request));
+DisplayPageReturnCode CodeOf(Configuration configuration) {
+  switch (configuration) {
+    case Configuration::kUsable:
+      return kDisplaySuccess;
+    case Configuration::kMissing:
+      return kDisplayMissingConfig;
+    case Configuration::kInvalid:
+      return kDisplayInvalidConfig;
+  }
+  return kDisplayUnexpectedResult;
+}
+
+/// A configuration that has become unusable is a result that the display of a
+/// URL has no name for, and it does not say which launch failed.
+DisplayPageReturnCode CodeOf(OpenUrlReturnCode code) {
+  switch (code) {
+    case kOpenUrlSuccess:
+      return kDisplaySuccess;
+    case kOpenUrlBrowserLaunchFailure:
+    case kOpenUrlHelpAppLaunchFailure:
+      return kDisplayBrowserLaunchFailure;
+    case kOpenUrlInvalidArgument:
+      return kDisplayInvalidArgument;
+    case kOpenUrlInvalidInitialization:
+      return kDisplayInvalidInitialization;
+    case kOpenUrlMissingConfig:
+    case kOpenUrlInvalidConfig:
+    case kOpenUrlUnexpectedResult:
+      break;
+  }
+  return kDisplayUnexpectedResult;
+}
+
+DisplayPageReturnCode ShowInViewer(const Client& client,
+                                   const std::string& request) {
+  return CodeOf(LaunchViewer(client, "HELP", request));
 }
 
 /// The last resort, whatever was chosen: a viewer that is installed gets the
 /// page id and may know what to do with it.
-std::uint32_t ShowInViewerIfInstalled(const char* page_id) {
-  if (!IsViewerInstalled()) return kDisplayPageidDoesNotExist;
-  return ShowInViewer(page_id);
+DisplayPageReturnCode ShowInViewerIfInstalled(const Client& client,
+                                              const char* page_id) {
+  if (!IsViewerInstalled(client)) return kDisplayPageidDoesNotExist;
+  return ShowInViewer(client, page_id);
 }
 
-std::uint32_t ShowTarget(const char* page_id, const std::string& target) {
-  const bool is_url = isUrl(target);
-  if (sViewerChoice == kShowInViewer) {
-    return ShowInViewer(is_url ? Quoted(target) : page_id);
+DisplayPageReturnCode ShowTarget(const Client& client, const char* page_id,
+                                 const std::string& target) {
+  const bool is_url = IsUrl(target);
+  if (client.state.viewer_choice == kShowInViewer) {
+    return ShowInViewer(client, is_url ? Quoted(target) : page_id);
   }
-  if (!is_url) return ShowInViewerIfInstalled(page_id);
-  return static_cast<std::uint32_t>(
-      ITEMInternal::LaunchPlatformBrowser(target));
+  if (!is_url) return ShowInViewerIfInstalled(client, page_id);
+  return CodeOf(LaunchPlatformBrowser(client.machine, target));
 }
 
-std::uint32_t ShowLocalTarget(const char* page_id, const std::string& target) {
-  const std::string encoded = ITEMInternal::VelmoHelpEncodeURIComponent(target);
+DisplayPageReturnCode ShowLocalTarget(const Client& client, const char* page_id,
+                                      const std::string& target) {
+  const std::string encoded = EncodeUriComponent(target);
   if (encoded.empty()) {
-    if (sViewerChoice == kShowInViewer) return ShowInViewer(page_id);
-    return kDisplayBrowserLaunchFailure;
+    return client.state.viewer_choice == kShowInViewer
+               ? ShowInViewer(client, page_id)
+               : kDisplayBrowserLaunchFailure;
   }
-  if (isUrl(encoded)) return ShowTarget(page_id, encoded);
-  return ShowTarget(page_id, ITEMInternal::AppendToPath("file://", encoded));
+  if (IsUrl(encoded)) return ShowTarget(client, page_id, encoded);
+  return ShowTarget(client, page_id, JoinPath("file://", encoded));
+}
+
+bool FindTargetOf(const Client& client, const std::string& id,
+                  std::string& target) {
+  return FindPageTarget(client.machine, ContentView(client.state), id,
+                        client.state.is_online, client.state.help_map, target);
 }
 
 /// The page, or once the home page in its place.
-bool FindTarget(const std::string& id, std::string& target) {
-  if (ValidateID(id, sIsOnline, target) == kTargetFound) return true;
-  return id != kHomePage &&
-         ValidateID(kHomePage, sIsOnline, target) == kTargetFound;
+bool FindTarget(const Client& client, const std::string& id,
+                std::string& target) {
+  if (FindTargetOf(client, id, target)) return true;
+  return id != kHomePage && FindTargetOf(client, kHomePage, target);
 }
 
-/// Takes down afresh what the choice between viewer and browser rests on.
-void ChooseViewer() {
-  const std::string preferences = ITEMInternal::GetKLHPreferenceFilePath();
-  RefreshHelpAppPath();
-  sIsOnline = false;
-  GetNetworkStatus();
-  sViewerChoice = !sAppIDIsNull && IsViewerUsable(preferences) ? kShowInViewer
-                                                               : kShowInBrowser;
+/// Refreshes what the choice between viewer and browser depends on.
+void ChooseViewer(const Client& client) {
+  const std::string preferences = PreferenceFile(client);
+  RefreshHelpAppPath(client);
+  RefreshOnlineStatus(client);
+  client.state.viewer_choice =
+      IsViewerUsable(client, preferences) ? kShowInViewer : kShowInBrowser;
 }
 
-std::uint32_t Display(const char* page_id) {
-  if (sInitStatus != kInitSuccess) return kDisplayInvalidInitialization;
-  if (!HasText(page_id)) return kDisplayInvalidArgument;
-  if (isUrl(page_id)) return CodeOfOpenUrl(OpenURL(page_id));
-  std::string id = page_id;
-  NormalizePageID(id);
-  RereadConfiguration(sLocale);
-  TakeDefaultViewerIfNoneIsNamed();
-  const std::uint32_t code = CodeOfConfiguration();
-  if (code != kDisplaySuccess) return code;
-  ChooseViewer();
+DisplayPageReturnCode ShowPage(const Client& client, const char* page_id,
+                               const std::string& id) {
   std::string target;
-  if (!FindTarget(id, target)) return ShowInViewerIfInstalled(page_id);
-  return sIsOnline ? ShowTarget(page_id, target)
-                   : ShowLocalTarget(page_id, target);
+  if (!FindTarget(client, id, target)) {
+    return ShowInViewerIfInstalled(client, page_id);
+  }
+  return client.state.is_online ? ShowTarget(client, page_id, target)
+                                : ShowLocalTarget(client, page_id, target);
 }
 
 }  // namespace
-}  // namespace velmohelp
 
-uint32_t DisplayVelmoHelpClientPage(const char* pageId) {
-  using namespace velmohelp;
-  return Guarded<std::uint32_t>(kDisplayUnexpectedResult,
-                                [&] { return Display(pageId); });
+DisplayPageReturnCode DisplayPage(const Client& client, const char* page_id) {
+  if (client.state.init_status != kInitSuccess) {
+    return kDisplayInvalidInitialization;
+  }
+  if (!HasText(page_id)) return kDisplayInvalidArgument;
+  if (IsUrl(page_id)) return CodeOf(OpenUrl(client, page_id));
+  std::string id = page_id;
+  NormalizePageId(id);
+  RereadConfiguration(client, client.state.locale);
+  SetDefaultViewerIfNoneIsNamed(client.state);
+  const DisplayPageReturnCode code = CodeOf(ConfigurationOf(client.state));
+  if (code != kDisplaySuccess) return code;
+  ChooseViewer(client);
+  return ShowPage(client, page_id, id);
 }
+
+}  // namespace velmohelp

@@ -1,53 +1,56 @@
-#include <velmohelp/config.h>
-#include <velmohelp/platform.h>
-#include <velmohelp/resolve.h>
-#include <velmohelp/text.h>
-#include <velmohelp/velmohelp.h>
-
-#include "client/request.h"
-#include "client/state.h"
-#include "exports/guarded.h"
+#include "client/client.h"
+#include "client/configuration.h"
+#include "client/viewer.h"
+#include "resolve/page_id.h"
+#include "util/percent_encoding.h"
 
 namespace velmohelp {
 namespace {
 
-/// The codes of the two failed launches are crossed: the viewer's failure
-/// comes back as the browser's and the other way about. Callers compare the
-/// numbers, so this stays.
-std::uint32_t CodeOfLaunch(int launch) {
+/// The numbers of the two failed launches are crossed compared with those of a
+/// page display. Callers compare the numbers, so this stays.
+OpenUrlReturnCode CodeOf(LaunchResult launch) {
   switch (launch) {
-    case 0:
-      return kDisplaySuccess;
-    case 1:
-      return kDisplayBrowserLaunchFailure;
-    case 2:
-      return kDisplayHelpAppLaunchFailure;
-    default:
-      return kDisplayPageidDoesNotExist;
+    case LaunchResult::kLaunched:
+      return kOpenUrlSuccess;
+    case LaunchResult::kViewerNotLaunched:
+      return kOpenUrlHelpAppLaunchFailure;
+    case LaunchResult::kBrowserNotLaunched:
+      return kOpenUrlBrowserLaunchFailure;
   }
+  return kOpenUrlUnexpectedResult;
 }
 
-std::uint32_t Open(const char* url) {
-  if (!HasText(url) || !isUrl(url)) return kDisplayInvalidArgument;
-  if (sInitStatus != kInitSuccess) return kDisplayInvalidInitialization;
-  RereadConfiguration(sLocale);
-  TakeDefaultViewerIfNoneIsNamed();
-  RefreshHelpAppPath();
-  const std::uint32_t code = CodeOfConfiguration();
-  if (code != kDisplaySuccess) return code;
-  const bool in_viewer =
-      !sAppIDIsNull && IsViewerUsable(ITEMInternal::GetKLHPreferenceFilePath());
-  return CodeOfLaunch(
-      in_viewer ? LaunchViewer("URL", Quoted(url))
-                : ITEMInternal::LaunchPlatformBrowser(
-                      ITEMInternal::VelmoHelpEncodeURIComponent(url)));
+OpenUrlReturnCode CodeOf(Configuration configuration) {
+  switch (configuration) {
+    case Configuration::kUsable:
+      return kOpenUrlSuccess;
+    case Configuration::kMissing:
+      return kOpenUrlMissingConfig;
+    case Configuration::kInvalid:
+      return kOpenUrlInvalidConfig;
+  }
+  return kOpenUrlUnexpectedResult;
+}
+
+LaunchResult Launch(const Client& client, const char* url) {
+  if (IsViewerUsable(client)) return LaunchViewer(client, "URL", Quoted(url));
+  return LaunchPlatformBrowser(client.machine, EncodeUriComponent(url));
 }
 
 }  // namespace
-}  // namespace velmohelp
 
-uint32_t OpenURL(const char* url) {
-  using namespace velmohelp;
-  return Guarded<std::uint32_t>(kDisplayPageidDoesNotExist,
-                                [&] { return Open(url); });
+OpenUrlReturnCode OpenUrl(const Client& client, const char* url) {
+  if (!HasText(url) || !IsUrl(url)) return kOpenUrlInvalidArgument;
+  if (client.state.init_status != kInitSuccess) {
+    return kOpenUrlInvalidInitialization;
+  }
+  RereadConfiguration(client, client.state.locale);
+  SetDefaultViewerIfNoneIsNamed(client.state);
+  RefreshHelpAppPath(client);
+  const OpenUrlReturnCode code = CodeOf(ConfigurationOf(client.state));
+  if (code != kOpenUrlSuccess) return code;
+  return CodeOf(Launch(client, url));
 }
+
+}  // namespace velmohelp

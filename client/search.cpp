@@ -1,103 +1,101 @@
-#include <velmohelp/config.h>
-#include <velmohelp/online.h>
-#include <velmohelp/platform.h>
-#include <velmohelp/resolve.h>
-#include <velmohelp/text.h>
-#include <velmohelp/velmohelp.h>
+#include <string>
 
-#include "client/request.h"
-#include "client/state.h"
-#include "exports/guarded.h"
+#include "client/client.h"
+#include "client/configuration.h"
+#include "client/viewer.h"
+#include "resolve/search_page.h"
+#include "util/path_join.h"
+#include "util/percent_encoding.h"
 
 namespace velmohelp {
 namespace {
 
-/// A search answers from the numbers of DisplayPageReturnCode, some of which
-/// mean something else here.
-enum SearchCode : std::uint32_t {
-  kSearchStarted = 0,
-  kSearchNotStarted = 1,
-  kSearchInvalidArgument = 3,
-  kNoLocalSearchPage = 6,
-  kNoOnlineSearchPage = 7,
-  kNoConfigName = 8,
-};
-
 bool IsEmpty(const char* text) { return text == nullptr || *text == '\0'; }
 
-void PrepareConfiguration(const char* locale) {
-  if (sInitStatus == kInitSuccess) {
-    RereadConfiguration(locale);
-    return;
+/// A search does not say which of the two failed.
+SearchReturnCode CodeOf(LaunchResult launch) {
+  switch (launch) {
+    case LaunchResult::kLaunched:
+      return kSearchSuccess;
+    case LaunchResult::kViewerNotLaunched:
+    case LaunchResult::kBrowserNotLaunched:
+      break;
   }
-  sInitStatus = static_cast<std::int32_t>(
-      InitializeVelmoHelpClient(sProductID.c_str(), sLocale.c_str(), 0));
+  return kSearchLaunchFailure;
 }
 
-/// The text as the search page or the viewer gets it. Search's own mark holds
-/// for one term.
-std::string TakeTerm(const char* text) {
-  std::string term = sQueryIsRaw ? text : urlencode(text);
-  sQueryIsRaw = false;
+SearchReturnCode CodeOf(Configuration configuration) {
+  switch (configuration) {
+    case Configuration::kUsable:
+      return kSearchSuccess;
+    case Configuration::kMissing:
+      return kSearchMissingConfig;
+    case Configuration::kInvalid:
+      break;
+  }
+  return kSearchInvalidConfig;
+}
+
+void PrepareConfiguration(const Client& client, const char* product,
+                          const char* locale) {
+  client.state.product_id = product;
+  client.state.locale = locale;
+  if (client.state.init_status == kInitSuccess) {
+    RereadConfiguration(client, locale);
+  } else {
+    client.state.init_status = Initialise(client, product, locale, false);
+  }
+}
+
+/// The text as the search page or the viewer gets it. The mark for unencoded
+/// text is good for one search.
+std::string TermFor(ClientState& state, const char* text) {
+  std::string term = state.query_is_raw ? text : EncodeSearchTerm(text);
+  state.query_is_raw = false;
   return term;
 }
 
-std::uint32_t SearchInBrowser(const std::string& term) {
-  sIsOnline = false;
-  GetNetworkStatus();
-  std::string page;
-  if (!GetSearchPage(page, sLocale, sHelpPaths)) {
-    return sIsOnline ? kNoOnlineSearchPage : kNoLocalSearchPage;
-  }
-  const std::string query = page + "?q=";
-  const std::string address =
-      sIsOnline ? query + term
-                : ITEMInternal::AppendToPath(
-                      "file://",
-                      ITEMInternal::VelmoHelpEncodeURIComponent(query) + term);
-  return ITEMInternal::LaunchPlatformBrowser(address) == 0 ? kSearchStarted
-                                                           : kSearchNotStarted;
+std::string LocalAddress(const std::string& page, const std::string& term) {
+  return JoinPath("file://", EncodeUriComponent(page + "?q=") + term);
 }
 
-std::uint32_t RunSearch(const char* product, const char* locale,
-                        const char* text) {
-  if (IsEmpty(product) || IsEmpty(locale) || !HasText(text)) {
-    return kSearchInvalidArgument;
-  }
-  sProductID = product;
-  sLocale = locale;
-  PrepareConfiguration(locale);
-  const std::uint32_t code = CodeOfConfiguration();
-  if (code != kDisplaySuccess) return code;
-  TakeDefaultViewerIfNoneIsNamed();
-  RefreshHelpAppPath();
-  const std::string term = TakeTerm(text);
-  const bool in_viewer =
-      !sAppIDIsNull && IsViewerUsable(ITEMInternal::GetKLHPreferenceFilePath());
-  return in_viewer ? static_cast<std::uint32_t>(LaunchViewer("SEARCH", term))
-                   : SearchInBrowser(term);
+SearchReturnCode SearchInBrowser(const Client& client,
+                                 const std::string& term) {
+  RefreshOnlineStatus(client);
+  const bool is_online = client.state.is_online;
+  const auto page = FindSearchPage(client.machine, ContentView(client.state));
+  if (!page) return is_online ? kSearchNoOnlinePage : kSearchNoLocalPage;
+  return CodeOf(LaunchPlatformBrowser(
+      client.machine,
+      is_online ? *page + "?q=" + term : LocalAddress(*page, term)));
 }
 
 }  // namespace
+
+SearchReturnCode SearchHelp(const Client& client, const char* product,
+                            const char* locale, const char* text) {
+  if (IsEmpty(product) || IsEmpty(locale) || !HasText(text)) {
+    return kSearchInvalidArgument;
+  }
+  PrepareConfiguration(client, product, locale);
+  const SearchReturnCode code = CodeOf(ConfigurationOf(client.state));
+  if (code != kSearchSuccess) return code;
+  SetDefaultViewerIfNoneIsNamed(client.state);
+  RefreshHelpAppPath(client);
+  const std::string term = TermFor(client.state, text);
+  if (!IsViewerUsable(client)) return SearchInBrowser(client, term);
+  return CodeOf(LaunchViewer(client, "SEARCH", term));
+}
+
+SearchReturnCode SearchByNames(const Client& client, const char* a,
+                               const char* b, const char* locale,
+                               const char* text) {
+  client.state.query_is_raw = true;
+  if (IsEmpty(a) || IsEmpty(b)) return kSearchNoConfigName;
+  const std::string name = PreferredConfigName(client.machine, a, b);
+  // The mark stays set, for the next search; callers rely on it.
+  if (name.empty()) return kSearchNoConfigName;
+  return SearchHelp(client, name.c_str(), locale, text);
+}
+
 }  // namespace velmohelp
-
-uint32_t SearchHelp(const char* productId, const char* locale,
-                    const char* searchText) {
-  using namespace velmohelp;
-  return Guarded<std::uint32_t>(kSearchNotStarted, [&] {
-    return RunSearch(productId, locale, searchText);
-  });
-}
-
-uint32_t Search(const char* a, const char* b, const char* locale,
-                const char* searchText) {
-  using namespace velmohelp;
-  return Guarded<std::uint32_t>(kSearchNotStarted, [&]() -> std::uint32_t {
-    sQueryIsRaw = true;
-    const std::string name =
-        IsEmpty(a) || IsEmpty(b) ? "" : ITEMInternal::GetHelpConfigName(a, b);
-    // The mark stays set and holds for the next search; callers rely on it.
-    if (name.empty()) return kNoConfigName;
-    return SearchHelp(name.c_str(), locale, searchText);
-  });
-}

@@ -1,6 +1,7 @@
 #include "config/help_config.h"
 
 #include "config/key_file.h"
+#include "platform/files.h"
 #include "util/str_cat.h"
 
 namespace velmohelp {
@@ -51,7 +52,7 @@ HelpConfigStatus UpdateHelpConfig(Machine& machine,
   AssignViewerIds(text, state);
   const std::string downloaded = DownloadedConfigPath(
       machine, state.downloaded_suffix, folder, state.product_id);
-  if (!machine.FileExists(downloaded)) return ReadHelpConfig(state, installed);
+  if (!FileExists(machine, downloaded)) return ReadHelpConfig(state, installed);
   const HelpConfigStatus status = ReadHelpConfig(state, downloaded);
   if (status == HelpConfigStatus::kAccepted) return status;
   return ReadHelpConfig(

@@ -1,15 +1,15 @@
 #include <velmohelp/config.h>
 
-#include "client/state_views.h"
 #include "config/help_config.h"
 #include "config/key_file.h"
 #include "config/key_scanner.h"
 #include "config/viewer_preferences.h"
-#include "exports/this_machine.h"
+#include "exports/this_client.h"
 
 using velmohelp::ConfigView;
 using velmohelp::HelpConfigStatus;
 using velmohelp::ThisMachine;
+using velmohelp::ThisState;
 
 namespace {
 
@@ -46,12 +46,12 @@ void XMLParser::PopulatePathArray(std::string (*table)[2], int& count) const {
 std::string StringToUpper(std::string text) { return velmohelp::ToUpper(text); }
 
 std::uint32_t ReadHelpcfg(std::string path) {
-  return ResultOf(velmohelp::ReadHelpConfig(ConfigView(), path));
+  return ResultOf(velmohelp::ReadHelpConfig(ConfigView(ThisState()), path));
 }
 
 std::uint32_t UpdateHelpConfigInfo(std::string locale) {
-  return ResultOf(
-      velmohelp::UpdateHelpConfig(ThisMachine(), ConfigView(), locale));
+  return ResultOf(velmohelp::UpdateHelpConfig(ThisMachine(),
+                                              ConfigView(ThisState()), locale));
 }
 
 int GetKLHFilePreferenceForHelpApp(std::string path) {
@@ -69,8 +69,8 @@ std::string GetHelpConfigPath(std::string product, std::string locale) {
 }
 
 std::string GetDownloadedHelpConfigPath(std::string first, std::string second) {
-  return velmohelp::DownloadedConfigPath(ThisMachine(), kDownloadedHelpcfg,
-                                         first, second);
+  return velmohelp::DownloadedConfigPath(
+      ThisMachine(), ThisState().downloaded_config, first, second);
 }
 
 std::string GetHelpConfigName(std::string a, std::string b) {

@@ -6,9 +6,9 @@
 
 namespace velmohelp {
 
-/// What request returns, or failure when it throws: no exception of the
-/// client's may unwind the host, whose frames may be C. (Only exceptions are
-/// caught: a thread that the host cancels unwinds by other means, and must.)
+/// What request returns, or failure when it throws: an exception must not
+/// unwind the host, whose frames may be C. (Only exceptions are caught: a
+/// thread that the host cancels unwinds by other means, and must go on.)
 template <typename Code, typename Request>
 Code Guarded(Code failure, Request request) {
   try {

@@ -1,33 +1,33 @@
 #include <velmohelp/online.h>
 
-#include "client/state.h"
-#include "exports/this_machine.h"
+#include "exports/this_client.h"
 #include "online/network_status.h"
 
+using velmohelp::ThisClient;
 using velmohelp::ThisMachine;
 
-void GetNetworkStatus() {
-  velmohelp::sIsOnline = velmohelp::NetworkStatus(ThisMachine());
-}
+void GetNetworkStatus() { velmohelp::RefreshOnlineStatus(ThisClient()); }
 
 namespace ITEMInternal {
 
-bool GetOnlineDefault() { return velmohelp::OnlineDefault(ThisMachine()); }
+bool GetOnlineDefault() {
+  return velmohelp::IsOnlineHelpAllowed(ThisMachine());
+}
 
 bool GetAdminOnlinePref() {
-  return velmohelp::OnlinePreference(ThisMachine(), kAdminPreference);
+  return velmohelp::IsOnlineHelpAllowed(ThisMachine(), kAdminPreference);
 }
 
 bool GetUserOnlinePref() {
-  return velmohelp::OnlinePreference(ThisMachine(), kUserPreference);
+  return velmohelp::IsOnlineHelpAllowed(ThisMachine(), kUserPreference);
 }
 
 bool GetOnlineStatus(const std::string& url) {
-  return velmohelp::OnlineStatus(ThisMachine(), url);
+  return velmohelp::IsReachable(ThisMachine(), url);
 }
 
 std::string GetNexletPreference(NexletPreference which) {
-  return velmohelp::NexletPreferenceText(ThisMachine(), which);
+  return velmohelp::OnlinePreferenceText(ThisMachine(), which);
 }
 
 }  // namespace ITEMInternal

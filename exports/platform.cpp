@@ -1,7 +1,7 @@
 #include <velmohelp/platform.h>
 
-#include "client/state_views.h"
-#include "exports/this_machine.h"
+#include "exports/this_client.h"
+#include "platform/files.h"
 #include "platform/folders.h"
 #include "platform/help_tool.h"
 #include "platform/launch.h"
@@ -9,47 +9,78 @@
 
 using Encoding = velmohelp::TextEncoding;
 using velmohelp::ThisMachine;
+using velmohelp::ThisState;
 
 namespace ITEMInternal {
+namespace {
 
-bool FileExists(std::string path) { return ThisMachine().FileExists(path); }
+int CodeOf(velmohelp::LaunchResult result) {
+  switch (result) {
+    case velmohelp::LaunchResult::kLaunched:
+      return 0;
+    case velmohelp::LaunchResult::kViewerNotLaunched:
+      return 1;
+    case velmohelp::LaunchResult::kBrowserNotLaunched:
+      break;
+  }
+  return 2;
+}
+
+}  // namespace
+
+bool FileExists(std::string path) {
+  return velmohelp::FileExists(ThisMachine(), path);
+}
 
 bool IsZAMRuntimePresent() {
   return velmohelp::IsZamRuntimePresent(ThisMachine());
 }
 
 std::string GetHelpApplicationPath() {
-  return velmohelp::GetHelpApplicationPath(ThisMachine(),
-                                           velmohelp::ViewerView());
+  return velmohelp::HelpApplicationPath(ThisMachine(), ViewerView(ThisState()));
 }
 
 int LaunchApplication(const std::string& path, const std::string& mode,
                       const std::string& product, const std::string& locale,
                       const std::string& request) {
-  return velmohelp::LaunchApplication(ThisMachine(), path,
-                                      {mode, product, locale, request});
+  return CodeOf(velmohelp::LaunchApplication(ThisMachine(), path,
+                                             {mode, product, locale, request}));
 }
 
 int LaunchPlatformBrowser(const std::string& url) {
-  return velmohelp::LaunchPlatformBrowser(ThisMachine(), url);
+  return CodeOf(velmohelp::LaunchPlatformBrowser(ThisMachine(), url));
 }
 
 bool StdStringFindFolder(std::int16_t domain, std::uint32_t type,
                          std::uint8_t create, std::string& out) {
-  return velmohelp::StdStringFindFolder(ThisMachine(), domain, type,
-                                        create != 0, out);
+  return velmohelp::FindStandardFolder(ThisMachine(), domain, type, create != 0,
+                                       out);
 }
 
 std::string GetKLHPreferenceFilePath() {
-  return velmohelp::BelowPreferences(ThisMachine(), kKLHPreferenceFile);
+  return velmohelp::BelowPreferences(ThisMachine(),
+                                     ThisState().preference_file);
 }
 
 std::string GetDownloadedContentPath() {
-  return velmohelp::BelowPreferences(ThisMachine(), kDownloadedOfflineContent);
+  return velmohelp::BelowPreferences(ThisMachine(),
+                                     ThisState().downloaded_content);
+}
+
+std::string GetInstalledContentPath() {
+  return velmohelp::InstalledContentPath();
+}
+
+std::string GetHelpContentDirectory(std::string first, std::string second) {
+  return velmohelp::HelpContentDirectory(first, second);
 }
 
 std::int16_t GetFSRefFromPath(std::string path, FileReference& out) {
-  return velmohelp::GetFsRefFromPath(ThisMachine(), path, out);
+  velmohelp::FileReference reference;
+  const auto code =
+      velmohelp::FindFileReference(ThisMachine(), path, reference);
+  if (code == 0) out = {reference.device, reference.inode};
+  return code;
 }
 
 static_assert(Encoding{kTextEncodingMacRoman} == Encoding::kMacRoman);

@@ -1,7 +1,6 @@
 #include <velmohelp/resolve.h>
 
-#include "client/state_views.h"
-#include "exports/this_machine.h"
+#include "exports/this_client.h"
 #include "resolve/help_map/help_map.h"
 #include "resolve/page_id.h"
 #include "resolve/page_target.h"
@@ -11,6 +10,7 @@
 
 using velmohelp::ContentView;
 using velmohelp::ThisMachine;
+using velmohelp::ThisState;
 
 namespace {
 
@@ -26,15 +26,16 @@ bool isHTMLPage(std::string name) { return velmohelp::IsHtmlPage(name); }
 void NormalizePageID(std::string& id) { velmohelp::NormalizePageId(id); }
 
 unsigned char ValidateID(std::string pageId, bool online, std::string& out) {
-  return velmohelp::FindPageTarget(ThisMachine(), ContentView(), pageId, online,
-                                   sHelpMap, out)
+  return velmohelp::FindPageTarget(ThisMachine(), ContentView(ThisState()),
+                                   pageId, online, ThisState().help_map, out)
              ? kTargetFound
              : kTargetNotFound;
 }
 
 bool GetSearchPage(std::string& page, std::string /*locale*/,
                    std::string /*paths*/[][2]) {
-  const auto found = velmohelp::FindSearchPage(ThisMachine(), ContentView());
+  const auto found =
+      velmohelp::FindSearchPage(ThisMachine(), ContentView(ThisState()));
   page = found.value_or("");
   return found.has_value();
 }

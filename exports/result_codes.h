@@ -1,6 +1,6 @@
 // The two tables of named result codes, as scripts see them. Their values are
 // the enumerations of <velmohelp/velmohelp.h>; the two numberings differ on
-// purpose, and names that no operation answers stay all the same.
+// purpose, and names that no operation returns stay all the same.
 #ifndef EXPORTS_RESULT_CODES_H_
 #define EXPORTS_RESULT_CODES_H_
 
@@ -11,7 +11,7 @@
 
 namespace velmohelp {
 
-/// A table with its list directly behind the header, where hosts look for it.
+/// A table whose list follows the header directly, where hosts look for it.
 template <std::size_t kRows>
 struct ResultCodeTable {
   LxNamedIntegerTable header;

@@ -1,14 +1,14 @@
 // The order of these definitions is the order of construction at load, and in
 // reverse that of destruction at unload; a second file, state_paths.cpp, comes
 // after this one. Both are documented, so neither order may change.
-#include "client/state.h"
+#include "exports/state.h"
 
 namespace velmohelp {
 
 std::string sConfigID;
 std::string sLocale;
 std::string sHelpAppPath;
-/// No operation uses this one. It keeps its place in the documented order.
+/// No operation uses this one. It keeps the documented order.
 std::string sUnused;
 std::string sBaseUrl;
 std::string sProductID;

@@ -2,7 +2,7 @@
 // streams (by including their header), then the viewer's folders.
 #include <iostream>
 
-#include "client/state.h"
+#include "exports/state.h"
 
 std::string kKLHPreferenceFile;
 std::string kDownloadedOfflineContent;

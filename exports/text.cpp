@@ -1,9 +1,5 @@
 #include <velmohelp/text.h>
-#include <velmohelp/velmohelp.h>
 
-#include <cstring>
-
-#include "exports/guarded.h"
 #include "util/path_join.h"
 #include "util/percent_encoding.h"
 #include "util/quotes.h"
@@ -29,16 +25,4 @@ std::string ITEMInternal::VelmoHelpEncodeURIComponent(const std::string& text) {
 std::string ITEMInternal::AppendToPath(const std::string& base,
                                        const std::string& leaf) {
   return velmohelp::JoinPath(base, leaf);
-}
-
-long VelmoHelpEncodeURIComponent(const char* in, char* out, long outSize) {
-  constexpr long kNotWritten = -1;
-  if (in == nullptr || out == nullptr) return kNotWritten;
-  return velmohelp::Guarded<long>(kNotWritten, [&] {
-    const std::string text = velmohelp::EncodeUriComponent(in);
-    const auto length = static_cast<long>(text.size());
-    if (length >= outSize) return kNotWritten;
-    std::memcpy(out, text.c_str(), text.size() + 1);
-    return length;
-  });
 }

@@ -1,16 +1,7 @@
-#include "exports/this_machine.h"
+#include "exports/this_client.h"
 
 namespace velmohelp {
-namespace {
 
-Machine* machine_in_use = nullptr;
-
-}  // namespace
-
-Machine& ThisMachine() {
-  return machine_in_use != nullptr ? *machine_in_use : NativeMachine();
-}
-
-void UseMachine(Machine* machine) { machine_in_use = machine; }
+Machine& ThisMachine() { return NativeMachine(); }
 
 }  // namespace velmohelp

@@ -1,12 +1,12 @@
 #include "online/network_status.h"
 
-#include <velmohelp_locations.h>
+#include "platform/locations.h"
 
 namespace velmohelp {
 
 bool NetworkStatus(Machine& machine) {
-  if (!OnlineDefault(machine)) return false;
-  return OnlineStatus(machine, std::string("http://") + kOnlineHelpHost);
+  return IsOnlineHelpAllowed(machine) &&
+         IsReachable(machine, std::string("http://") + kOnlineHelpHost);
 }
 
 }  // namespace velmohelp

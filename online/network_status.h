@@ -10,19 +10,23 @@
 
 namespace velmohelp {
 
-/// See ::GetNetworkStatus; true when online help may be used.
+/// True when online help is allowed and its server reachable. The network is
+/// not asked when it is not allowed.
 bool NetworkStatus(Machine& machine);
 
-/// See ITEMInternal::GetOnlineDefault, GetAdminOnlinePref, GetUserOnlinePref.
-bool OnlineDefault(Machine& machine);
-bool OnlinePreference(Machine& machine, ITEMInternal::NexletPreference which);
+/// See ITEMInternal::GetOnlineDefault.
+bool IsOnlineHelpAllowed(Machine& machine);
+
+/// See ITEMInternal::GetAdminOnlinePref and GetUserOnlinePref.
+bool IsOnlineHelpAllowed(Machine& machine,
+                         ITEMInternal::NexletPreference which);
 
 /// See ITEMInternal::GetNexletPreference.
-std::string NexletPreferenceText(Machine& machine,
+std::string OnlinePreferenceText(Machine& machine,
                                  ITEMInternal::NexletPreference which);
 
 /// See ITEMInternal::GetOnlineStatus.
-bool OnlineStatus(Machine& machine, const std::string& url);
+bool IsReachable(Machine& machine, const std::string& url);
 
 }  // namespace velmohelp
 

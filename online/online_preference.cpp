@@ -13,7 +13,7 @@ constexpr char kDomain[] = "com.velmo.VelmoOnlineHelp";
 constexpr char kKey[] = "VelmoOnlineDefault";
 
 /// The administrator decides for this host, the user for every host: the two
-/// scopes are crossed, and stores in the field are laid out that way.
+/// scopes are crossed, and existing stores are laid out that way.
 std::optional<PreferenceScope> ScopeOf(NexletPreference which) {
   switch (which) {
     case ITEMInternal::kAdminPreference:
@@ -26,7 +26,7 @@ std::optional<PreferenceScope> ScopeOf(NexletPreference which) {
 
 }  // namespace
 
-std::string NexletPreferenceText(Machine& machine, NexletPreference which) {
+std::string OnlinePreferenceText(Machine& machine, NexletPreference which) {
   const auto scope = ScopeOf(which);
   if (!scope) return "";
   try {
@@ -37,13 +37,13 @@ std::string NexletPreferenceText(Machine& machine, NexletPreference which) {
   }
 }
 
-bool OnlinePreference(Machine& machine, NexletPreference which) {
-  return NexletPreferenceText(machine, which) != "0";
+bool IsOnlineHelpAllowed(Machine& machine, NexletPreference which) {
+  return OnlinePreferenceText(machine, which) != "0";
 }
 
-bool OnlineDefault(Machine& machine) {
-  return OnlinePreference(machine, ITEMInternal::kAdminPreference) &&
-         OnlinePreference(machine, ITEMInternal::kUserPreference);
+bool IsOnlineHelpAllowed(Machine& machine) {
+  return IsOnlineHelpAllowed(machine, ITEMInternal::kAdminPreference) &&
+         IsOnlineHelpAllowed(machine, ITEMInternal::kUserPreference);
 }
 
 }  // namespace velmohelp

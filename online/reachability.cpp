@@ -7,17 +7,16 @@
 namespace velmohelp {
 namespace {
 
-/// Host names pass through a buffer of this size, with a terminating NUL.
+/// The buffer that host names pass through, with a terminating NUL.
 constexpr std::size_t kHostBufferSize = 255;
 
-/// A C string of UTF-8 that fits into the buffer.
+/// host is valid UTF-8, has no zero byte and fits the buffer.
 bool IsName(const std::string& host) {
   return host.size() < kHostBufferSize && IsUtf8(host) &&
          host.find('\0') == std::string::npos;
 }
 
-/// A host that is no name is left out: the probe is made all the same, and
-/// fails.
+/// The host to ask about. The probe is made, and fails, even without one.
 std::optional<std::string> ProbedHost(const std::string& url) {
   auto host = HostOfUri(url);
   if (host && !IsName(*host)) host.reset();
@@ -26,7 +25,7 @@ std::optional<std::string> ProbedHost(const std::string& url) {
 
 }  // namespace
 
-bool OnlineStatus(Machine& machine, const std::string& url) {
+bool IsReachable(Machine& machine, const std::string& url) {
   const auto uri = UriOf(url);
   if (!uri) return false;
   const auto answer = machine.HostReachability(ProbedHost(*uri));

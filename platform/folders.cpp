@@ -1,8 +1,8 @@
 #include "platform/folders.h"
 
-#include <velmohelp/platform.h>
-#include <velmohelp_locations.h>
+#include <optional>
 
+#include "platform/locations.h"
 #include "util/path_join.h"
 #include "util/percent_encoding.h"
 #include "util/text_encoding.h"
@@ -10,6 +10,11 @@
 
 namespace velmohelp {
 namespace {
+
+/// The current user's folders, and among them the Preferences folder: the only
+/// standard folder that there is.
+constexpr std::int16_t kUserDomain = -32763;
+constexpr std::uint32_t kPreferencesFolderType = 0x70726566;  // 'pref'
 
 constexpr std::int16_t kFileNotFound = -43;
 constexpr std::int16_t kNotAFile = -1302;
@@ -20,11 +25,10 @@ std::optional<std::string> WithoutEscapes(std::string_view text) {
   return DecodeText(Unescaped(text), TextEncoding::kUtf8);
 }
 
-/// The path of a URL in the file system. Escapes are taken off twice, first
-/// from the URL and then from the path: a path that was escaped before its
-/// caller escaped it again is found too. nullopt when the URL's path is no
-/// text; "", where no file is, when only the second time gives none or the path
-/// is longer than GetString takes.
+/// The path of a URL in the file system. It is unescaped twice, as a URL and
+/// then as a path: a path that its caller had escaped already is found too.
+/// nullopt when the URL's path is not valid UTF-8; "", where no file exists,
+/// when it is not after the second time or is longer than the text buffer.
 std::optional<std::string> FileSystemPathOf(const std::string& url) {
   const auto path = WithoutEscapes(PathOfUri(url));
   if (!path) return std::nullopt;
@@ -39,22 +43,28 @@ std::string WithoutFinalSlash(std::string path) {
 
 }  // namespace
 
-bool StdStringFindFolder(Machine& machine, std::int16_t domain,
-                         std::uint32_t type, bool create, std::string& out) {
-  const auto folder = machine.StandardFolder(domain, type, create);
+bool FindStandardFolder(Machine& machine, std::int16_t domain,
+                        std::uint32_t type, bool create, std::string& out) {
+  if (domain != kUserDomain || type != kPreferencesFolderType) return false;
+  const auto folder = machine.PreferencesFolder(create);
   if (folder) out = *folder;
   return folder.has_value();
 }
 
 std::string BelowPreferences(Machine& machine, const std::string& suffix) {
-  std::string folder;
-  StdStringFindFolder(machine, kUserDomain, kPreferencesFolderType, true,
-                      folder);
-  return folder + suffix;
+  return machine.PreferencesFolder(true).value_or("") + suffix;
 }
 
-std::int16_t GetFsRefFromPath(Machine& machine, const std::string& path,
-                              ITEMInternal::FileReference& out) {
+std::string InstalledContentPath() { return kInstalledHelpDir; }
+
+std::string HelpContentDirectory(const std::string& first,
+                                 const std::string& second) {
+  const std::string base = WithoutFinalSlash(kInstalledHelpDir);
+  return JoinPath(JoinPath(base, second), first);
+}
+
+std::int16_t FindFileReference(Machine& machine, const std::string& path,
+                               FileReference& out) {
   const auto text = DecodeText(path, TextEncoding::kUtf8);
   if (!text) return kNoSuchReference;
   const std::string escaped = EscapeForUri(*text);
@@ -69,14 +79,3 @@ std::int16_t GetFsRefFromPath(Machine& machine, const std::string& path,
 }
 
 }  // namespace velmohelp
-
-std::string ITEMInternal::GetInstalledContentPath() {
-  return velmohelp::kInstalledHelpDir;
-}
-
-std::string ITEMInternal::GetHelpContentDirectory(std::string first,
-                                                  std::string second) {
-  const std::string base =
-      velmohelp::WithoutFinalSlash(velmohelp::kInstalledHelpDir);
-  return velmohelp::JoinPath(velmohelp::JoinPath(base, second), first);
-}

@@ -1,4 +1,4 @@
-// Where content and preferences lie.
+// Where content and preferences are.
 #ifndef PLATFORM_FOLDERS_H_
 #define PLATFORM_FOLDERS_H_
 
@@ -9,22 +9,25 @@
 
 namespace velmohelp {
 
-/// The current user's folders, and among them the Preferences folder.
-inline constexpr std::int16_t kUserDomain = -32763;
-inline constexpr std::uint32_t kPreferencesFolderType = 0x70726566;  // 'pref'
-
 /// See ITEMInternal::StdStringFindFolder.
-bool StdStringFindFolder(Machine& machine, std::int16_t domain,
-                         std::uint32_t type, bool create, std::string& out);
+bool FindStandardFolder(Machine& machine, std::int16_t domain,
+                        std::uint32_t type, bool create, std::string& out);
 
-/// The user's Preferences folder, made when missing, and suffix, which begins
-/// with "/". The suffix alone when there is no such folder: a path at which
-/// normally nothing lies.
+/// The user's Preferences folder, made when it is missing, followed by suffix,
+/// which begins with "/". The suffix alone when there is no such folder: a path
+/// where normally nothing exists.
 std::string BelowPreferences(Machine& machine, const std::string& suffix);
 
+/// See ITEMInternal::GetInstalledContentPath.
+std::string InstalledContentPath();
+
+/// See ITEMInternal::GetHelpContentDirectory.
+std::string HelpContentDirectory(const std::string& first,
+                                 const std::string& second);
+
 /// See ITEMInternal::GetFSRefFromPath.
-std::int16_t GetFsRefFromPath(Machine& machine, const std::string& path,
-                              ITEMInternal::FileReference& out);
+std::int16_t FindFileReference(Machine& machine, const std::string& path,
+                               FileReference& out);
 
 }  // namespace velmohelp
 

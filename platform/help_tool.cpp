@@ -1,7 +1,9 @@
 #include "platform/help_tool.h"
 
+#include <optional>
 #include <utility>
 
+#include "platform/files.h"
 #include "util/text_buffer.h"
 #include "util/text_encoding.h"
 
@@ -9,15 +11,15 @@ namespace velmohelp {
 namespace {
 
 constexpr char kFrameworkIdentifier[] = "com.velmo.vxclientframework";
-// Behind the bundle's path comes "/", and then this: the slash is doubled.
+// The bundle's path is followed by "/" and then by this: the slash is doubled.
 constexpr char kToolInFramework[] = "/Versions/A/Resources/QTV";
 
-/// nullopt when the tool is not there.
+/// nullopt when the tool does not exist.
 std::optional<std::string> ToolPath(Machine& machine) {
   const auto bundle = machine.BundleDirectory(kFrameworkIdentifier);
   if (!bundle) return std::nullopt;
   const std::string path = *bundle + "/" + kToolInFramework;
-  if (!FitsTextBuffer(path) || !machine.FileExists(path)) return std::nullopt;
+  if (!FitsTextBuffer(path) || !FileExists(machine, path)) return std::nullopt;
   return path;
 }
 
@@ -44,8 +46,8 @@ bool IsZamRuntimePresent(Machine& machine) {
   return tool && machine.RunToEnd(*tool, {"-isRuntimeInstalled"}) == 0;
 }
 
-std::string GetHelpApplicationPath(Machine& machine,
-                                   const ViewerIdentity& viewer) {
+std::string HelpApplicationPath(Machine& machine,
+                                const ViewerIdentity& viewer) {
   const auto tool = ToolPath(machine);
   if (!tool) return "";
   const Arguments is_installed = {"-isAppInstalled", viewer.app_id,

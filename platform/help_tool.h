@@ -17,11 +17,11 @@ struct ViewerIdentity {
 /// See ITEMInternal::IsZAMRuntimePresent. Runs the tool once.
 bool IsZamRuntimePresent(Machine& machine);
 
-/// See ITEMInternal::GetHelpApplicationPath. Runs the tool twice, once when
-/// the viewer is not installed. "" also when the tool prints nothing, no
-/// ASCII, a path of 1024 bytes or more, or one without an application.
-std::string GetHelpApplicationPath(Machine& machine,
-                                   const ViewerIdentity& viewer);
+/// See ITEMInternal::GetHelpApplicationPath. Runs the tool twice, or once when
+/// the viewer is not installed. "" also when the tool prints nothing, bytes
+/// that are not ASCII, a path of 1024 bytes or more, or the path of something
+/// that is not an application.
+std::string HelpApplicationPath(Machine& machine, const ViewerIdentity& viewer);
 
 }  // namespace velmohelp
 

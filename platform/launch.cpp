@@ -1,18 +1,22 @@
 #include "platform/launch.h"
 
+#include "platform/files.h"
 #include "util/uri.h"
 
 namespace velmohelp {
 
-int LaunchApplication(Machine& machine, const std::string& path,
-                      const Arguments& arguments) {
-  if (!machine.FileExists(path)) return kViewerNotLaunched;
-  return machine.StartProgram(path, arguments) ? kLaunched : kViewerNotLaunched;
+LaunchResult LaunchApplication(Machine& machine, const std::string& path,
+                               const Arguments& arguments) {
+  const bool is_running =
+      FileExists(machine, path) && machine.StartProgram(path, arguments);
+  return is_running ? LaunchResult::kLaunched
+                    : LaunchResult::kViewerNotLaunched;
 }
 
-int LaunchPlatformBrowser(Machine& machine, const std::string& url) {
+LaunchResult LaunchPlatformBrowser(Machine& machine, const std::string& url) {
   const auto uri = UriOf(url);
-  return uri && machine.OpenInBrowser(*uri) ? kLaunched : kBrowserNotLaunched;
+  const bool is_open = uri && machine.OpenInBrowser(*uri);
+  return is_open ? LaunchResult::kLaunched : LaunchResult::kBrowserNotLaunched;
 }
 
 }  // namespace velmohelp

@@ -8,17 +8,15 @@
 
 namespace velmohelp {
 
-/// Answers of the launches. Their failures differ, and callers rely on it.
-inline constexpr int kLaunched = 0;
-inline constexpr int kViewerNotLaunched = 1;
-inline constexpr int kBrowserNotLaunched = 2;
+/// What came of a launch. Each request has its own number for each of these.
+enum class LaunchResult { kLaunched, kViewerNotLaunched, kBrowserNotLaunched };
 
 /// See ITEMInternal::LaunchApplication.
-int LaunchApplication(Machine& machine, const std::string& path,
-                      const Arguments& arguments);
+LaunchResult LaunchApplication(Machine& machine, const std::string& path,
+                               const Arguments& arguments);
 
 /// See ITEMInternal::LaunchPlatformBrowser.
-int LaunchPlatformBrowser(Machine& machine, const std::string& url);
+LaunchResult LaunchPlatformBrowser(Machine& machine, const std::string& url);
 
 }  // namespace velmohelp
 

@@ -1,8 +1,6 @@
-// The seam: everything that the client asks of the machine it runs on.
+// The seam: everything that the client asks of the machine that it runs on.
 #ifndef PLATFORM_MACHINE_H_
 #define PLATFORM_MACHINE_H_
-
-#include <velmohelp/platform.h>
 
 #include <cstdint>
 #include <optional>
@@ -13,44 +11,46 @@ namespace velmohelp {
 
 using Arguments = std::vector<std::string>;
 
-/// What the network says of a host.
+/// What the network knows of a host.
 struct Reachability {
   bool reachable = false;
   /// A connection (dial-up, VPN on demand) would have to be made first.
   bool connection_required = false;
 };
 
-/// A preference store: who set the value, and where it holds.
+/// A preference store: whose value it is, and on which machines it holds.
 enum class PreferenceScope { kAnyUserCurrentHost, kCurrentUserAnyHost };
+
+/// Names one existing file, whatever path leads to it.
+struct FileReference {
+  std::uint64_t device = 0;
+  std::uint64_t inode = 0;
+};
 
 /// Something that exists in the file system.
 struct FileEntry {
-  ITEMInternal::FileReference reference;
+  FileReference reference;
   bool is_directory = false;
 };
 
 /// The primitives below every rule of the client: no order, no short cut, no
 /// trimming and no result code of the client's is decided here.
 ///
-/// Implementations: linux/ (production), scripted/ (tests), unsupported/ (no
-/// to everything: the template for another system). Texts and paths are UTF-8
-/// byte strings. nullopt and false mean "this machine cannot", whatever the
-/// reason; only std::bad_alloc is thrown. Calls come one at a time.
+/// Implementations: linux/ (production), scripted/ (tests), unsupported/ (does
+/// nothing: the template for another system). Texts and paths are UTF-8 byte
+/// strings. nullopt and false mean "this machine cannot", whatever the reason;
+/// only std::bad_alloc is thrown. Calls come one at a time.
 class Machine {
  public:
   virtual ~Machine() = default;
 
-  /// Something exists at path, of any type; a link counts as what it names.
-  virtual bool FileExists(const std::string& path) = 0;
-
-  /// What exists at path, as FileExists sees it.
+  /// What exists at path: a file of any type or a directory. A link counts as
+  /// the file that it points to.
   virtual std::optional<FileEntry> FindFile(const std::string& path) = 0;
 
-  /// The path of a standard folder, without a final "/"; domain and type as
-  /// for ITEMInternal::StdStringFindFolder. create: make it when missing.
-  virtual std::optional<std::string> StandardFolder(std::int16_t domain,
-                                                    std::uint32_t type,
-                                                    bool create) = 0;
+  /// The user's Preferences folder, without a final "/". create: makes it when
+  /// it is missing.
+  virtual std::optional<std::string> PreferencesFolder(bool create) = 0;
 
   /// The directory of the host program's own resources.
   virtual std::optional<std::string> ResourcesDirectory() = 0;
@@ -63,8 +63,8 @@ class Machine {
   virtual std::optional<std::string> ApplicationExecutable(
       const std::string& directory) = 0;
 
-  /// Runs a program to its end; its exit status, nullopt when it did not start
-  /// or a signal ended it. No deadline.
+  /// Runs a program to its end. Returns its exit status; nullopt when it did
+  /// not start or was ended by a signal. No deadline.
   virtual std::optional<int> RunToEnd(const std::string& program,
                                       const Arguments& arguments) = 0;
 
@@ -73,27 +73,27 @@ class Machine {
   virtual std::optional<std::string> FirstOutput(
       const std::string& program, const Arguments& arguments) = 0;
 
-  /// Starts a program in a session of its own and leaves it running. True when
-  /// it was running right after the start.
+  /// Starts a program in its own session and leaves it running. True when it
+  /// was running right after the start.
   virtual bool StartProgram(const std::string& program,
                             const Arguments& arguments) = 0;
 
-  /// Opens a URL with the user's default browser, exactly as it stands.
+  /// Opens a URL, unchanged, with the user's default browser.
   virtual bool OpenInBrowser(const std::string& url) = 0;
 
-  /// Whether packets to a host have a way; nullopt when that cannot be told,
-  /// always so for a null host. Bounded in time.
+  /// Whether there is a route to a host; nullopt when that is unknown, and
+  /// always without a host. Bounded in time.
   virtual std::optional<Reachability> HostReachability(
       const std::optional<std::string>& host) = 0;
 
-  /// A preference's value, read afresh; nullopt when it is not set or is no
-  /// valid text. domain may be any text.
+  /// A preference's value, read from the store at each call; nullopt when it
+  /// is not set or not valid UTF-8. domain may be any text.
   virtual std::optional<std::string> Preference(const std::string& domain,
                                                 const std::string& key,
                                                 PreferenceScope scope) = 0;
 
-  /// Loads the whole resource at url; true when that ends well and it is text.
-  /// Bounded in time.
+  /// Loads the whole resource at url. True when that succeeds and the resource
+  /// is text. Bounded in time.
   virtual bool FetchText(const std::string& url) = 0;
 };
 

@@ -1,4 +1,4 @@
-// Preferences as the client takes them.
+// Preferences as the client reads them.
 #ifndef PLATFORM_PREFERENCE_H_
 #define PLATFORM_PREFERENCE_H_
 
@@ -8,9 +8,9 @@
 
 namespace velmohelp {
 
-/// The text of a preference, UTF-8; "" when nothing is set or the value has
-/// no text by the rule of ITEMInternal::GetCharFromCFStringRef. domain and key
-/// are taken as Mac Roman bytes, up to the first zero byte.
+/// The text of a preference, UTF-8; "" when nothing is set, or when
+/// ITEMInternal::GetCharFromCFStringRef gives null for the value. domain and
+/// key are read as Mac Roman, up to the first zero byte.
 std::string PreferenceText(Machine& machine, const std::string& domain,
                            const std::string& key, PreferenceScope scope);
 

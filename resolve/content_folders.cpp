@@ -1,7 +1,5 @@
 #include "resolve/content_folders.h"
 
-#include <velmohelp_locations.h>
-
 #include <algorithm>
 #include <span>
 
@@ -26,7 +24,7 @@ bool AnyLocalFolder(
         content, [&](const std::string& name) { return accept(root, name); });
   };
   return any_below(BelowPreferences(machine, content.downloaded_suffix)) ||
-         any_below(std::string(kInstalledHelpDir) + "/");
+         any_below(InstalledContentPath() + "/");
 }
 
 }  // namespace velmohelp

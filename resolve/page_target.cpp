@@ -1,5 +1,6 @@
 #include "resolve/page_target.h"
 
+#include "platform/files.h"
 #include "resolve/help_map/help_map.h"
 #include "resolve/page_id.h"
 #include "resolve/url_check.h"
@@ -89,7 +90,7 @@ bool AcceptUnmapped(const Search& search, const Folder& folder) {
 
 bool AcceptFolder(const Search& search, const Folder& folder) {
   const std::string map_path = StrCat({folder.path, "//", kHelpMapName});
-  return search.machine.FileExists(map_path)
+  return FileExists(search.machine, map_path)
              ? AcceptFromMap(search, folder, map_path)
              : AcceptUnmapped(search, folder);
 }

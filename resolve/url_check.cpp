@@ -1,11 +1,12 @@
 #include "resolve/url_check.h"
 
+#include "platform/files.h"
 #include "util/uri.h"
 
 namespace velmohelp {
 
 bool ValidateUrl(Machine& machine, const std::string& target, bool fetch) {
-  if (!fetch) return machine.FileExists(target);
+  if (!fetch) return FileExists(machine, target);
   const auto uri = UriOf(target);
   return uri && machine.FetchText(*uri);
 }

@@ -9,31 +9,31 @@
 #include <cstdint>
 #include <string>
 
-/// What a read of a help configuration answers.
+/// What a read of a help configuration returns.
 enum HelpConfigResult : std::uint32_t {
   kConfigAccepted = 0,
   kConfigUnreadable = 6,
   kConfigInvalid = 7,
 };
 
-/// Answers for a key the quoted value that follows it in a text file, by plain
-/// text search: no elements, no entities, no comments, no word boundaries.
+/// Finds the quoted value that follows a key in a text file, by plain text
+/// search: no elements, no entities, no comments, no word boundaries.
 class VELMOHELP_API XMLParser {
  public:
   XMLParser();
 
-  /// Replaces the buffer with the file's text. The file is taken in pieces of
+  /// Replaces the buffer with the file's text. The file is read in pieces of
   /// 1023 bytes, and a zero byte drops the rest of its piece. False, with an
   /// empty buffer, when the path is empty, the file cannot be read, or it is
   /// longer than 16 MiB.
   bool ReadFileToBuffer(std::string path);
 
   /// The text between the first two double quotes after the first "=" after
-  /// the first occurrence of key; "" where one of these is missing. The values
-  /// of "accessibleMode" and "localHelp" come upper-cased.
+  /// the first occurrence of key; "" when one of these is missing. The values
+  /// of "accessibleMode" and "localHelp" are returned in upper case.
   ///
-  /// Never returns when the closing quote has a backslash before it: the
-  /// format has no escapes, and the scan looks at the same quote for ever.
+  /// Never returns when a backslash precedes the closing quote: the format has
+  /// no escapes, and the scan looks at the same quote forever.
   std::string GetKey(std::string key) const;
 
   /// A copy with each byte passed through the C library's toupper.
@@ -41,10 +41,10 @@ class VELMOHELP_API XMLParser {
 
   /// Fills the rows (content folder, upper-cased "contextSensitivity" value).
   /// count: rows available on entry, flags found on return; unchanged, like
-  /// the table, when the text holds no "path". The first "path" is skipped.
-  /// A value begins two bytes behind its key, whatever they are; an empty one
-  /// runs on to the next quote, and a quote behind a backslash is part of it. A
-  /// value without a closing quote ends its pass. What is not filled stays.
+  /// the table, when the text has no "path". The first "path" is skipped. A
+  /// value begins two bytes after its key, whatever they are; an empty one
+  /// extends to the next quote, and a quote after a backslash is part of it. A
+  /// value without a closing quote ends its pass. Other rows stay unchanged.
   void PopulatePathArray(std::string (*table)[2], int& count) const;
 
  private:
@@ -59,15 +59,15 @@ VELMOHELP_API std::string StringToUpper(std::string text);
 VELMOHELP_API std::uint32_t ReadHelpcfg(std::string path);
 
 /// Finds and reads the configuration of the client's product in a locale: the
-/// downloaded file where there is a valid one, else the installed one.
+/// downloaded file when there is a valid one, else the installed one.
 VELMOHELP_API std::uint32_t UpdateHelpConfigInfo(std::string locale);
 
-/// Whether the viewer's preference file allows the viewer: 2 (it does not) when
-/// "accessibleMode" is "TRUE" in any letter case, else (no file too) 1.
+/// Whether the viewer's preference file allows the viewer: 2 (no) when its
+/// "accessibleMode" is "TRUE" in any letter case, else 1, also without a file.
 VELMOHELP_API int GetKLHFilePreferenceForHelpApp(std::string path);
 
-/// False when "localHelp" is "TRUE" in any letter case, else (no file too)
-/// true. No request asks this; it serves other modules.
+/// False when "localHelp" is "TRUE" in any letter case, else true, also without
+/// a file. The client's requests do not use it; other modules do.
 VELMOHELP_API bool GetPreferenceSettingsForNetwork(std::string path);
 
 namespace ITEMInternal {

@@ -6,8 +6,8 @@
 
 #include <string>
 
-/// Asks both preferences and, where neither is "0", the network, and keeps the
-/// answer in the client's state (GetVelmoHelpClientOnlineStatus reports it).
+/// Reads both preferences, probes the network when neither is "0", and keeps
+/// the result in the client's state, which the requests read.
 VELMOHELP_API void GetNetworkStatus();
 
 namespace ITEMInternal {
@@ -27,12 +27,12 @@ VELMOHELP_API bool GetAdminOnlinePref();
 VELMOHELP_API bool GetUserOnlinePref();
 
 /// True when the URL's host can be reached without first establishing a
-/// connection. No packet is sent to the host. False also when url is no URI,
-/// has no host, or one of more than 254 bytes.
+/// connection. No packet is sent to the host. False also when url is not a URI,
+/// has no host, or has a host of more than 254 bytes.
 VELMOHELP_API bool GetOnlineStatus(const std::string& url);
 
 /// The preference's text, UTF-8; "" when nothing is set, it cannot be read, or
-/// which is none of the two scopes. Never throws.
+/// which is neither of the two scopes. Never throws.
 VELMOHELP_API std::string GetNexletPreference(NexletPreference which);
 
 }  // namespace ITEMInternal

@@ -1,5 +1,5 @@
 // The machine as the client uses it: files, folders, the help viewer and the
-// browser, and texts in the platform's own form.
+// browser, and text in the platform's own form.
 #ifndef VELMOHELP_PLATFORM_H_
 #define VELMOHELP_PLATFORM_H_
 
@@ -18,8 +18,8 @@ struct FileReference {
   std::uint64_t inode = 0;
 };
 
-/// An immutable Unicode text. Where a function takes a pointer to one, null
-/// stands for a text that could not be made.
+/// An immutable Unicode text. A null pointer to one means that the text could
+/// not be made.
 class PlatformString {
  public:
   /// utf8: valid UTF-8.
@@ -30,7 +30,7 @@ class PlatformString {
   std::string utf8_;
 };
 
-/// The numbers by which text encodings are known.
+/// The platform's numbers for text encodings.
 enum TextEncoding : std::uint32_t {
   kTextEncodingMacRoman = 0,
   kTextEncodingAscii = 0x0600,
@@ -47,21 +47,22 @@ VELMOHELP_API bool IsZAMRuntimePresent();
 /// names for sAppID and sPublisherID; "" when there is none.
 VELMOHELP_API std::string GetHelpApplicationPath();
 
-/// Starts an executable with four arguments. 0: it was running at once after
-/// its start; 1: nothing exists at path, or it was not. It is not waited for.
+/// Starts an executable with four arguments and does not wait for it. 0: it was
+/// running right after its start; 1: it was not, or nothing exists at path.
 VELMOHELP_API int LaunchApplication(const std::string& path,
                                     const std::string& mode,
                                     const std::string& product,
                                     const std::string& locale,
                                     const std::string& request);
 
-/// Opens a URL in the user's default browser, exactly as it stands. 0: opened;
-/// 2: not, or url is no URI (a blank, a quote or a letter beyond ASCII).
+/// Opens a URL, unchanged, in the user's default browser. 0: opened; 2: not
+/// opened, or url is not a URI (it has a space, a quote or a byte beyond
+/// ASCII).
 VELMOHELP_API int LaunchPlatformBrowser(const std::string& url);
 
 /// Finds a standard folder. domain: -32763, the user's; type: 'pref'
 /// (0x70726566), the Preferences folder; create: not 0 to make it when it is
-/// missing. False, with out untouched, when there is no such folder.
+/// missing. False, with out untouched, for any other folder and on failure.
 VELMOHELP_API bool StdStringFindFolder(std::int16_t domain, std::uint32_t type,
                                        std::uint8_t create, std::string& out);
 
@@ -75,26 +76,26 @@ VELMOHELP_API std::string GetInstalledContentPath();
 VELMOHELP_API std::string GetHelpContentDirectory(std::string first,
                                                   std::string second);
 
-/// The reference of the file at a path that may be percent-encoded, once or
-/// twice, or the path of a URL; what follows "?" or "#" is not looked at.
-/// Returns 0; -1403 when path is empty or no UTF-8, or its escapes are for
-/// none; -43 when there is no such file or its path has more than 1023 bytes;
-/// -1302 when it is a directory. out is written only on 0.
+/// The reference of the file at a path, which may be percent-encoded once or
+/// twice, or at the path of a URL; what follows "?" or "#" is ignored. Returns
+/// 0; -1403 when path is empty or not valid UTF-8, before or after unescaping;
+/// -43 when the file does not exist or its path has more than 1023 bytes; -1302
+/// when it is a directory. out is written only on 0.
 VELMOHELP_API std::int16_t GetFSRefFromPath(std::string path,
                                             FileReference& out);
 
 /// The text in an encoding (a TextEncoding), up to its first zero byte; "" when
-/// it is null, not expressible, or longer than 1023 bytes.
+/// it is null, cannot be expressed, or is longer than 1023 bytes.
 VELMOHELP_API std::string GetString(const PlatformString* text,
                                     std::uint32_t encoding);
 
 /// The text as a new NUL-terminated UTF-8 string that the caller frees with
-/// free(), or null when it is null or memory runs out. Null also for an empty
-/// text and for one of three-byte characters alone: the room set aside is
-/// three bytes for each UTF-16 unit, with none for the NUL.
+/// free(), or null when it is null or out of memory. Null also for an empty
+/// text and for one of three-byte characters only: the size that is reserved
+/// is three bytes per UTF-16 unit, with nothing for the NUL.
 VELMOHELP_API char* GetCharFromCFStringRef(const PlatformString* text);
 
-/// The text made from UTF-8; null when text is null or no UTF-8.
+/// The text made from UTF-8; null when text is null or not valid UTF-8.
 VELMOHELP_API std::unique_ptr<const PlatformString> CstrToNSstr(
     const char* text);
 

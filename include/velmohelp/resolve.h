@@ -17,9 +17,9 @@ VELMOHELP_API bool isUrl(std::string text);
 /// True when name ends with ".html" or ".htm", in lower case.
 VELMOHELP_API bool isHTMLPage(std::string name);
 
-/// Makes a bare page id the name of an HTML file: every byte that is no ASCII
-/// letter, digit, "_", "-" or "." becomes "_", and ".html" is appended. URLs
-/// and names of HTML files stay as they are.
+/// Makes a bare page id the name of an HTML file: every byte except ASCII
+/// letters, digits, "_", "-" and "." becomes "_", and ".html" is appended. URLs
+/// and names of HTML files are not changed.
 VELMOHELP_API void NormalizePageID(std::string& id);
 
 /// Finds the target of a normalised page id in the client's content folders:
@@ -29,40 +29,41 @@ VELMOHELP_API void NormalizePageID(std::string& id);
 ///
 /// online chooses between URLs below the base URL (true) and local paths.
 /// Returns 0 with the target in out (a path or a URL), or 3 with the page id
-/// in out. Leaves the help map read last in sHelpMap. Throws
-/// std::ios_base::failure when a help map breaks while it is read.
+/// in out. Leaves the help map that was read last in sHelpMap. Throws
+/// std::ios_base::failure when a help map cannot be read to its end.
 VELMOHELP_API unsigned char ValidateID(std::string pageId, bool online,
                                        std::string& out);
 
 /// Finds "search.html" in the client's content folders. False, with page
-/// emptied, when there is none. Neither locale nor paths is read: the rows
-/// searched always are the client's own.
+/// emptied, when there is none. locale and paths are ignored: the rows that are
+/// searched are always the client's own.
 VELMOHELP_API bool GetSearchPage(std::string& page, std::string locale,
                                  std::string paths[][2]);
 
 namespace ITEMInternal {
 
-/// The same answer as ::isUrl for every input.
+/// The same as ::isUrl.
 VELMOHELP_API bool isUrl(std::string text);
 
 /// fetch false: something exists at the path target. fetch true: target is a
-/// URI and a text could be loaded from it, whole. Blocks meanwhile.
+/// URI, and the whole resource could be loaded from it and is text. Blocks
+/// until it is loaded.
 VELMOHELP_API bool ValidateURL(std::string target, bool fetch);
 
-/// Reads a help map: one entry per line, key and value separated by tabs, the
-/// first entry of a key wins, lines without two fields are skipped. Empties map
-/// first. True when the file was read and map holds "VX_HOME"; false with the
-/// entries in map when it does not, and with an empty map when nothing, a pipe,
-/// a device or a file longer than 256 MiB is at path. Throws
+/// Reads a help map: one entry per line, key and value separated by tabs. The
+/// first entry of a key wins; lines without two fields are skipped. Empties map
+/// first. True when the file was read and map has "VX_HOME"; false with the
+/// entries in map when it has not, and with an empty map when path names
+/// nothing, a pipe, a device or a file longer than 256 MiB. Throws
 /// std::ios_base::failure on a read error, with the entries of the lines before
 /// it in map; every read of a directory is one.
 VELMOHELP_API bool LoadMapFile(const std::string& path,
                                std::map<std::string, std::string>& map);
 
-/// The first line of a base URL file; "" when nothing, a pipe, a device or a
-/// file longer than 16 MiB is at path. In a line with "://[" (an IPv6 host,
-/// whose zone follows a "%") the first "%", wherever it stands, becomes "%25",
-/// unless a "%25" stands before the first "]". Throws std::out_of_range for a
+/// The first line of a base URL file; "" when path names nothing, a pipe, a
+/// device or a file longer than 16 MiB. In a line with "://[" (an IPv6 host,
+/// whose zone follows a "%") the first "%", wherever it is, becomes "%25",
+/// unless there is a "%25" before the first "]". Throws std::out_of_range for a
 /// line with "://[" but neither "]" nor "%", and std::ios_base::failure as
 /// LoadMapFile does.
 VELMOHELP_API std::string GetHelpMapBaseUrl(const std::string& path);
@@ -71,15 +72,15 @@ VELMOHELP_API std::string GetHelpMapBaseUrl(const std::string& path);
 VELMOHELP_API std::string GetHelpMapPath(const std::string& folder);
 VELMOHELP_API std::string GetHelpMapBaseUrlPath(const std::string& folder);
 
-/// Reads a line that LF, CR or CR LF ends into line, without its end. False,
-/// with line emptied, when the input was at its end; a good stream stays good
-/// then too. A stream that is not good gives true, leaves line as it was and
-/// gets its fail flag set.
+/// Reads a line that ends with LF, CR or CR LF into line, without its end.
+/// False, with line emptied, at the end of the input; a good stream stays good
+/// even then. For a stream that is not good it returns true, leaves line
+/// unchanged and sets the stream's fail flag.
 VELMOHELP_API bool GetLine(std::ifstream& stream, std::string& line);
 
 /// Splits text at runs of delimiter and appends the fields to out; returns how
-/// many. A text with no delimiter after its first field is one field, whole,
-/// leading and trailing delimiters included; an empty text is none.
+/// many. A text without a delimiter after its first field is one field, with
+/// its leading and trailing delimiters; an empty text has no field.
 VELMOHELP_API int DelimitedStringToDeque(const char& delimiter,
                                          const std::string& text,
                                          std::deque<std::string>& out);

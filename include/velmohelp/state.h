@@ -1,6 +1,6 @@
-// The client's state as other modules may see it. Each variable has C linkage,
-// so that its symbol is its name and nothing more. All live as long as the
-// library is loaded; nothing guards them (velmohelp.h, convention 4).
+// The part of the client's state that other modules can see. Each variable has
+// C linkage, so that its symbol is its plain name. All exist as long as the
+// library is loaded, without a lock (velmohelp.h, convention 4).
 #ifndef VELMOHELP_STATE_H_
 #define VELMOHELP_STATE_H_
 
@@ -16,7 +16,7 @@ extern "C" {
 VELMOHELP_API extern std::string sAppID;
 /// The viewer's publisher id: key "pubId", or the default. Empty at load.
 VELMOHELP_API extern std::string sPublisherID;
-/// Page id to page: the help map loaded last. Empty at load.
+/// Page id to page: the help map that was read last. Empty at load.
 VELMOHELP_API extern std::map<std::string, std::string> sHelpMap;
 /// "klh", never changed after load.
 VELMOHELP_API extern std::string sDefaultAppID;

@@ -1,11 +1,10 @@
 #include "platform/linux/bundles.h"
 
-#include <velmohelp_locations.h>
-
 #include <vector>
 
 #include "platform/linux/files.h"
 #include "platform/linux/own_location.h"
+#include "platform/locations.h"
 
 namespace velmohelp {
 namespace {

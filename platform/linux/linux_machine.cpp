@@ -9,9 +9,6 @@
 namespace velmohelp {
 namespace {
 
-constexpr std::int16_t kUserDomain = -32763;
-constexpr std::uint32_t kPreferencesFolderType = 0x70726566;  // 'pref'
-
 /// Beside the library, in the build tree, an installed tree and a package
 /// alike; never found by PATH, which anybody may have set.
 std::string HelperFolder() {
@@ -26,21 +23,12 @@ LinuxMachine::LinuxMachine(const std::string& helper_folder, Patience patience)
     : programs_(helper_folder + "/velmohelp-run"),
       helpers_(helper_folder, programs_, patience) {}
 
-bool LinuxMachine::FileExists(const std::string& path) {
-  return FindEntry(path).has_value();
-}
-
 std::optional<FileEntry> LinuxMachine::FindFile(const std::string& path) {
   return FindEntry(path);
 }
 
-std::optional<std::string> LinuxMachine::StandardFolder(std::int16_t domain,
-                                                        std::uint32_t type,
-                                                        bool create) {
-  if (domain != kUserDomain || type != kPreferencesFolderType) {
-    return std::nullopt;
-  }
-  return PreferencesFolder(create);
+std::optional<std::string> LinuxMachine::PreferencesFolder(bool create) {
+  return velmohelp::PreferencesFolder(create);
 }
 
 std::optional<std::string> LinuxMachine::ResourcesDirectory() {

@@ -1,10 +1,9 @@
 #include "platform/linux/preference_store.h"
 
-#include <velmohelp_locations.h>
-
 #include "platform/linux/folders.h"
 #include "platform/linux/open_file.h"
 #include "platform/linux/preference_file.h"
+#include "platform/locations.h"
 #include "util/input_file.h"
 
 namespace velmohelp {

@@ -2,20 +2,14 @@
 
 namespace velmohelp {
 
-bool FaultMachine::FileExists(const std::string& path) {
-  return !Fails() && machine_.FileExists(path);
-}
-
 std::optional<FileEntry> FaultMachine::FindFile(const std::string& path) {
   if (Fails()) return std::nullopt;
   return machine_.FindFile(path);
 }
 
-std::optional<std::string> FaultMachine::StandardFolder(std::int16_t domain,
-                                                        std::uint32_t type,
-                                                        bool create) {
+std::optional<std::string> FaultMachine::PreferencesFolder(bool create) {
   if (Fails()) return std::nullopt;
-  return machine_.StandardFolder(domain, type, create);
+  return machine_.PreferencesFolder(create);
 }
 
 std::optional<std::string> FaultMachine::ResourcesDirectory() {

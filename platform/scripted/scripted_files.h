@@ -11,16 +11,16 @@
 
 namespace velmohelp {
 
-/// A tree of files and directories that exist, without contents. Paths read as
-/// a file system reads them: several slashes count as one, a final one asks for
-/// a directory, and nothing exists at an empty path or one that holds a NUL.
+/// A tree of files and directories that exist, without contents. Paths mean what
+/// they mean to a file system: several slashes count as one, a final one asks
+/// for a directory, and nothing exists at an empty path or at one with a NUL.
 class ScriptedFiles {
  public:
   /// Makes a file or a directory exist, with every directory above it.
   void AddFile(const std::string& path) { Add(path, false); }
   void AddDirectory(const std::string& path) { Add(path, true); }
 
-  /// Takes one entry away; what lies below it stays.
+  /// Removes one entry; the entries below it stay.
   void Remove(const std::string& path);
 
   std::optional<FileEntry> Find(const std::string& path) const;
@@ -32,8 +32,8 @@ class ScriptedFiles {
   std::uint64_t last_inode_ = 0;
 };
 
-/// The path with each run of slashes made one and none at its end, except for
-/// the root.
+/// The path with each run of slashes reduced to one and none at its end, except
+/// for the root.
 std::string WithSingleSlashes(const std::string& path);
 
 }  // namespace velmohelp

@@ -3,22 +3,10 @@
 namespace velmohelp {
 namespace {
 
-constexpr std::int16_t kUserDomain = -32763;
-constexpr std::uint32_t kPreferencesFolder = 0x70726566;  // 'pref'
-
 std::string Quoted(const std::string& word) {
   const bool plain =
       !word.empty() && word.find_first_of(" \"") == std::string::npos;
   return plain ? word : '"' + word + '"';
-}
-
-/// A four-character code as text: 0x70726566 is "pref".
-std::string FourCharacters(std::uint32_t code) {
-  std::string text;
-  for (int shift = 24; shift >= 0; shift -= 8) {
-    text += static_cast<char>((code >> shift) & 0xFFU);
-  }
-  return text;
 }
 
 Arguments Sentence(const char* verb, const std::string& program,
@@ -95,22 +83,13 @@ void ScriptedMachine::Record(const Arguments& words) {
   questions_.push_back(question);
 }
 
-bool ScriptedMachine::FileExists(const std::string& path) {
-  Record({"FileExists", path});
-  return files_.Find(path).has_value();
-}
-
 std::optional<FileEntry> ScriptedMachine::FindFile(const std::string& path) {
   Record({"FindFile", path});
   return files_.Find(path);
 }
 
-std::optional<std::string> ScriptedMachine::StandardFolder(std::int16_t domain,
-                                                           std::uint32_t type,
-                                                           bool create) {
-  Record({"StandardFolder", std::to_string(domain), FourCharacters(type),
-          create ? "create" : "find"});
-  if (domain != kUserDomain || type != kPreferencesFolder) return std::nullopt;
+std::optional<std::string> ScriptedMachine::PreferencesFolder(bool create) {
+  Record({"PreferencesFolder", create ? "create" : "find"});
   return preferences_folder_;
 }
 

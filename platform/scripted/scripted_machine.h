@@ -17,9 +17,9 @@
 
 namespace velmohelp {
 
-/// Nothing is on it, and it can do nothing, until it is told. A fact stated
-/// twice is as it was stated last. Programs are known by path and arguments and
-/// need no file at that path.
+/// Without facts nothing exists on it and everything fails. The last statement
+/// of a fact counts. Programs are known by path and arguments and need no file
+/// at that path.
 class ScriptedMachine : public Machine {
  public:
   void AddFile(const std::string& path) { files_.AddFile(path); }
@@ -50,13 +50,12 @@ class ScriptedMachine : public Machine {
   /// A URL at which there is a text.
   void AddText(const std::string& url) { texts_.insert(url); }
 
-  /// Every question so far, first to last: the function's name, then what it
-  /// was asked, with one blank between. A word that is empty or holds a blank
-  /// or a double quote stands in double quotes:
+  /// Every question so far, first to last: the function's name and its
+  /// arguments, separated by a space. An argument that is empty or has a space
+  /// or a double quote is enclosed in double quotes:
   ///
-  ///   FileExists /x/QTV
-  ///   FindFile /x
-  ///   StandardFolder -32763 pref create        (or: find)
+  ///   FindFile /x/QTV
+  ///   PreferencesFolder create                 (or: find)
   ///   ResourcesDirectory
   ///   BundleDirectory com.velmo.vxclientframework
   ///   ApplicationExecutable /x/Viewer.app
@@ -70,32 +69,10 @@ class ScriptedMachine : public Machine {
   const std::vector<std::string>& Questions() const { return questions_; }
   void ForgetQuestions() { questions_.clear(); }
 
-  bool FileExists(const std::string& path) override;
-  std::optional<FileEntry> FindFile(const std::string& path) override;
-  std::optional<std::string> StandardFolder(std::int16_t domain,
-                                            std::uint32_t type,
-                                            bool create) override;
-  std::optional<std::string> ResourcesDirectory() override;
-  std::optional<std::string> BundleDirectory(
-      const std::string& identifier) override;
-  std::optional<std::string> ApplicationExecutable(
-      const std::string& directory) override;
-  std::optional<int> RunToEnd(const std::string& program,
-                              const Arguments& arguments) override;
-  std::optional<std::string> FirstOutput(const std::string& program,
-                                         const Arguments& arguments) override;
-  bool StartProgram(const std::string& program,
-                    const Arguments& arguments) override;
-  bool OpenInBrowser(const std::string& url) override;
-  std::optional<Reachability> HostReachability(
-      const std::optional<std::string>& host) override;
-  std::optional<std::string> Preference(const std::string& domain,
-                                        const std::string& key,
-                                        PreferenceScope scope) override;
-  bool FetchText(const std::string& url) override;
+#include "platform/machine_overrides.inc"
 
  protected:
-  /// Hears every question, in its words, before it is answered.
+  /// Called with the words of every question before it is answered.
   virtual void Record(const Arguments& words);
 
  private:

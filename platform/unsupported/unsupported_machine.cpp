@@ -2,15 +2,11 @@
 
 namespace velmohelp {
 
-bool UnsupportedMachine::FileExists(const std::string&) { return false; }
-
 std::optional<FileEntry> UnsupportedMachine::FindFile(const std::string&) {
   return std::nullopt;
 }
 
-std::optional<std::string> UnsupportedMachine::StandardFolder(std::int16_t,
-                                                              std::uint32_t,
-                                                              bool) {
+std::optional<std::string> UnsupportedMachine::PreferencesFolder(bool) {
   return std::nullopt;
 }
 

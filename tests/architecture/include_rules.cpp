@@ -7,34 +7,43 @@
 namespace velmohelp::testing {
 namespace {
 
-/// A folder, and those that its files may include from. A header lies in the
-/// longest folder that its path begins with.
+/// A folder, the folders that its files may include from, and the public
+/// headers that they may include: those of a type that both sides must share. A
+/// header is in the longest folder that its path begins with.
 struct Layer {
   std::string_view folder;
   std::vector<std::string_view> from;
+  std::vector<std::string_view> public_headers;
 };
 
 const std::vector<Layer>& Layers() {
   static const std::vector<Layer> layers = {
       {"exports/",
        {"exports/", "client/", "config/", "resolve/", "online/", "platform/",
-        "util/"}},
+        "util/"},
+       {"velmohelp/config.h", "velmohelp/online.h", "velmohelp/platform.h",
+        "velmohelp/resolve.h", "velmohelp/script_host.h", "velmohelp/state.h",
+        "velmohelp/text.h", "velmohelp/velmohelp.h"}},
       {"client/",
-       {"client/", "exports/", "config/", "resolve/", "online/", "platform/",
-        "util/"}},
-      {"config/", {"config/", "platform/", "util/"}},
-      {"resolve/", {"resolve/", "client/", "platform/", "util/"}},
-      {"online/", {"online/", "platform/", "util/"}},
-      {"platform/", {"platform/", "util/"}},
+       {"client/", "config/", "resolve/", "online/", "platform/", "util/"},
+       {"velmohelp/velmohelp.h"}},
+      {"config/", {"config/", "platform/", "util/"}, {}},
+      {"resolve/", {"resolve/", "platform/", "util/"}, {}},
+      {"online/", {"online/", "platform/", "util/"}, {"velmohelp/online.h"}},
+      {"platform/", {"platform/", "util/"}, {}},
       // The library and its helper programs share the words they speak in.
       {"platform/linux/",
-       {"platform/linux/", "platform/linux/helpers/", "platform/", "util/"}},
+       {"platform/linux/", "platform/linux/helpers/", "platform/", "util/"},
+       {}},
       {"platform/linux/helpers/",
-       {"platform/linux/helpers/", "platform/linux/", "platform/", "util/"}},
-      {"platform/scripted/", {"platform/scripted/", "platform/", "util/"}},
+       {"platform/linux/helpers/", "platform/linux/", "platform/", "util/"},
+       {}},
+      {"platform/scripted/", {"platform/scripted/", "platform/", "util/"}, {}},
       {"platform/unsupported/",
-       {"platform/unsupported/", "platform/", "util/"}},
-      {"util/", {"util/"}},
+       {"platform/unsupported/", "platform/", "util/"},
+       {}},
+      {"util/", {"util/", "util/unicode/"}, {}},
+      {"util/unicode/", {"util/unicode/", "util/"}, {"velmohelp/unicode.h"}},
   };
   return layers;
 }
@@ -62,7 +71,7 @@ bool IsStandard(std::string_view header) {
 }
 
 bool IsPublic(std::string_view header) {
-  return header.starts_with("velmohelp/") || header == "velmohelp_locations.h";
+  return header.starts_with("velmohelp/");
 }
 
 bool IsForHelpers(std::string_view header) {
@@ -76,9 +85,12 @@ bool IsForTextRoutines(std::string_view header) {
 }
 
 bool MayIncludeSystem(const Layer& layer, std::string_view header) {
-  if (IsStandard(header) || IsPublic(header)) return true;
+  if (IsStandard(header)) return true;
+  if (IsPublic(header)) {
+    return std::ranges::count(layer.public_headers, header) > 0;
+  }
   if (IsForHelpers(header)) return layer.folder == "platform/linux/helpers/";
-  if (IsForTextRoutines(header)) return layer.folder == "util/";
+  if (IsForTextRoutines(header)) return layer.folder == "util/unicode/";
   return layer.folder.starts_with("platform/linux/");
 }
 

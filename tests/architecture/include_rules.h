@@ -1,5 +1,5 @@
-// Which file may include which: layers never look up, and only the folder that
-// answers for Linux knows Linux.
+// Which file may include which: no layer includes from a higher one, and only
+// the folder for Linux knows Linux.
 #ifndef TESTS_ARCHITECTURE_INCLUDE_RULES_H_
 #define TESTS_ARCHITECTURE_INCLUDE_RULES_H_
 
@@ -8,7 +8,7 @@
 namespace velmohelp::testing {
 
 /// file: path below the source tree ("config/key_scanner.cpp"); header: as it
-/// stands behind #include, with its quotes or angle brackets.
+/// written after #include, with its quotes or angle brackets.
 bool MayInclude(const std::string& file, const std::string& header);
 
 }  // namespace velmohelp::testing

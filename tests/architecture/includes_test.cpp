@@ -1,4 +1,4 @@
-// Reads the library's sources and holds each #include against the rules.
+// Reads the library's sources and checks each #include against the rules.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -19,7 +19,7 @@ bool IsSource(const fs::path& path) {
          path.extension() == ".h";
 }
 
-/// What stands behind #include on a line; "" on any other line.
+/// What follows #include on a line; "" on any other line.
 std::string HeaderOn(const std::string& line) {
   constexpr std::string_view kDirective = "#include ";
   if (!line.starts_with(kDirective)) return "";
@@ -56,8 +56,9 @@ TEST_P(Includes, GoDownThroughTheLayers) {
 }
 
 INSTANTIATE_TEST_SUITE_P(, Includes,
-                         ::testing::Values("client", "config", "resolve",
-                                           "online", "platform", "util"),
+                         ::testing::Values("exports", "client", "config",
+                                           "resolve", "online", "platform",
+                                           "util"),
                          [](const auto& folder) {
                            return std::string(folder.param);
                          });

@@ -1,11 +1,9 @@
 // Viewer or browser: how a page display chooses, and where the choice does not
 // hold.
 #include <gtest/gtest.h>
-#include <velmohelp/velmohelp.h>
 
 #include <algorithm>
 
-#include "client/state.h"
 #include "tests/support/client_world.h"
 #include "tests/support/sentence.h"
 
@@ -34,8 +32,8 @@ TEST_P(ViewerChoice, IsMadeFromWhatThereIs) {
   world.StartBrowsers();
   GetParam().given(world);
   world.Initialise();
-  EXPECT_EQ(DisplayVelmoHelpClientPage("page"), kDisplaySuccess);
-  EXPECT_EQ(sViewerChoice, GetParam().choice);
+  EXPECT_EQ(world.DisplayPage("page"), kDisplaySuccess);
+  EXPECT_EQ(world.state().viewer_choice, GetParam().choice);
   ASSERT_EQ(world.Shown().size(), 1U);
   EXPECT_EQ(world.Shown()[0].starts_with("StartProgram"),
             GetParam().choice == kShowInViewer);
@@ -119,7 +117,7 @@ TEST_P(ViewerAsLastResort, GetsThePageIdAsItWasGiven) {
   world.StartBrowsers();
   GetParam().given(world);
   world.Initialise();
-  const auto code = DisplayVelmoHelpClientPage(" a/b");
+  const auto code = world.DisplayPage(" a/b");
   EXPECT_EQ((Outcome{code, world.Shown()}), GetParam().outcome);
 }
 
@@ -194,9 +192,9 @@ TEST(DefaultViewer, IsNotTakenForADisplayWhenOneIdIsThere) {
   world.Install({.pub_id = ""});
   world.InstallWorkingViewer("reader", "");
   world.Initialise();
-  DisplayVelmoHelpClientPage("page");
-  EXPECT_EQ(sAppID, "reader");
-  EXPECT_EQ(sPublisherID, "");
+  world.DisplayPage("page");
+  EXPECT_EQ(world.state().app_id, "reader");
+  EXPECT_EQ(world.state().publisher_id, "");
   EXPECT_EQ(world.Shown().size(), 1U);
 }
 
@@ -205,10 +203,10 @@ TEST(DefaultViewer, IsTakenForADisplayWhenNeitherIdIsThere) {
   world.Install({.app_id = "", .pub_id = ""});
   world.InstallWorkingViewer("klh", kKlhPublisher);
   world.Initialise();
-  EXPECT_EQ(sAppID, "");
-  DisplayVelmoHelpClientPage("page");
-  EXPECT_EQ(sAppID, "klh");
-  EXPECT_EQ(sPublisherID, kKlhPublisher);
+  EXPECT_EQ(world.state().app_id, "");
+  world.DisplayPage("page");
+  EXPECT_EQ(world.state().app_id, "klh");
+  EXPECT_EQ(world.state().publisher_id, kKlhPublisher);
   EXPECT_EQ(world.Shown().size(), 1U);
 }
 

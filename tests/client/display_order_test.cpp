@@ -1,11 +1,9 @@
 // What a page display asks the machine, in which order and how often.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <velmohelp/velmohelp.h>
 
 #include <algorithm>
 
-#include "client/state.h"
 #include "tests/client/steps.h"
 #include "tests/support/client_world.h"
 
@@ -19,7 +17,7 @@ using testing::Joined;
 using testing::Steps;
 
 const Steps kUpToChoice = Joined({testing::kConfigurationIsRead,
-                                  {"StandardFolder -32763 pref create"},
+                                  {"PreferencesFolder create"},
                                   testing::kViewerIsLookedUp,
                                   testing::kNetworkIsProbed,
                                   testing::kPreferenceFileIsLookedFor});
@@ -34,16 +32,16 @@ TEST(DisplayOrder, OfALocalPageInTheViewer) {
   world.InstallWorkingViewer();
   world.AddFile(world.DownloadedManual() + "/page.html");
   world.Initialise();
-  DisplayVelmoHelpClientPage("page");
+  world.DisplayPage("page");
   EXPECT_THAT(
       world.Questions(),
       ElementsAreArray(Joined({kUpToChoice,
                                testing::kViewerIsTried,
-                               {"StandardFolder -32763 pref create",
+                               {"PreferencesFolder create",
                                 testing::InDownloadedManual("//helpmap.txt"),
                                 testing::InDownloadedManual("/page.html"),
                                 // The launch looks once more before it starts.
-                                "FileExists ~/Viewer", kPageInViewer}})));
+                                "FindFile ~/Viewer", kPageInViewer}})));
 }
 
 TEST(DisplayOrder, OfAnUnknownPageProbesTheRuntimeTwice) {
@@ -51,17 +49,17 @@ TEST(DisplayOrder, OfAnUnknownPageProbesTheRuntimeTwice) {
   world.Install();
   world.InstallWorkingViewer();
   world.Initialise();
-  DisplayVelmoHelpClientPage("page");
-  const Steps page = {"StandardFolder -32763 pref create",
+  world.DisplayPage("page");
+  const Steps page = {"PreferencesFolder create",
                       testing::InDownloadedManual("//helpmap.txt"),
                       testing::InDownloadedManual("/page.html"),
-                      "FileExists /Help//manual//helpmap.txt",
-                      "FileExists /Help//manual/page.html"};
-  const Steps home = {"StandardFolder -32763 pref create",
+                      "FindFile /Help//manual//helpmap.txt",
+                      "FindFile /Help//manual/page.html"};
+  const Steps home = {"PreferencesFolder create",
                       testing::InDownloadedManual("//helpmap.txt"),
                       testing::InDownloadedManual("/VX_HOME.html"),
-                      "FileExists /Help//manual//helpmap.txt",
-                      "FileExists /Help//manual/VX_HOME.html"};
+                      "FindFile /Help//manual//helpmap.txt",
+                      "FindFile /Help//manual/VX_HOME.html"};
   EXPECT_THAT(world.Questions(),
               ElementsAreArray(
                   Joined({kUpToChoice,
@@ -69,7 +67,7 @@ TEST(DisplayOrder, OfAnUnknownPageProbesTheRuntimeTwice) {
                           page,
                           home,
                           testing::kViewerIsTried,
-                          {"FileExists ~/Viewer",
+                          {"FindFile ~/Viewer",
                            "StartProgram ~/Viewer HELP Foo en_US page"}})));
 }
 
@@ -78,29 +76,28 @@ TEST(DisplayOrder, DoesNotLookForTheHomePageTwice) {
   world.Install();
   world.InstallTool();
   world.Initialise();
-  DisplayVelmoHelpClientPage("VX_HOME.html");
-  EXPECT_THAT(
-      world.Questions(),
-      ElementsAreArray(Joined(
-          {testing::kConfigurationIsRead,
-           {"StandardFolder -32763 pref create",
-            // A viewer that is not installed has no place.
-            "BundleDirectory com.velmo.vxclientframework",
-            testing::kToolIsLookedFor, testing::kIsViewerInstalled},
-           testing::kNetworkIsProbed,
-           testing::kPreferenceFileIsLookedFor,
-           {"FileExists \"\"", "StandardFolder -32763 pref create",
-            testing::InDownloadedManual("//helpmap.txt"),
-            testing::InDownloadedManual("/VX_HOME.html"),
-            "FileExists /Help//manual//helpmap.txt",
-            "FileExists /Help//manual/VX_HOME.html", "FileExists \"\""}})));
+  world.DisplayPage("VX_HOME.html");
+  EXPECT_THAT(world.Questions(),
+              ElementsAreArray(Joined(
+                  {testing::kConfigurationIsRead,
+                   {"PreferencesFolder create",
+                    // A viewer that is not installed has no place.
+                    "BundleDirectory com.velmo.vxclientframework",
+                    testing::kToolIsLookedFor, testing::kIsViewerInstalled},
+                   testing::kNetworkIsProbed,
+                   testing::kPreferenceFileIsLookedFor,
+                   {"FindFile \"\"", "PreferencesFolder create",
+                    testing::InDownloadedManual("//helpmap.txt"),
+                    testing::InDownloadedManual("/VX_HOME.html"),
+                    "FindFile /Help//manual//helpmap.txt",
+                    "FindFile /Help//manual/VX_HOME.html", "FindFile \"\""}})));
 }
 
 TEST(DisplayOrder, AsksForNoPreferenceFileWhenNoViewerIsNamed) {
   ClientWorld world;
   world.Install({.app_id = "NULL"});
   world.Initialise();
-  DisplayVelmoHelpClientPage("page");
+  world.DisplayPage("page");
   for (const std::string& question : world.Questions()) {
     EXPECT_EQ(question.find("klh-pref.xml"), std::string::npos) << question;
   }
@@ -111,7 +108,7 @@ TEST(DisplayOrder, ReadsTheConfigurationAloneWhenItIsGone) {
   world.Install();
   world.Initialise();
   world.RemoveFile(world.InstalledConfig());
-  DisplayVelmoHelpClientPage("page");
+  world.DisplayPage("page");
   EXPECT_THAT(world.Questions(), ElementsAreArray({"ResourcesDirectory"}));
 }
 
@@ -119,7 +116,7 @@ TEST(DisplayOrder, StopsBeforeTheToolWhenThereAreNoContentFolders) {
   ClientWorld world;
   world.Install({.folders = {}});
   world.Initialise();
-  DisplayVelmoHelpClientPage("page");
+  world.DisplayPage("page");
   EXPECT_THAT(world.Questions(),
               ElementsAreArray(testing::kConfigurationIsRead));
 }
@@ -129,10 +126,10 @@ TEST(DisplayOrder, ProbesTheNetworkOnceAndForgetsTheLastAnswer) {
   world.Install();
   world.GoOnline();
   world.Initialise();
-  EXPECT_TRUE(sIsOnline);
+  EXPECT_TRUE(world.state().is_online);
   world.machine().SetReachability("localhost", {});
-  DisplayVelmoHelpClientPage("page");
-  EXPECT_FALSE(sIsOnline);
+  world.DisplayPage("page");
+  EXPECT_FALSE(world.state().is_online);
   const auto asked = world.Questions();
   EXPECT_EQ(std::ranges::count(asked, "HostReachability localhost"), 1);
 }
@@ -142,7 +139,7 @@ TEST(DisplayOrder, AsksNothingForABadArgument) {
   world.Install();
   world.Initialise();
   for (const char* page_id : {static_cast<const char*>(nullptr), "", "  "}) {
-    EXPECT_EQ(DisplayVelmoHelpClientPage(page_id), 3U);
+    EXPECT_EQ(world.DisplayPage(page_id), 3U);
   }
   EXPECT_THAT(world.Questions(), IsEmpty());
 }
@@ -152,12 +149,12 @@ TEST(DisplayOrder, OfAUrlIsThatOfOpenUrl) {
   world.Install();
   world.InstallWorkingViewer();
   world.Initialise();
-  DisplayVelmoHelpClientPage("http://x/y");
+  world.DisplayPage("http://x/y");
   const auto displayed = world.Questions();
   world.machine().ForgetQuestions();
-  OpenURL("http://x/y");
+  world.OpenUrl("http://x/y");
   EXPECT_EQ(displayed, world.Questions());
-  EXPECT_EQ(sViewerChoice, 0U);
+  EXPECT_EQ(world.state().viewer_choice, 0U);
 }
 
 }  // namespace

@@ -1,8 +1,6 @@
 // From a page id to the URL that is shown.
 #include <gtest/gtest.h>
-#include <velmohelp/velmohelp.h>
 
-#include "client/state.h"
 #include "tests/support/client_world.h"
 #include "tests/support/sentence.h"
 
@@ -27,7 +25,7 @@ TEST_P(DisplayTarget, IsWhatTheBrowserOpens) {
   world.StartBrowsers();
   GetParam().given(world);
   world.Initialise();
-  DisplayVelmoHelpClientPage(GetParam().page_id);
+  world.DisplayPage(GetParam().page_id);
   std::vector<std::string> expected;
   if (*GetParam().url != '\0') {
     expected.push_back(std::string("OpenInBrowser ") + GetParam().url);
@@ -175,7 +173,7 @@ TEST(ZeroByteInAMappedTarget, EndsTheTargetAndKeepsTheViewersClosingQuote) {
     world.AddFile(ClientWorld::InstalledManual() + "/helpmap.txt",
                   "VX_HOME\t" + value + "\n");
     world.Initialise();
-    EXPECT_EQ(DisplayVelmoHelpClientPage("page"), kDisplaySuccess);
+    EXPECT_EQ(world.DisplayPage("page"), kDisplaySuccess);
     ASSERT_EQ(world.Shown().size(), 1);
     const std::string shown = world.Shown()[0];
     EXPECT_EQ(shown.find('\0'), std::string::npos);
@@ -188,8 +186,8 @@ TEST(DisplayedMap, StaysInTheState) {
   world.Install();
   AddInstalledMap(world, "foo\tbar.html\n");
   world.Initialise();
-  DisplayVelmoHelpClientPage("page");
-  EXPECT_EQ(sHelpMap,
+  world.DisplayPage("page");
+  EXPECT_EQ(world.state().help_map,
             (std::map<std::string, std::string>{{"foo", "bar.html"}}));
 }
 

@@ -1,9 +1,7 @@
 // What an initialisation asks the machine, in which order and how often.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <velmohelp/velmohelp.h>
 
-#include "client/state.h"
 #include "tests/support/client_world.h"
 
 namespace velmohelp {
@@ -16,35 +14,34 @@ using ::testing::IsEmpty;
 TEST(InitialisationOrder, ReadsThenProbesThenReadsInTheViewersFolder) {
   ClientWorld world;
   world.Install();
-  InitializeVelmoHelpClient("Foo", "en_US", 0);
+  world.Initialise("Foo", "en_US");
   EXPECT_THAT(
       world.Questions(),
       ElementsAre(
-          "ResourcesDirectory", "StandardFolder -32763 pref create",
+          "ResourcesDirectory", "PreferencesFolder create",
           // The viewer's folder is not known yet.
-          "FileExists ~/Preferences/Foo/Cfg/Foo.helpcfg",
+          "FindFile ~/Preferences/Foo/Cfg/Foo.helpcfg",
           "Preference admin com.velmo.VelmoOnlineHelp VelmoOnlineDefault",
           "Preference user com.velmo.VelmoOnlineHelp VelmoOnlineDefault",
           "HostReachability localhost",  //
-          "ResourcesDirectory", "StandardFolder -32763 pref create",
-          "FileExists \"~/Preferences/reader.VELMO.1/Local Store/"
+          "ResourcesDirectory", "PreferencesFolder create",
+          "FindFile \"~/Preferences/reader.VELMO.1/Local Store/"
           "/Foo/Cfg/Foo.helpcfg\""));
 }
 
 TEST(InitialisationOrder, StopsAtAConfigurationThatCannotBeRead) {
   ClientWorld world;
-  InitializeVelmoHelpClient("Foo", "en_US", 0);
+  world.Initialise("Foo", "en_US");
   EXPECT_THAT(world.Questions(), ElementsAre("ResourcesDirectory"));
 }
 
 TEST(InitialisationOrder, StopsAtAConfigurationThatIsRejected) {
   ClientWorld world;
   world.Install({.id = "en_US_Bar"});
-  InitializeVelmoHelpClient("Foo", "en_US", 0);
-  EXPECT_THAT(
-      world.Questions(),
-      ElementsAre("ResourcesDirectory", "StandardFolder -32763 pref create",
-                  "FileExists ~/Preferences/Foo/Cfg/Foo.helpcfg"));
+  world.Initialise("Foo", "en_US");
+  EXPECT_THAT(world.Questions(),
+              ElementsAre("ResourcesDirectory", "PreferencesFolder create",
+                          "FindFile ~/Preferences/Foo/Cfg/Foo.helpcfg"));
 }
 
 TEST(InitialisationOrder, AsksNothingTheSecondTime) {
@@ -52,7 +49,7 @@ TEST(InitialisationOrder, AsksNothingTheSecondTime) {
   world.Install();
   world.Initialise();
   world.RemoveFile(world.InstalledConfig());
-  EXPECT_EQ(InitializeVelmoHelpClient("Foo", "en_US", 0), kInitSuccess);
+  EXPECT_EQ(world.Initialise("Foo", "en_US"), kInitSuccess);
   EXPECT_THAT(world.Questions(), IsEmpty());
 }
 
@@ -60,26 +57,26 @@ TEST(InitialisationOrder, ComparesTheCleanedProductWithTheStoredOne) {
   ClientWorld world;
   world.AddFile(world.InstalledConfig("en_US", "a_b"),
                 testing::HelpConfig{.id = "en_US_a_b"}.Text());
-  EXPECT_EQ(InitializeVelmoHelpClient("a/b", "en_US", 1), kInitSuccess);
+  EXPECT_EQ(world.Initialise("a/b", "en_US", true), kInitSuccess);
   world.machine().ForgetQuestions();
-  EXPECT_EQ(InitializeVelmoHelpClient("a\\b", "en_US", 1), kInitSuccess);
+  EXPECT_EQ(world.Initialise("a\\b", "en_US", true), kInitSuccess);
   EXPECT_THAT(world.Questions(), IsEmpty());
-  EXPECT_EQ(InitializeVelmoHelpClient("a/b", "en_US", 0), kInitMissingConfig);
+  EXPECT_EQ(world.Initialise("a/b", "en_US"), kInitMissingConfig);
 }
 
 TEST(InitialisationOrder, ReadsAgainForAnotherLetterCase) {
   ClientWorld world;
   world.Install();
   world.Initialise();
-  EXPECT_EQ(InitializeVelmoHelpClient("foo", "en_US", 0), kInitMissingConfig);
-  EXPECT_EQ(sProductID, "foo");
+  EXPECT_EQ(world.Initialise("foo", "en_US"), kInitMissingConfig);
+  EXPECT_EQ(world.state().product_id, "foo");
 }
 
 TEST(InitialisationOrder, ReadsAgainAfterAFailure) {
   ClientWorld world;
-  InitializeVelmoHelpClient("Foo", "en_US", 0);
+  world.Initialise("Foo", "en_US");
   world.Install();
-  EXPECT_EQ(InitializeVelmoHelpClient("Foo", "en_US", 0), kInitSuccess);
+  EXPECT_EQ(world.Initialise("Foo", "en_US"), kInitSuccess);
 }
 
 TEST(InitialisationOrder, FindsADownloadedConfigurationAtTheSecondRead) {
@@ -87,7 +84,7 @@ TEST(InitialisationOrder, FindsADownloadedConfigurationAtTheSecondRead) {
   world.Install({.base_url = "http://installed/"});
   world.Download({.base_url = "http://downloaded/"});
   world.Initialise();
-  EXPECT_EQ(sBaseUrl, "http://downloaded/");
+  EXPECT_EQ(world.state().base_url, "http://downloaded/");
 }
 
 TEST(InitialisationOrder, TakesTheViewerFromTheInstalledConfiguration) {
@@ -95,8 +92,8 @@ TEST(InitialisationOrder, TakesTheViewerFromTheInstalledConfiguration) {
   world.Install();
   world.Download({.app_id = "other", .pub_id = "OTHER.2"});
   world.Initialise();
-  EXPECT_EQ(sAppID, "reader");
-  EXPECT_EQ(sPublisherID, "VELMO.1");
+  EXPECT_EQ(world.state().app_id, "reader");
+  EXPECT_EQ(world.state().publisher_id, "VELMO.1");
 }
 
 TEST(InitialisationOrder, FallsBackFromARejectedDownload) {
@@ -104,8 +101,8 @@ TEST(InitialisationOrder, FallsBackFromARejectedDownload) {
   world.Install({.base_url = "http://installed/"});
   world.Download({.id = "en_US_Bar", .base_url = "http://downloaded/"});
   world.Initialise();
-  EXPECT_EQ(sBaseUrl, "http://installed/");
-  EXPECT_EQ(sConfigID, "en_US_Foo");
+  EXPECT_EQ(world.state().base_url, "http://installed/");
+  EXPECT_EQ(world.state().config_id, "en_US_Foo");
 }
 
 /// A locale is cut to five bytes at the first read; the second read looks
@@ -114,17 +111,17 @@ TEST(LocaleCut, MakesATwoLetterLocaleMissItsOwnFolder) {
   ClientWorld world;
   world.AddFile(world.InstalledConfig("en"),
                 testing::HelpConfig{.id = "en_Foo"}.Text());
-  EXPECT_EQ(InitializeVelmoHelpClient("Foo", "en", 0), kInitMissingConfig);
-  EXPECT_EQ(sLocale, "en_Fo");
-  EXPECT_EQ(sInitStatus, 6);
+  EXPECT_EQ(world.Initialise("Foo", "en"), kInitMissingConfig);
+  EXPECT_EQ(world.state().locale, "en_Fo");
+  EXPECT_EQ(world.state().init_status, 6);
 }
 
 TEST(LocaleCut, MakesALongLocaleMissItsOwnFolder) {
   ClientWorld world;
   world.AddFile(world.InstalledConfig("zh_Hans"),
                 testing::HelpConfig{.id = "zh_Hans_Foo"}.Text());
-  EXPECT_EQ(InitializeVelmoHelpClient("Foo", "zh_Hans", 0), kInitMissingConfig);
-  EXPECT_EQ(sLocale, "zh_Ha");
+  EXPECT_EQ(world.Initialise("Foo", "zh_Hans"), kInitMissingConfig);
+  EXPECT_EQ(world.state().locale, "zh_Ha");
 }
 
 TEST(LocaleCut, KeepsRepeatedInitialisationFromBeingTheSame) {
@@ -133,11 +130,11 @@ TEST(LocaleCut, KeepsRepeatedInitialisationFromBeingTheSame) {
                 testing::HelpConfig{.id = "en_Foo"}.Text());
   world.AddFile(world.InstalledConfig("en_Fo"),
                 testing::HelpConfig{.id = "en_Fo_Foo"}.Text());
-  EXPECT_EQ(InitializeVelmoHelpClient("Foo", "en", 0), kInitSuccess);
-  EXPECT_EQ(sLocale, "en_Fo");
-  EXPECT_EQ(sConfigID, "en_Fo_Foo");
+  EXPECT_EQ(world.Initialise("Foo", "en"), kInitSuccess);
+  EXPECT_EQ(world.state().locale, "en_Fo");
+  EXPECT_EQ(world.state().config_id, "en_Fo_Foo");
   world.machine().ForgetQuestions();
-  EXPECT_EQ(InitializeVelmoHelpClient("Foo", "en", 0), kInitSuccess);
+  EXPECT_EQ(world.Initialise("Foo", "en"), kInitSuccess);
   EXPECT_FALSE(world.Questions().empty());
 }
 

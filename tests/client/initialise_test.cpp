@@ -1,8 +1,6 @@
 // What an initialisation answers, and what it leaves in the state.
 #include <gtest/gtest.h>
-#include <velmohelp/velmohelp.h>
 
-#include "client/state.h"
 #include "tests/support/client_world.h"
 #include "tests/support/sentence.h"
 
@@ -26,12 +24,11 @@ TEST_P(RefusedInitialisation, AnswersOneAndTouchesNothing) {
   ClientWorld world;
   world.Install();
   world.Initialise();
-  const auto code =
-      InitializeVelmoHelpClient(GetParam().product, GetParam().locale, 0);
+  const auto code = world.Initialise(GetParam().product, GetParam().locale);
   EXPECT_EQ(code, kInitInvalidArgument);
-  EXPECT_EQ(sInitStatus, 0);
-  EXPECT_EQ(sProductID, "Foo");
-  EXPECT_EQ(sLocale, "en_US");
+  EXPECT_EQ(world.state().init_status, 0);
+  EXPECT_EQ(world.state().product_id, "Foo");
+  EXPECT_EQ(world.state().locale, "en_US");
   EXPECT_TRUE(world.Questions().empty());
 }
 
@@ -57,10 +54,11 @@ class InitialisationCode : public ::testing::TestWithParam<Configured> {};
 TEST_P(InitialisationCode, IsThatOfTheConfiguration) {
   ClientWorld world;
   GetParam().given(world);
-  EXPECT_EQ(InitializeVelmoHelpClient("Foo", "en_US", 0), GetParam().code);
-  EXPECT_EQ(sInitStatus, static_cast<std::int32_t>(GetParam().code));
-  EXPECT_EQ(sProductID, "Foo");
-  EXPECT_EQ(sLocale, "en_US");
+  EXPECT_EQ(world.Initialise("Foo", "en_US"), GetParam().code);
+  EXPECT_EQ(world.state().init_status,
+            static_cast<std::int32_t>(GetParam().code));
+  EXPECT_EQ(world.state().product_id, "Foo");
+  EXPECT_EQ(world.state().locale, "en_US");
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -101,42 +99,40 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(Initialisation, AcceptsBlanksInsideAndKeepsThem) {
   ClientWorld world;
-  EXPECT_EQ(InitializeVelmoHelpClient("a b", "en", 0), kInitMissingConfig);
-  EXPECT_EQ(sProductID, "a b");
+  EXPECT_EQ(world.Initialise("a b", "en"), kInitMissingConfig);
+  EXPECT_EQ(world.state().product_id, "a b");
 }
 
 TEST(Initialisation, TakesTabsForText) {
   ClientWorld world;
-  EXPECT_EQ(InitializeVelmoHelpClient("\t", "\n", 0), kInitMissingConfig);
-  EXPECT_EQ(sProductID, "\t");
-  EXPECT_EQ(sLocale, "\n");
+  EXPECT_EQ(world.Initialise("\t", "\n"), kInitMissingConfig);
+  EXPECT_EQ(world.state().product_id, "\t");
+  EXPECT_EQ(world.state().locale, "\n");
 }
 
 TEST(Initialisation, CleansTheProductAloneWhenAsked) {
   ClientWorld world;
-  InitializeVelmoHelpClient("dir/sub\\name", "x/y", 1);
-  EXPECT_EQ(sProductID, "dir_sub_name");
-  EXPECT_EQ(sLocale, "x/y");
+  world.Initialise("dir/sub\\name", "x/y", true);
+  EXPECT_EQ(world.state().product_id, "dir_sub_name");
+  EXPECT_EQ(world.state().locale, "x/y");
 }
 
-TEST(Initialisation, CleansForEveryFlagButZero) {
+TEST(Initialisation, LeavesTheProductAloneUnlessAsked) {
   ClientWorld world;
-  InitializeVelmoHelpClient("a/b", "en", 0x80000000U);
-  EXPECT_EQ(sProductID, "a_b");
-  InitializeVelmoHelpClient("a/b", "en", 0);
-  EXPECT_EQ(sProductID, "a/b");
+  world.Initialise("a/b", "en");
+  EXPECT_EQ(world.state().product_id, "a/b");
 }
 
 TEST(Initialisation, TakesTheStatesOwnTextsForItsArguments) {
   ClientWorld world;
   world.Install();
-  sProductID = "Foo";
-  sLocale = "en_US";
-  const auto code =
-      InitializeVelmoHelpClient(sProductID.c_str(), sLocale.c_str(), 0);
+  world.state().product_id = "Foo";
+  world.state().locale = "en_US";
+  const auto code = world.Initialise(world.state().product_id.c_str(),
+                                     world.state().locale.c_str());
   EXPECT_EQ(code, kInitSuccess);
-  EXPECT_EQ(sProductID, "Foo");
-  EXPECT_EQ(sLocale, "en_US");
+  EXPECT_EQ(world.state().product_id, "Foo");
+  EXPECT_EQ(world.state().locale, "en_US");
 }
 
 struct ViewerIds {
@@ -156,11 +152,11 @@ TEST_P(ViewerPathsTable, AreNamedAfterBothIds) {
   ClientWorld world;
   world.Install({.app_id = row.app_id, .pub_id = row.pub_id});
   world.Initialise();
-  EXPECT_EQ(kKLHPreferenceFile, row.store + "klh-pref.xml");
-  EXPECT_EQ(kDownloadedOfflineContent, row.store + "Help/");
-  EXPECT_EQ(kDownloadedHelpcfg, row.store);
-  EXPECT_EQ(sAppID, row.app_id_after);
-  EXPECT_EQ(sPublisherID, row.pub_id_after);
+  EXPECT_EQ(world.state().preference_file, row.store + "klh-pref.xml");
+  EXPECT_EQ(world.state().downloaded_content, row.store + "Help/");
+  EXPECT_EQ(world.state().downloaded_config, row.store);
+  EXPECT_EQ(world.state().app_id, row.app_id_after);
+  EXPECT_EQ(world.state().publisher_id, row.pub_id_after);
 }
 
 const std::string kDefaultStore =
@@ -189,7 +185,7 @@ TEST(ViewerPaths, TakeIdsLongerThanAnyBuffer) {
   ClientWorld world;
   world.Install({.app_id = id, .pub_id = "p"});
   world.Initialise();
-  EXPECT_EQ(kDownloadedHelpcfg, "/" + id + ".p/Local Store/");
+  EXPECT_EQ(world.state().downloaded_config, "/" + id + ".p/Local Store/");
 }
 
 TEST(ViewerPaths, StandWhenTheFirstReadFails) {
@@ -197,11 +193,11 @@ TEST(ViewerPaths, StandWhenTheFirstReadFails) {
   world.Install();
   world.GoOnline();
   world.Initialise();
-  EXPECT_EQ(InitializeVelmoHelpClient("Bar", "de_DE", 0), kInitMissingConfig);
-  EXPECT_EQ(kDownloadedHelpcfg, "/reader.VELMO.1/Local Store/");
-  EXPECT_TRUE(sIsOnline);
-  EXPECT_EQ(sProductID, "Bar");
-  EXPECT_EQ(sLocale, "de_DE");
+  EXPECT_EQ(world.Initialise("Bar", "de_DE"), kInitMissingConfig);
+  EXPECT_EQ(world.state().downloaded_config, "/reader.VELMO.1/Local Store/");
+  EXPECT_TRUE(world.state().is_online);
+  EXPECT_EQ(world.state().product_id, "Bar");
+  EXPECT_EQ(world.state().locale, "de_DE");
 }
 
 TEST(Version, IsOneFiveNought) {

@@ -1,9 +1,7 @@
 // GetVelmoHelpClientOnlineStatus, which probes at each call.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <velmohelp/velmohelp.h>
 
-#include "client/state.h"
 #include "tests/support/client_world.h"
 #include "tests/support/sentence.h"
 
@@ -34,8 +32,8 @@ TEST_P(OnlineStatusCode, OfAnInitialisedClient) {
   world.Install();
   GetParam().given(world);
   world.Initialise();
-  EXPECT_EQ(GetVelmoHelpClientOnlineStatus(), GetParam().code);
-  EXPECT_EQ(sIsOnline, GetParam().code == 0);
+  EXPECT_EQ(world.OnlineStatus(), GetParam().code);
+  EXPECT_EQ(world.state().is_online, GetParam().code == 0);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -71,16 +69,16 @@ INSTANTIATE_TEST_SUITE_P(
 TEST(OnlineStatus, IsTwoBeforeAnyInitialisationWhateverTheNetwork) {
   ClientWorld world;
   world.GoOnline();
-  EXPECT_EQ(GetVelmoHelpClientOnlineStatus(), 2U);
+  EXPECT_EQ(world.OnlineStatus(), 2U);
   EXPECT_TRUE(world.Questions().empty());
-  EXPECT_FALSE(sIsOnline);
+  EXPECT_FALSE(world.state().is_online);
 }
 
 TEST(OnlineStatus, IsTwoAfterAFailedInitialisation) {
   ClientWorld world;
   world.GoOnline();
-  InitializeVelmoHelpClient("Foo", "en_US", 0);
-  EXPECT_EQ(GetVelmoHelpClientOnlineStatus(), 2U);
+  world.Initialise("Foo", "en_US");
+  EXPECT_EQ(world.OnlineStatus(), 2U);
 }
 
 TEST(OnlineStatus, IsProbedAfreshAtEachCall) {
@@ -88,10 +86,10 @@ TEST(OnlineStatus, IsProbedAfreshAtEachCall) {
   world.Install();
   world.GoOnline();
   world.Initialise();
-  EXPECT_EQ(GetVelmoHelpClientOnlineStatus(), 0U);
+  EXPECT_EQ(world.OnlineStatus(), 0U);
   world.machine().SetReachability("localhost", {});
-  EXPECT_EQ(GetVelmoHelpClientOnlineStatus(), 1U);
-  EXPECT_FALSE(sIsOnline);
+  EXPECT_EQ(world.OnlineStatus(), 1U);
+  EXPECT_FALSE(world.state().is_online);
 }
 
 TEST(OnlineStatus, AsksPolicyBeforeTheNetwork) {
@@ -99,7 +97,7 @@ TEST(OnlineStatus, AsksPolicyBeforeTheNetwork) {
   world.Install();
   world.Initialise();
   SetPreference(world, PreferenceScope::kAnyUserCurrentHost, "0");
-  GetVelmoHelpClientOnlineStatus();
+  world.OnlineStatus();
   EXPECT_THAT(world.Questions(),
               ElementsAre("Preference admin com.velmo.VelmoOnlineHelp "
                           "VelmoOnlineDefault"));

@@ -1,9 +1,7 @@
 // What OpenURL asks the machine, in which order, and what it leaves behind.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <velmohelp/velmohelp.h>
 
-#include "client/state.h"
 #include "tests/client/steps.h"
 #include "tests/support/client_world.h"
 
@@ -21,14 +19,14 @@ TEST(OpenUrlOrder, InTheViewer) {
   world.Install();
   world.InstallWorkingViewer();
   world.Initialise();
-  OpenURL("http://x");
+  world.OpenUrl("http://x");
   EXPECT_THAT(
       world.Questions(),
       ElementsAreArray(Joined(
           {testing::kConfigurationIsRead, testing::kViewerIsLookedUp,
-           Steps{"StandardFolder -32763 pref create"},
+           Steps{"PreferencesFolder create"},
            testing::kPreferenceFileIsLookedFor, testing::kViewerIsTried,
-           Steps{"FileExists ~/Viewer",
+           Steps{"FindFile ~/Viewer",
                  "StartProgram ~/Viewer URL Foo en_US \"\"http://x\"\""}})));
 }
 
@@ -38,13 +36,13 @@ TEST(OpenUrlOrder, InAccessibleModeLooksForNoViewer) {
   world.InstallWorkingViewer();
   world.SetAccessibleMode("TRUE");
   world.Initialise();
-  OpenURL("http://x");
+  world.OpenUrl("http://x");
   EXPECT_THAT(world.Questions(),
-              ElementsAreArray(Joined(
-                  {testing::kConfigurationIsRead, testing::kViewerIsLookedUp,
-                   Steps{"StandardFolder -32763 pref create"},
-                   testing::kPreferenceFileIsLookedFor,
-                   Steps{"OpenInBrowser http://x"}})));
+              ElementsAreArray(Joined({testing::kConfigurationIsRead,
+                                       testing::kViewerIsLookedUp,
+                                       Steps{"PreferencesFolder create"},
+                                       testing::kPreferenceFileIsLookedFor,
+                                       Steps{"OpenInBrowser http://x"}})));
 }
 
 TEST(OpenUrlOrder, WithoutTheViewersFileAsksForNoRuntime) {
@@ -53,20 +51,20 @@ TEST(OpenUrlOrder, WithoutTheViewersFileAsksForNoRuntime) {
   world.InstallWorkingViewer();
   world.Initialise();
   world.RemoveViewer();
-  OpenURL("http://x");
+  world.OpenUrl("http://x");
   EXPECT_THAT(world.Questions(),
               ElementsAreArray(Joined(
                   {testing::kConfigurationIsRead, testing::kViewerIsLookedUp,
-                   Steps{"StandardFolder -32763 pref create"},
+                   Steps{"PreferencesFolder create"},
                    testing::kPreferenceFileIsLookedFor,
-                   Steps{"FileExists ~/Viewer", "OpenInBrowser http://x"}})));
+                   Steps{"FindFile ~/Viewer", "OpenInBrowser http://x"}})));
 }
 
 TEST(OpenUrlOrder, AsksForNoPreferenceFileWhenNoViewerIsNamed) {
   ClientWorld world;
   world.Install({.app_id = "NULL"});
   world.Initialise();
-  OpenURL("http://x");
+  world.OpenUrl("http://x");
   for (const std::string& question : world.Questions()) {
     EXPECT_EQ(question.find("klh-pref.xml"), std::string::npos) << question;
   }
@@ -77,7 +75,7 @@ TEST(OpenUrlOrder, AsksNothingForABadArgument) {
   world.Install();
   world.Initialise();
   for (const char* url : {static_cast<const char*>(nullptr), "", "  ", "x"}) {
-    EXPECT_EQ(OpenURL(url), 3U);
+    EXPECT_EQ(world.OpenUrl(url), 3U);
   }
   EXPECT_THAT(world.Questions(), IsEmpty());
 }
@@ -89,13 +87,13 @@ TEST(OpenUrlOrder, LooksForTheViewerThoughTheConfigurationIsGone) {
   world.Install();
   world.InstallWorkingViewer();
   world.Initialise();
-  sHelpAppPath = "stale";
+  world.state().help_app_path = "stale";
   world.RemoveFile(world.InstalledConfig());
-  EXPECT_EQ(OpenURL("http://x"), 4U);
+  EXPECT_EQ(world.OpenUrl("http://x"), 4U);
   EXPECT_THAT(world.Questions(),
               ElementsAreArray(Joined(
                   {Steps{"ResourcesDirectory"}, testing::kViewerIsLookedUp})));
-  EXPECT_NE(sHelpAppPath, "stale");
+  EXPECT_NE(world.state().help_app_path, "stale");
 }
 
 TEST(OpenUrlOrder, TakesTheDefaultViewerThoughTheConfigurationIsRejected) {
@@ -103,10 +101,10 @@ TEST(OpenUrlOrder, TakesTheDefaultViewerThoughTheConfigurationIsRejected) {
   world.Install();
   world.Initialise();
   world.Install({.id = "en_US_Bar", .app_id = "null"});
-  EXPECT_EQ(OpenURL("http://x"), 5U);
-  EXPECT_EQ(sAppID, sDefaultAppID);
-  EXPECT_EQ(sPublisherID, sDefaultPublisherID);
-  EXPECT_EQ(sHelpAppPath, "");
+  EXPECT_EQ(world.OpenUrl("http://x"), 5U);
+  EXPECT_EQ(world.state().app_id, world.state().default_app_id);
+  EXPECT_EQ(world.state().publisher_id, world.state().default_publisher_id);
+  EXPECT_EQ(world.state().help_app_path, "");
 }
 
 TEST(OpenUrlOrder, LeavesOneIdAlone) {
@@ -114,9 +112,9 @@ TEST(OpenUrlOrder, LeavesOneIdAlone) {
   world.Install();
   world.Initialise();
   world.Install({.app_id = ""});
-  OpenURL("http://x");
-  EXPECT_EQ(sAppID, "");
-  EXPECT_EQ(sPublisherID, "VELMO.1");
+  world.OpenUrl("http://x");
+  EXPECT_EQ(world.state().app_id, "");
+  EXPECT_EQ(world.state().publisher_id, "VELMO.1");
 }
 
 }  // namespace

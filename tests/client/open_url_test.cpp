@@ -1,8 +1,6 @@
 // What OpenURL answers and shows.
 #include <gtest/gtest.h>
-#include <velmohelp/velmohelp.h>
 
-#include "client/state.h"
 #include "tests/support/client_world.h"
 #include "tests/support/sentence.h"
 
@@ -33,7 +31,7 @@ TEST_P(OpenUrlCode, AndWhatIsShown) {
   GetParam().given(world);
   world.Initialise();
   GetParam().then(world);
-  const auto code = OpenURL(GetParam().url);
+  const auto code = world.OpenUrl(GetParam().url);
   EXPECT_EQ((Outcome{code, world.Shown()}), GetParam().outcome);
 }
 
@@ -164,14 +162,14 @@ INSTANTIATE_TEST_SUITE_P(
 TEST(OpenUrlSix, IsAnsweredBeforeAnyInitialisation) {
   ClientWorld world;
   world.Install();
-  EXPECT_EQ(OpenURL("http://x"), 6U);
+  EXPECT_EQ(world.OpenUrl("http://x"), 6U);
   EXPECT_TRUE(world.Questions().empty());
 }
 
 TEST(OpenUrlSix, ComesAfterTheTestsOfTheArgument) {
   ClientWorld world;
   for (const char* url : {static_cast<const char*>(nullptr), "", " ", "x"}) {
-    EXPECT_EQ(OpenURL(url), 3U);
+    EXPECT_EQ(world.OpenUrl(url), 3U);
   }
 }
 
@@ -181,12 +179,12 @@ TEST(OpenUrlSix, FollowsAFailedRereadUntilASearchInitialisesAgain) {
   world.StartBrowsers();
   world.Initialise();
   world.RemoveFile(world.InstalledConfig());
-  EXPECT_EQ(OpenURL("http://x"), 4U);
-  EXPECT_EQ(sInitStatus, 6);
+  EXPECT_EQ(world.OpenUrl("http://x"), 4U);
+  EXPECT_EQ(world.state().init_status, 6);
   world.Install();
-  EXPECT_EQ(OpenURL("http://x"), 6U);
-  SearchHelp("Foo", "en_US", "x");
-  EXPECT_EQ(OpenURL("http://x"), 0U);
+  EXPECT_EQ(world.OpenUrl("http://x"), 6U);
+  world.SearchHelp("Foo", "en_US", "x");
+  EXPECT_EQ(world.OpenUrl("http://x"), 0U);
 }
 
 TEST(OpenUrl, DoesNotCareWhetherTheMachineIsOnline) {
@@ -196,8 +194,8 @@ TEST(OpenUrl, DoesNotCareWhetherTheMachineIsOnline) {
   world.StartBrowsers();
   world.Initialise();
   world.machine().SetReachability("localhost", {});
-  EXPECT_EQ(OpenURL("http://x"), 0U);
-  EXPECT_TRUE(sIsOnline);
+  EXPECT_EQ(world.OpenUrl("http://x"), 0U);
+  EXPECT_TRUE(world.state().is_online);
   for (const std::string& question : world.Questions()) {
     EXPECT_FALSE(question.starts_with("HostReachability")) << question;
   }

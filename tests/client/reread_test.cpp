@@ -1,9 +1,7 @@
 // A configuration that changes under a client: each request reads it again,
 // and nothing is put back where a read fails.
 #include <gtest/gtest.h>
-#include <velmohelp/velmohelp.h>
 
-#include "client/state.h"
 #include "tests/support/client_world.h"
 
 namespace velmohelp {
@@ -18,9 +16,9 @@ TEST(Reread, TakesAnEditedConfigurationAtTheNextRequest) {
   world.Install();
   world.Initialise();
   world.Install({.app_id = "other", .base_url = "http://new/"});
-  DisplayVelmoHelpClientPage("page");
-  EXPECT_EQ(sBaseUrl, "http://new/");
-  EXPECT_EQ(sAppID, "other");
+  world.DisplayPage("page");
+  EXPECT_EQ(world.state().base_url, "http://new/");
+  EXPECT_EQ(world.state().app_id, "other");
 }
 
 TEST(Reread, TakesAConfigurationDownloadedSince) {
@@ -28,23 +26,23 @@ TEST(Reread, TakesAConfigurationDownloadedSince) {
   world.Install();
   world.Initialise();
   world.Download({.base_url = "http://downloaded/"});
-  OpenURL("http://x");
-  EXPECT_EQ(sBaseUrl, "http://downloaded/");
+  world.OpenUrl("http://x");
+  EXPECT_EQ(world.state().base_url, "http://downloaded/");
 }
 
 TEST(Reread, LeavesEverythingOfAConfigurationThatIsGoneButItsCount) {
   ClientWorld world;
   world.Install();
   world.Initialise();
-  EXPECT_EQ(sHelpPathCount, 1);
+  EXPECT_EQ(world.state().help_path_count, 1);
   world.RemoveFile(world.InstalledConfig());
-  EXPECT_EQ(DisplayVelmoHelpClientPage("page"), 4U);
-  EXPECT_EQ(sHelpPathCount, 100);
-  EXPECT_EQ(sAppID, "reader");
-  EXPECT_EQ(sConfigID, "en_US_Foo");
-  EXPECT_EQ(sBaseUrl, "http://localhost/help/");
-  EXPECT_EQ(sHelpPaths[0][0], OwnName("manual"));
-  EXPECT_EQ(sViewerChoice, 0U);
+  EXPECT_EQ(world.DisplayPage("page"), 4U);
+  EXPECT_EQ(world.state().help_path_count, 100);
+  EXPECT_EQ(world.state().app_id, "reader");
+  EXPECT_EQ(world.state().config_id, "en_US_Foo");
+  EXPECT_EQ(world.state().base_url, "http://localhost/help/");
+  EXPECT_EQ(world.state().help_paths[0][0], OwnName("manual"));
+  EXPECT_EQ(world.state().viewer_choice, 0U);
 }
 
 TEST(Reread, LeavesWhatWasReadBeforeTheIdWasRejected) {
@@ -53,12 +51,12 @@ TEST(Reread, LeavesWhatWasReadBeforeTheIdWasRejected) {
   world.Initialise();
   world.Install(
       {.id = "en_US_Bar", .app_id = "other", .base_url = "http://new/"});
-  EXPECT_EQ(DisplayVelmoHelpClientPage("page"), 5U);
-  EXPECT_EQ(sInitStatus, 7);
-  EXPECT_EQ(sConfigID, "en_US_Bar");
-  EXPECT_EQ(sAppID, "other");
-  EXPECT_EQ(sLocale, "en_US");
-  EXPECT_EQ(sBaseUrl, "http://localhost/help/");
+  EXPECT_EQ(world.DisplayPage("page"), 5U);
+  EXPECT_EQ(world.state().init_status, 7);
+  EXPECT_EQ(world.state().config_id, "en_US_Bar");
+  EXPECT_EQ(world.state().app_id, "other");
+  EXPECT_EQ(world.state().locale, "en_US");
+  EXPECT_EQ(world.state().base_url, "http://localhost/help/");
 }
 
 TEST(Reread, LeavesAnEmptyBaseUrlThatWasRejected) {
@@ -66,8 +64,8 @@ TEST(Reread, LeavesAnEmptyBaseUrlThatWasRejected) {
   world.Install();
   world.Initialise();
   world.Install({.base_url = ""});
-  EXPECT_EQ(OpenURL("http://x"), 5U);
-  EXPECT_EQ(sBaseUrl, "");
+  EXPECT_EQ(world.OpenUrl("http://x"), 5U);
+  EXPECT_EQ(world.state().base_url, "");
 }
 
 TEST(Reread, TakesTheDefaultViewerThoughADisplayFails) {
@@ -75,10 +73,10 @@ TEST(Reread, TakesTheDefaultViewerThoughADisplayFails) {
   world.Install();
   world.Initialise();
   world.Install({.id = "en_US_Bar", .app_id = "NULL"});
-  EXPECT_EQ(DisplayVelmoHelpClientPage("page"), 5U);
-  EXPECT_EQ(sAppID, "klh");
-  EXPECT_TRUE(sAppIDIsNull);
-  EXPECT_EQ(sHelpAppPath, "");
+  EXPECT_EQ(world.DisplayPage("page"), 5U);
+  EXPECT_EQ(world.state().app_id, "klh");
+  EXPECT_TRUE(world.state().app_id_is_null);
+  EXPECT_EQ(world.state().help_app_path, "");
 }
 
 /// A search leaves the ids as the failed read left them.
@@ -87,9 +85,9 @@ TEST(Reread, TakesNoDefaultViewerWhenASearchFails) {
   world.Install();
   world.Initialise();
   world.Install({.id = "en_US_Bar", .app_id = "NULL"});
-  EXPECT_EQ(SearchHelp("Foo", "en_US", "x"), 5U);
-  EXPECT_EQ(sAppID, "");
-  EXPECT_EQ(sPublisherID, "");
+  EXPECT_EQ(world.SearchHelp("Foo", "en_US", "x"), 5U);
+  EXPECT_EQ(world.state().app_id, "");
+  EXPECT_EQ(world.state().publisher_id, "");
 }
 
 TEST(Reread, BringsTheClientBackOnlyThroughAnInitialisation) {
@@ -98,12 +96,12 @@ TEST(Reread, BringsTheClientBackOnlyThroughAnInitialisation) {
   world.StartBrowsers();
   world.Initialise();
   world.AddFile(world.InstalledConfig());
-  EXPECT_EQ(DisplayVelmoHelpClientPage("http://x"), 11U);
+  EXPECT_EQ(world.DisplayPage("http://x"), 11U);
   world.Install();
-  EXPECT_EQ(DisplayVelmoHelpClientPage("http://x"), 6U);
-  EXPECT_EQ(GetVelmoHelpClientOnlineStatus(), 2U);
-  EXPECT_EQ(InitializeVelmoHelpClient("Foo", "en_US", 0), 0U);
-  EXPECT_EQ(DisplayVelmoHelpClientPage("http://x"), 0U);
+  EXPECT_EQ(world.DisplayPage("http://x"), 6U);
+  EXPECT_EQ(world.OnlineStatus(), 2U);
+  EXPECT_EQ(world.Initialise("Foo", "en_US"), 0U);
+  EXPECT_EQ(world.DisplayPage("http://x"), 0U);
 }
 
 /// The locale is cut to five bytes by the first accepted read, so the next one
@@ -114,11 +112,11 @@ TEST(Reread, FollowsTheCutLocaleFromOneRequestToTheNext) {
   world.AddFile(world.InstalledConfig("zh_Hans"),
                 HelpConfig{.id = "zh_Hans_Foo"}.Text());
   world.Initialise();
-  EXPECT_EQ(SearchHelp("Foo", "zh_Hans", "x"), 6U);
-  EXPECT_EQ(sInitStatus, 0);
-  EXPECT_EQ(sLocale, "zh_Ha");
-  EXPECT_EQ(DisplayVelmoHelpClientPage("page"), 4U);
-  EXPECT_EQ(DisplayVelmoHelpClientPage("page"), 6U);
+  EXPECT_EQ(world.SearchHelp("Foo", "zh_Hans", "x"), 6U);
+  EXPECT_EQ(world.state().init_status, 0);
+  EXPECT_EQ(world.state().locale, "zh_Ha");
+  EXPECT_EQ(world.DisplayPage("page"), 4U);
+  EXPECT_EQ(world.DisplayPage("page"), 6U);
 }
 
 TEST(StaleRows, AreOutOfUseBehindAShorterTable) {
@@ -127,11 +125,11 @@ TEST(StaleRows, AreOutOfUseBehindAShorterTable) {
   world.AddFile(ClientWorld::InstalledManual() + "/page.html");
   world.StartBrowsers();
   world.Initialise();
-  EXPECT_EQ(DisplayVelmoHelpClientPage("page"), 0U);
+  EXPECT_EQ(world.DisplayPage("page"), 0U);
   world.Install({.folders = {{"new"}}});
-  EXPECT_EQ(DisplayVelmoHelpClientPage("page"), 7U);
-  EXPECT_EQ(sHelpPathCount, 1);
-  EXPECT_EQ(sHelpPaths[1][0], OwnName("manual"));
+  EXPECT_EQ(world.DisplayPage("page"), 7U);
+  EXPECT_EQ(world.state().help_path_count, 1);
+  EXPECT_EQ(world.state().help_paths[1][0], OwnName("manual"));
 }
 
 /// A folder's name without a flag of its own fills a row that the count leaves
@@ -145,9 +143,9 @@ TEST(StaleRows, ComeBackUnderFlagsWithoutNames) {
   world.AddFile(world.InstalledConfig(),
                 HelpConfig{.folders = {{"new"}}}.Text() +
                     "<content contextSensitivity=\"yes\"/>");
-  EXPECT_EQ(DisplayVelmoHelpClientPage("page"), 0U);
-  EXPECT_EQ(sHelpPathCount, 2);
-  EXPECT_EQ(sHelpPaths[0][0], "new");
+  EXPECT_EQ(world.DisplayPage("page"), 0U);
+  EXPECT_EQ(world.state().help_path_count, 2);
+  EXPECT_EQ(world.state().help_paths[0][0], "new");
 }
 
 /// A downloaded file without any "path" leaves table and capacity as they are.
@@ -159,8 +157,8 @@ TEST(StaleRows, AllCountUnderAConfigurationWithoutPaths) {
   world.Initialise();
   world.AddFile(world.DownloadedConfig(),
                 R"(<x id="en_US_Foo" baseUrl="http://x/"/>)");
-  EXPECT_EQ(DisplayVelmoHelpClientPage("page"), 0U);
-  EXPECT_EQ(sHelpPathCount, 100);
+  EXPECT_EQ(world.DisplayPage("page"), 0U);
+  EXPECT_EQ(world.state().help_path_count, 100);
 }
 
 }  // namespace

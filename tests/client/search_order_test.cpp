@@ -1,9 +1,7 @@
 // What a search asks the machine, in which order, and what it leaves behind.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <velmohelp/velmohelp.h>
 
-#include "client/state.h"
 #include "tests/client/steps.h"
 #include "tests/support/client_world.h"
 
@@ -21,13 +19,13 @@ TEST(SearchOrder, InTheViewerProbesNoNetwork) {
   world.Install();
   world.InstallWorkingViewer();
   world.Initialise();
-  SearchHelp("Foo", "en_US", "x");
+  world.SearchHelp("Foo", "en_US", "x");
   EXPECT_THAT(world.Questions(),
               ElementsAreArray(Joined(
                   {testing::kConfigurationIsRead, testing::kViewerIsLookedUp,
-                   Steps{"StandardFolder -32763 pref create"},
+                   Steps{"PreferencesFolder create"},
                    testing::kPreferenceFileIsLookedFor, testing::kViewerIsTried,
-                   Steps{"FileExists ~/Viewer",
+                   Steps{"FindFile ~/Viewer",
                          "StartProgram ~/Viewer SEARCH Foo en_US x"}})));
 }
 
@@ -35,41 +33,41 @@ TEST(SearchOrder, InTheBrowserLooksForDownloadedThenInstalledPages) {
   ClientWorld world;
   world.Install({.app_id = "NULL"});
   world.Initialise();
-  kDownloadedHelpcfg = "/reader.VELMO.1/Local Store/";
-  kDownloadedOfflineContent = "/reader.VELMO.1/Local Store/Help/";
-  SearchHelp("Foo", "en_US", "x");
+  world.state().downloaded_config = "/reader.VELMO.1/Local Store/";
+  world.state().downloaded_content = "/reader.VELMO.1/Local Store/Help/";
+  world.SearchHelp("Foo", "en_US", "x");
   EXPECT_THAT(world.Questions(),
               ElementsAreArray(
                   Joined({testing::kConfigurationIsRead,
                           Steps{"BundleDirectory com.velmo.vxclientframework"},
                           testing::kNetworkIsProbed,
-                          Steps{"StandardFolder -32763 pref create",
+                          Steps{"PreferencesFolder create",
                                 testing::InDownloadedManual("/search.html"),
-                                "FileExists /Help//manual/search.html"}})));
+                                "FindFile /Help//manual/search.html"}})));
 }
 
 TEST(SearchOrder, AsksNothingForABadArgument) {
   ClientWorld world;
   world.Install();
   world.Initialise();
-  SearchHelp("Bar", "de_DE", "  ");
-  SearchHelp("Bar", "", "x");
-  SearchHelp(nullptr, "de_DE", "x");
+  world.SearchHelp("Bar", "de_DE", "  ");
+  world.SearchHelp("Bar", "", "x");
+  world.SearchHelp(nullptr, "de_DE", "x");
   EXPECT_THAT(world.Questions(), IsEmpty());
-  EXPECT_EQ(sProductID, "Foo");
-  EXPECT_EQ(sLocale, "en_US");
+  EXPECT_EQ(world.state().product_id, "Foo");
+  EXPECT_EQ(world.state().locale, "en_US");
 }
 
 TEST(SearchOrder, AsksForNoPreferenceWhenAPartOfTheNameIsMissing) {
   ClientWorld world;
-  Search("", "Editor", "en_US", "x");
-  Search("Suite", "", "en_US", "x");
+  world.SearchByNames("", "Editor", "en_US", "x");
+  world.SearchByNames("Suite", "", "en_US", "x");
   EXPECT_THAT(world.Questions(), IsEmpty());
 }
 
 TEST(SearchOrder, AsksTheHostPreferenceFirst) {
   ClientWorld world;
-  Search("Suite", "Editor", "en_US", "x");
+  world.SearchByNames("Suite", "Editor", "en_US", "x");
   EXPECT_THAT(world.Questions(),
               ElementsAreArray(
                   {"Preference admin com.velmo.Suite.Editor HelpcfgName"}));
@@ -78,12 +76,12 @@ TEST(SearchOrder, AsksTheHostPreferenceFirst) {
 TEST(SearchInitialises, AClientThatIsNot) {
   ClientWorld world;
   world.Install();
-  EXPECT_EQ(SearchHelp("Foo", "en_US", "x"), 6U);
-  EXPECT_EQ(sInitStatus, 0);
-  EXPECT_EQ(kDownloadedHelpcfg, "/reader.VELMO.1/Local Store/");
-  EXPECT_EQ(sProductID, "Foo");
-  EXPECT_EQ(sLocale, "en_US");
-  EXPECT_EQ(DisplayVelmoHelpClientPage("page"), 7U);
+  EXPECT_EQ(world.SearchHelp("Foo", "en_US", "x"), 6U);
+  EXPECT_EQ(world.state().init_status, 0);
+  EXPECT_EQ(world.state().downloaded_config, "/reader.VELMO.1/Local Store/");
+  EXPECT_EQ(world.state().product_id, "Foo");
+  EXPECT_EQ(world.state().locale, "en_US");
+  EXPECT_EQ(world.DisplayPage("page"), 7U);
 }
 
 /// An initialised client is only read again, also for another product: the
@@ -96,19 +94,19 @@ TEST(SearchInitialises, NotForAnotherProduct) {
                     .id = "de_DE_Bar", .app_id = "other", .pub_id = "OTHER.1"}
                     .Text());
   world.Initialise();
-  EXPECT_EQ(SearchHelp("Bar", "de_DE", "x"), 6U);
-  EXPECT_EQ(sAppID, "other");
-  EXPECT_EQ(sProductID, "Bar");
-  EXPECT_EQ(sLocale, "de_DE");
-  EXPECT_EQ(kDownloadedHelpcfg, "/reader.VELMO.1/Local Store/");
+  EXPECT_EQ(world.SearchHelp("Bar", "de_DE", "x"), 6U);
+  EXPECT_EQ(world.state().app_id, "other");
+  EXPECT_EQ(world.state().product_id, "Bar");
+  EXPECT_EQ(world.state().locale, "de_DE");
+  EXPECT_EQ(world.state().downloaded_config, "/reader.VELMO.1/Local Store/");
 }
 
 TEST(SearchInitialises, AndRefusesWhatItCannotRead) {
   ClientWorld world;
-  EXPECT_EQ(SearchHelp("Foo", "en_US", "x"), 4U);
-  EXPECT_EQ(sInitStatus, 6);
-  EXPECT_EQ(sProductID, "Foo");
-  EXPECT_EQ(sLocale, "en_US");
+  EXPECT_EQ(world.SearchHelp("Foo", "en_US", "x"), 4U);
+  EXPECT_EQ(world.state().init_status, 6);
+  EXPECT_EQ(world.state().product_id, "Foo");
+  EXPECT_EQ(world.state().locale, "en_US");
 }
 
 /// A product of blanks is an argument that the initialisation refuses (1), not
@@ -117,17 +115,17 @@ TEST(SearchInitialises, AndGoesOnWhenItsArgumentsAreRefused) {
   ClientWorld world;
   world.InstallWorkingViewer("klh",
                              "9C3A51F07B26D48E15A0C7F3B9D2E6418A75C0D2.1");
-  EXPECT_EQ(SearchHelp("  ", "en_US", "x"), 0U);
-  EXPECT_EQ(sInitStatus, 1);
+  EXPECT_EQ(world.SearchHelp("  ", "en_US", "x"), 0U);
+  EXPECT_EQ(world.state().init_status, 1);
   EXPECT_EQ(world.Shown(),
             Steps{"StartProgram ~/Viewer SEARCH \"  \" en_US x"});
 }
 
 TEST(SearchInitialises, AndGoesOnToTheBrowserWhenItsArgumentsAreRefused) {
   ClientWorld world;
-  EXPECT_EQ(SearchHelp("Foo", " ", "x"), 6U);
-  EXPECT_EQ(sInitStatus, 1);
-  EXPECT_EQ(sHelpPathCount, 100);
+  EXPECT_EQ(world.SearchHelp("Foo", " ", "x"), 6U);
+  EXPECT_EQ(world.state().init_status, 1);
+  EXPECT_EQ(world.state().help_path_count, 100);
 }
 
 TEST(SearchTerm, IsRawForOneSearchThatGotThatFar) {
@@ -135,22 +133,22 @@ TEST(SearchTerm, IsRawForOneSearchThatGotThatFar) {
   world.Install();
   world.InstallWorkingViewer();
   world.Initialise();
-  sQueryIsRaw = true;
-  SearchHelp("Foo", "en_US", "a b");
-  SearchHelp("Foo", "en_US", "a b");
+  world.state().query_is_raw = true;
+  world.SearchHelp("Foo", "en_US", "a b");
+  world.SearchHelp("Foo", "en_US", "a b");
   EXPECT_EQ(world.Shown(),
             (Steps{"StartProgram ~/Viewer SEARCH Foo en_US \"a b\"",
                    "StartProgram ~/Viewer SEARCH Foo en_US a%20b"}));
-  EXPECT_FALSE(sQueryIsRaw);
+  EXPECT_FALSE(world.state().query_is_raw);
 }
 
 TEST(SearchTerm, StaysRawAfterASearchWithoutAName) {
   ClientWorld world;
   world.Install();
   world.InstallWorkingViewer();
-  EXPECT_EQ(Search("Suite", "Editor", "en_US", "x"), 8U);
-  EXPECT_TRUE(sQueryIsRaw);
-  EXPECT_EQ(SearchHelp("Foo", "en_US", "a b"), 0U);
+  EXPECT_EQ(world.SearchByNames("Suite", "Editor", "en_US", "x"), 8U);
+  EXPECT_TRUE(world.state().query_is_raw);
+  EXPECT_EQ(world.SearchHelp("Foo", "en_US", "a b"), 0U);
   EXPECT_EQ(world.Shown(),
             Steps{"StartProgram ~/Viewer SEARCH Foo en_US \"a b\""});
 }
@@ -159,21 +157,21 @@ TEST(SearchTerm, StaysRawAfterEveryEarlyReturn) {
   ClientWorld world;
   world.Install();
   world.Initialise();
-  sQueryIsRaw = true;
-  EXPECT_EQ(SearchHelp("Foo", "en_US", " "), 3U);
+  world.state().query_is_raw = true;
+  EXPECT_EQ(world.SearchHelp("Foo", "en_US", " "), 3U);
   world.Install({.folders = {}});
-  EXPECT_EQ(SearchHelp("Foo", "en_US", "x"), 5U);
+  EXPECT_EQ(world.SearchHelp("Foo", "en_US", "x"), 5U);
   world.AddFile(world.InstalledConfig());
-  EXPECT_EQ(SearchHelp("Foo", "en_US", "x"), 5U);
-  EXPECT_EQ(SearchHelp("Bar", "en_US", "x"), 4U);
-  EXPECT_TRUE(sQueryIsRaw);
+  EXPECT_EQ(world.SearchHelp("Foo", "en_US", "x"), 5U);
+  EXPECT_EQ(world.SearchHelp("Bar", "en_US", "x"), 4U);
+  EXPECT_TRUE(world.state().query_is_raw);
 }
 
 TEST(SearchTerm, IsEncodedStrictly) {
   ClientWorld world;
   world.Install();
   world.InstallWorkingViewer();
-  SearchHelp("Foo", "en_US", "a-b_c.d \xC3\x9C'()*!~");
+  world.SearchHelp("Foo", "en_US", "a-b_c.d \xC3\x9C'()*!~");
   EXPECT_EQ(world.Shown(), Steps{"StartProgram ~/Viewer SEARCH Foo en_US "
                                  "a%2db%5fc%2ed%20%c3%9c'()*!~"});
 }
@@ -181,12 +179,12 @@ TEST(SearchTerm, IsEncodedStrictly) {
 TEST(SearchViewer, IsTheDefaultOneOnlyWhenBothIdsAreEmpty) {
   ClientWorld world;
   world.Install({.app_id = "", .pub_id = ""});
-  SearchHelp("Foo", "en_US", "x");
-  EXPECT_EQ(sAppID, "klh");
+  world.SearchHelp("Foo", "en_US", "x");
+  EXPECT_EQ(world.state().app_id, "klh");
   world.Install({.app_id = "reader", .pub_id = ""});
-  SearchHelp("Foo", "en_US", "x");
-  EXPECT_EQ(sAppID, "reader");
-  EXPECT_EQ(sPublisherID, "");
+  world.SearchHelp("Foo", "en_US", "x");
+  EXPECT_EQ(world.state().app_id, "reader");
+  EXPECT_EQ(world.state().publisher_id, "");
 }
 
 }  // namespace

@@ -2,17 +2,16 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <velmohelp/resolve.h>
-#include <velmohelp_locations.h>
 
-#include "client/state.h"
-#include "tests/support/client_world.h"
+#include "platform/locations.h"
+#include "tests/support/exported_world.h"
 #include "tests/support/sentence.h"
 
 namespace velmohelp {
 namespace {
 
-using testing::ClientWorld;
 using ::testing::ElementsAre;
+using testing::ExportedWorld;
 
 struct Row {
   const char* sentence;
@@ -31,21 +30,21 @@ class SearchPageRows : public ::testing::Test {
  protected:
   SearchPageRows() {
     world_.machine().SetPreferencesFolder("/downloaded");
-    kDownloadedOfflineContent = "/";
-    sBaseUrl = "http://x";
+    world_.state().downloaded_content = "/";
+    world_.state().base_url = "http://x";
     SetRow(0, "one", "YES");
     SetRow(1, "low", "yes");
     SetRow(2, "two", "YES");
     SetRow(3, "past", "YES");
-    sHelpPathCount = 3;
+    world_.state().help_path_count = 3;
   }
 
-  static void SetRow(int row, const char* folder, const char* flag) {
-    sHelpPaths[row][0] = folder;
-    sHelpPaths[row][1] = flag;
+  void SetRow(int row, const char* folder, const char* flag) {
+    world_.state().help_paths[row][0] = folder;
+    world_.state().help_paths[row][1] = flag;
   }
 
-  ClientWorld world_;
+  ExportedWorld world_;
 };
 
 class SearchPage : public SearchPageRows,
@@ -56,7 +55,7 @@ TEST_P(SearchPage, IsFound) {
     world_.machine().AddFile(page);
     world_.machine().AddText(page);
   }
-  sIsOnline = GetParam().online;
+  world_.state().is_online = GetParam().online;
   std::string page = "stale";
   EXPECT_EQ(GetSearchPage(page, "", nullptr), !GetParam().page.empty());
   EXPECT_EQ(page, GetParam().page);
@@ -110,7 +109,7 @@ INSTANTIATE_TEST_SUITE_P(
     testing::SentenceOf());
 
 TEST_F(SearchPageRows, IsFetchedOnceForEachRowThatTakesPart) {
-  sIsOnline = true;
+  world_.state().is_online = true;
   std::string page;
   GetSearchPage(page, "", nullptr);
   EXPECT_THAT(world_.Questions(),
@@ -126,7 +125,7 @@ TEST_F(SearchPageRows, IsNeverFoundInTheCallersTable) {
 }
 
 TEST_F(SearchPageRows, IsNotFoundInNoRows) {
-  sHelpPathCount = 0;
+  world_.state().help_path_count = 0;
   std::string page = "stale";
   EXPECT_FALSE(GetSearchPage(page, "", nullptr));
   EXPECT_EQ(page, "");

@@ -1,8 +1,6 @@
 // What the two searches answer and show.
 #include <gtest/gtest.h>
-#include <velmohelp/velmohelp.h>
 
-#include "client/state.h"
 #include "tests/support/client_world.h"
 #include "tests/support/sentence.h"
 
@@ -24,12 +22,16 @@ void NameProduct(ClientWorld& world, const char* product) {
 struct Story {
   const char* sentence;
   void (*given)(ClientWorld&);
-  std::uint32_t (*search)();
+  std::uint32_t (*search)(ClientWorld&);
   Outcome outcome;
 };
 
-std::uint32_t ForText() { return SearchHelp("Foo", "en_US", "a b&c"); }
-std::uint32_t ByNames() { return Search("Suite", "Editor", "en_US", "a b&c"); }
+std::uint32_t ForText(ClientWorld& world) {
+  return world.SearchHelp("Foo", "en_US", "a b&c");
+}
+std::uint32_t ByNames(ClientWorld& world) {
+  return world.SearchByNames("Suite", "Editor", "en_US", "a b&c");
+}
 
 class SearchCode : public ::testing::TestWithParam<Story> {};
 
@@ -37,7 +39,7 @@ TEST_P(SearchCode, AndWhatIsShown) {
   ClientWorld world;
   world.Install();
   GetParam().given(world);
-  const auto code = GetParam().search();
+  const auto code = GetParam().search(world);
   EXPECT_EQ((Outcome{code, world.Shown()}), GetParam().outcome);
 }
 
@@ -136,37 +138,51 @@ INSTANTIATE_TEST_SUITE_P(
     Three, SearchCode,
     ::testing::Values(Story{"no product",
                             InViewer,
-                            [] { return SearchHelp(nullptr, "en_US", "x"); },
+                            [](ClientWorld& world) {
+                              return world.SearchHelp(nullptr, "en_US", "x");
+                            },
                             {3, {}}},
                       Story{"an empty product",
                             InViewer,
-                            [] { return SearchHelp("", "en_US", "x"); },
+                            [](ClientWorld& world) {
+                              return world.SearchHelp("", "en_US", "x");
+                            },
                             {3, {}}},
                       Story{"no locale",
                             InViewer,
-                            [] { return SearchHelp("Foo", nullptr, "x"); },
+                            [](ClientWorld& world) {
+                              return world.SearchHelp("Foo", nullptr, "x");
+                            },
                             {3, {}}},
                       Story{"an empty locale",
                             InViewer,
-                            [] { return SearchHelp("Foo", "", "x"); },
+                            [](ClientWorld& world) {
+                              return world.SearchHelp("Foo", "", "x");
+                            },
                             {3, {}}},
                       Story{"no text",
                             InViewer,
-                            [] { return SearchHelp("Foo", "en_US", nullptr); },
+                            [](ClientWorld& world) {
+                              return world.SearchHelp("Foo", "en_US", nullptr);
+                            },
                             {3, {}}},
                       Story{"an empty text",
                             InViewer,
-                            [] { return SearchHelp("Foo", "en_US", ""); },
+                            [](ClientWorld& world) {
+                              return world.SearchHelp("Foo", "en_US", "");
+                            },
                             {3, {}}},
                       Story{"a blank text",
                             InViewer,
-                            [] { return SearchHelp("Foo", "en_US", "  "); },
+                            [](ClientWorld& world) {
+                              return world.SearchHelp("Foo", "en_US", "  ");
+                            },
                             {3, {}}},
                       Story{"no text by names",
                             InViewer,
-                            [] {
-                              return Search("Suite", "Editor", "en_US",
-                                            nullptr);
+                            [](ClientWorld& world) {
+                              return world.SearchByNames("Suite", "Editor",
+                                                         "en_US", nullptr);
                             },
                             {3, {}}}),
     testing::SentenceOf());
@@ -175,7 +191,9 @@ INSTANTIATE_TEST_SUITE_P(
     FourToSeven, SearchCode,
     ::testing::Values(Story{"no configuration",
                             InViewer,
-                            [] { return SearchHelp("Bar", "en_US", "x"); },
+                            [](ClientWorld& world) {
+                              return world.SearchHelp("Bar", "en_US", "x");
+                            },
                             {4, {}}},
                       Story{"an invalid configuration",
                             [](ClientWorld& world) {
@@ -236,23 +254,33 @@ INSTANTIATE_TEST_SUITE_P(
               {8, {}}},
         Story{"an empty first part",
               InViewer,
-              [] { return Search("", "Editor", "en_US", "x"); },
+              [](ClientWorld& world) {
+                return world.SearchByNames("", "Editor", "en_US", "x");
+              },
               {8, {}}},
         Story{"an empty second part",
               InViewer,
-              [] { return Search("Suite", "", "en_US", "x"); },
+              [](ClientWorld& world) {
+                return world.SearchByNames("Suite", "", "en_US", "x");
+              },
               {8, {}}},
         Story{"no first part",
               InViewer,
-              [] { return Search(nullptr, "Editor", "en_US", "x"); },
+              [](ClientWorld& world) {
+                return world.SearchByNames(nullptr, "Editor", "en_US", "x");
+              },
               {8, {}}},
         Story{"no second part",
               InViewer,
-              [] { return Search("Suite", nullptr, "en_US", "x"); },
+              [](ClientWorld& world) {
+                return world.SearchByNames("Suite", nullptr, "en_US", "x");
+              },
               {8, {}}},
         Story{"and the text is not even looked at",
               InViewer,
-              [] { return Search("", "", nullptr, nullptr); },
+              [](ClientWorld& world) {
+                return world.SearchByNames("", "", nullptr, nullptr);
+              },
               {8, {}}}),
     testing::SentenceOf());
 

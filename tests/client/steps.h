@@ -19,15 +19,15 @@ inline Steps Joined(const std::vector<Steps>& parts) {
 }
 
 inline constexpr char kDownloadedConfigIsLookedFor[] =
-    "FileExists \"~/Preferences/reader.VELMO.1/Local Store//Foo/Cfg/"
+    "FindFile \"~/Preferences/reader.VELMO.1/Local Store//Foo/Cfg/"
     "Foo.helpcfg\"";
 
 inline const Steps kConfigurationIsRead = {"ResourcesDirectory",
-                                           "StandardFolder -32763 pref create",
+                                           "PreferencesFolder create",
                                            kDownloadedConfigIsLookedFor};
 
 inline constexpr char kToolIsLookedFor[] =
-    "FileExists ~/Framework//Versions/A/Resources/QTV";
+    "FindFile ~/Framework//Versions/A/Resources/QTV";
 inline constexpr char kIsViewerInstalled[] =
     "RunToEnd ~/Framework//Versions/A/Resources/QTV -isAppInstalled reader "
     "VELMO.1";
@@ -47,17 +47,17 @@ inline const Steps kNetworkIsProbed = {
     "HostReachability localhost"};
 
 inline const Steps kPreferenceFileIsLookedFor = {
-    "FileExists \"~/Preferences/reader.VELMO.1/Local Store/klh-pref.xml\""};
+    "FindFile \"~/Preferences/reader.VELMO.1/Local Store/klh-pref.xml\""};
 
 /// The viewer, and only when it is there its runtime.
 inline const Steps kViewerIsTried = {
-    "FileExists ~/Viewer", "BundleDirectory com.velmo.vxclientframework",
+    "FindFile ~/Viewer", "BundleDirectory com.velmo.vxclientframework",
     kToolIsLookedFor,
     "RunToEnd ~/Framework//Versions/A/Resources/QTV -isRuntimeInstalled"};
 
 /// The question whether a file exists in the downloaded folder.
 inline std::string InDownloadedManual(const std::string& name) {
-  return "FileExists \"~/Preferences/reader.VELMO.1/Local Store/Help/manual" +
+  return "FindFile \"~/Preferences/reader.VELMO.1/Local Store/Help/manual" +
          name + "\"";
 }
 

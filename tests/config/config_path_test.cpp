@@ -48,8 +48,7 @@ TEST_F(ConfigPath, OfADownloadIsInTheViewersStore) {
   kDownloadedHelpcfg = "/klh.1/Local Store/";
   EXPECT_EQ(GetDownloadedHelpConfigPath("dir", "Foo"),
             "/prefs/klh.1/Local Store//dir/Foo.helpcfg");
-  EXPECT_THAT(machine.Questions(),
-              ElementsAre("StandardFolder -32763 pref create"));
+  EXPECT_THAT(machine.Questions(), ElementsAre("PreferencesFolder create"));
 }
 
 TEST_F(ConfigPath, OfADownloadLacksTheStoreBeforeTheFirstInitialisation) {

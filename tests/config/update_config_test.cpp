@@ -44,10 +44,9 @@ TEST_F(UpdateConfig, ReadsTheInstalledFileWhenNothingWasDownloaded) {
   EXPECT_EQ(sPublisherID, "publisher");
   EXPECT_FALSE(sAppIDIsNull);
   EXPECT_EQ(sHelpPathCount, 1);
-  EXPECT_THAT(
-      machine.Questions(),
-      ElementsAre("ResourcesDirectory", "StandardFolder -32763 pref create",
-                  "FileExists " + DownloadPath()));
+  EXPECT_THAT(machine.Questions(),
+              ElementsAre("ResourcesDirectory", "PreferencesFolder create",
+                          "FindFile " + DownloadPath()));
 }
 
 TEST_F(UpdateConfig, ReadsTheViewersIdsOnlyFromTheInstalledFile) {
@@ -62,10 +61,9 @@ TEST_F(UpdateConfig, ReadsTheViewersIdsOnlyFromTheInstalledFile) {
   EXPECT_EQ(sHelpPathCount, 2);
   EXPECT_EQ(sHelpPaths[0][0], "b");
   EXPECT_EQ(sHelpPaths[1][1], "YES");
-  EXPECT_THAT(
-      machine.Questions(),
-      ElementsAre("ResourcesDirectory", "StandardFolder -32763 pref create",
-                  "FileExists " + DownloadPath()));
+  EXPECT_THAT(machine.Questions(),
+              ElementsAre("ResourcesDirectory", "PreferencesFolder create",
+                          "FindFile " + DownloadPath()));
 }
 
 TEST_F(UpdateConfig, FallsBackFromADownloadOfAnotherProduct) {
@@ -74,10 +72,9 @@ TEST_F(UpdateConfig, FallsBackFromADownloadOfAnotherProduct) {
   EXPECT_EQ(UpdateHelpConfigInfo("en_US"), 0);
   EXPECT_EQ(sConfigID, "en_US_Foo");
   EXPECT_EQ(sBaseUrl, "installed");
-  EXPECT_THAT(
-      machine.Questions(),
-      ElementsAre("ResourcesDirectory", "StandardFolder -32763 pref create",
-                  "FileExists " + DownloadPath(), "ResourcesDirectory"));
+  EXPECT_THAT(machine.Questions(),
+              ElementsAre("ResourcesDirectory", "PreferencesFolder create",
+                          "FindFile " + DownloadPath(), "ResourcesDirectory"));
 }
 
 TEST_F(UpdateConfig, FallsBackFromADownloadThatCannotBeRead) {

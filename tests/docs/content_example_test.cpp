@@ -4,10 +4,10 @@
 #include <velmohelp/resolve.h>
 #include <velmohelp/velmohelp.h>
 
-#include "client/state.h"
-#include "exports/this_machine.h"
+#include "exports/state.h"
 #include "platform/scripted/scripted_machine.h"
 #include "tests/support/sentence.h"
+#include "tests/support/this_machine.h"
 
 namespace velmohelp {
 namespace {
@@ -31,12 +31,11 @@ class ContentExample : public ::testing::TestWithParam<Lookup> {
     machine_.SetPreferencesFolder(EXAMPLE_WORLD "/config");
     machine_.AddFile(std::string(kBasics) + "/helpmap.txt");
     machine_.AddText(kImporting);
-    UseMachine(&machine_);
   }
-  ~ContentExample() override { UseMachine(nullptr); }
 
  private:
   ScriptedMachine machine_;
+  const testing::OnMachine on_machine_{machine_};
 };
 
 TEST_P(ContentExample, FindsWhatTheDocumentPromises) {

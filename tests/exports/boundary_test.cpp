@@ -8,16 +8,16 @@
 #include <fstream>
 #include <string_view>
 
-#include "client/state.h"
+#include "exports/state.h"
 #include "tests/client/recording_machine.h"
-#include "tests/support/client_world.h"
+#include "tests/support/exported_world.h"
 #include "tests/support/sentence.h"
 
 namespace velmohelp {
 namespace {
 
-using testing::ClientWorld;
 using ::testing::ElementsAre;
+using testing::ExportedWorld;
 using ::testing::IsEmpty;
 using std::string_view_literals::operator""sv;
 using testing::RecordingMachine;
@@ -41,7 +41,7 @@ class OddTexts : public ::testing::TestWithParam<OddText> {
   }
 
   RecordingMachine machine_;
-  ClientWorld world_;
+  ExportedWorld world_;
 };
 
 TEST_P(OddTexts, ReachTheViewerAsPageIdsUnchanged) {
@@ -70,7 +70,7 @@ TEST_P(OddTexts, ReachTheBrowserEscapedOrNotAtAll) {
 
 TEST_P(OddTexts, ReachTheViewerAsRawSearchesUnchanged) {
   sQueryIsRaw = true;
-  EXPECT_EQ(SearchHelp("Foo", "en_US", GetParam().text.c_str()), 0U);
+  EXPECT_EQ(::SearchHelp("Foo", "en_US", GetParam().text.c_str()), 0U);
   EXPECT_THAT(machine_.Requests(), ElementsAre(GetParam().text));
 }
 
@@ -102,7 +102,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(LongTarget, HasNoUrlAndIsNotShown) {
   const std::string page(1100, 'p');
-  ClientWorld world;
+  ExportedWorld world;
   world.Install();
   world.machine().AddFile(world.DownloadedManual() + "/" + page + ".html");
   world.StartBrowsers();
@@ -112,7 +112,7 @@ TEST(LongTarget, HasNoUrlAndIsNotShown) {
 }
 
 TEST(ProductInAnotherFolder, IsReadWhereItPoints) {
-  ClientWorld world;
+  ExportedWorld world;
   world.Install();
   world.AddFile(world.InstalledConfig("en_US", "../Foo"),
                 testing::HelpConfig{.id = "en_US_../Foo"}.Text());
@@ -120,8 +120,18 @@ TEST(ProductInAnotherFolder, IsReadWhereItPoints) {
   EXPECT_EQ(InitializeVelmoHelpClient("../Foo", "en_US", 1), 6U);
 }
 
+TEST(PathSeparatorsOfAProduct, AreReplacedForAnyFlagButZero) {
+  ExportedWorld world;
+  for (const unsigned int flag : {1U, 0x80000000U}) {
+    InitializeVelmoHelpClient("a/b", "en", flag);
+    EXPECT_EQ(sProductID, "a_b");
+  }
+  InitializeVelmoHelpClient("a/b", "en", 0);
+  EXPECT_EQ(sProductID, "a/b");
+}
+
 TEST(HelpMapThatIsADirectory, ThrowsFromTheTypedOperations) {
-  ClientWorld world;
+  ExportedWorld world;
   world.Install();
   const std::string map = world.DownloadedManual() + "/helpmap.txt";
   world.AddDirectory(map);
@@ -133,7 +143,7 @@ TEST(HelpMapThatIsADirectory, ThrowsFromTheTypedOperations) {
 }
 
 TEST(HelpMapThatIsADirectory, LeavesTheClientInitialised) {
-  ClientWorld world;
+  ExportedWorld world;
   world.Install();
   world.AddDirectory(world.DownloadedManual() + "/helpmap.txt");
   world.Initialise();

@@ -1,4 +1,4 @@
-#include "client/state.h"
+#include "exports/state.h"
 
 #include <gtest/gtest.h>
 

@@ -6,9 +6,8 @@
 #include <iterator>
 #include <ostream>
 
-#include "exports/this_machine.h"
 #include "platform/scripted/fault_machine.h"
-#include "tests/support/client_state.h"
+#include "tests/support/client_variables.h"
 
 namespace velmohelp::testing {
 
@@ -22,11 +21,11 @@ void OneQuestionFails::Run(int question) {
   GetParam().prepare(world);
   if (GetParam().initialised) world.Initialise();
   FaultMachine broken(world.machine(), question);
-  UseMachine(&broken);
-  code_ = GetParam().run();
+  world.RunOn(broken);
+  code_ = GetParam().run(world);
   asked_ = world.Questions();
   shown_ = world.Shown();
-  state_ = DescribeClientState();
+  state_ = Described(world.state());
 }
 
 Result OneQuestionFails::ResultComparedWith(const Steps& state) const {

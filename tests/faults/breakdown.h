@@ -33,7 +33,7 @@ struct Breakdown {
 
 struct DisturbedRequest {
   const char* sentence;
-  std::uint32_t (*run)();
+  std::uint32_t (*run)(ClientWorld& world);
   void (*prepare)(ClientWorld& world);
   bool initialised;
   Result undisturbed;
@@ -61,7 +61,7 @@ void PutViewer(ClientWorld& world);
 void PutServer(ClientWorld& world);
 
 // Questions.
-inline const Steps kPreferencesFolder = {"StandardFolder -32763 pref create"};
+inline const Steps kPreferencesFolder = {"PreferencesFolder create"};
 inline const Steps kHostsResources = {"ResourcesDirectory"};
 inline const Steps kDownloadedConfig = {kPreferencesFolder[0],
                                         kDownloadedConfigIsLookedFor};
@@ -69,12 +69,12 @@ inline const Steps kPreferenceFile = {kPreferencesFolder[0],
                                       kPreferenceFileIsLookedFor[0]};
 inline const Steps kNoViewerIsFound = {
     "BundleDirectory com.velmo.vxclientframework"};
-inline const Steps kNoViewerIsTried = {"FileExists \"\""};
+inline const Steps kNoViewerIsTried = {"FindFile \"\""};
 inline const Steps kOnlinePreferences = {kNetworkIsProbed[0],
                                          kNetworkIsProbed[1]};
 inline const Steps kUsersPreference = {kNetworkIsProbed[1]};
 inline const Steps kReachability = {kNetworkIsProbed[2]};
-inline const Steps kLaunchLooksForTheViewer = {"FileExists ~/Viewer"};
+inline const Steps kLaunchLooksForTheViewer = {"FindFile ~/Viewer"};
 
 // What is shown, and what is left.
 inline const Steps kNothing;

@@ -1,5 +1,4 @@
 // What a page display makes of a machine that fails once.
-#include <velmohelp/velmohelp.h>
 
 #include "tests/faults/breakdown.h"
 #include "tests/support/sentence.h"
@@ -31,8 +30,12 @@ const Steps kNoConfigNoViewerNoChoice =
 const Steps kNoViewerChosen = {"sHelpAppPath \"\"", "sViewerChoice 2"};
 const Steps kBrowserChosen = {"sViewerChoice 2"};
 
-std::uint32_t DisplayPage() { return DisplayVelmoHelpClientPage("page"); }
-std::uint32_t DisplayUnknown() { return DisplayVelmoHelpClientPage("other"); }
+std::uint32_t DisplayPage(ClientWorld& world) {
+  return world.DisplayPage("page");
+}
+std::uint32_t DisplayUnknown(ClientWorld& world) {
+  return world.DisplayPage("other");
+}
 
 INSTANTIATE_TEST_SUITE_P(
     Displays, OneQuestionFails,
@@ -114,13 +117,13 @@ INSTANTIATE_TEST_SUITE_P(
              {Joined({kPreferencesFolder,
                       kDownloadedMap,
                       {InDownloadedManual("/other.html"),
-                       "FileExists /Help//manual//helpmap.txt",
-                       "FileExists /Help//manual/other.html"},
+                       "FindFile /Help//manual//helpmap.txt",
+                       "FindFile /Help//manual/other.html"},
                       kPreferencesFolder,
                       kDownloadedMap,
                       {InDownloadedManual("/VX_HOME.html"),
-                       "FileExists /Help//manual//helpmap.txt",
-                       "FileExists /Help//manual/VX_HOME.html"}}),
+                       "FindFile /Help//manual//helpmap.txt",
+                       "FindFile /Help//manual/VX_HOME.html"}}),
               {0, kUnknownIdInViewer, kAsUndisturbed}},
              {kViewerIsTried, {7, kNothing, kAsUndisturbed}},
              {kLaunchLooksForTheViewer, {1, kNothing, kAsUndisturbed}},

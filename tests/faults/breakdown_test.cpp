@@ -1,8 +1,6 @@
 // What the other requests make of a machine that fails once.
 #include "tests/faults/breakdown.h"
 
-#include <velmohelp/velmohelp.h>
-
 #include "tests/support/sentence.h"
 
 namespace velmohelp::testing {
@@ -37,12 +35,17 @@ const Steps kNeverConfigured = {"sConfigID \"\"",
                                 "sHelpPaths 0"};
 const Steps kNoViewer = {"sHelpAppPath \"\""};
 
-std::uint32_t Initialise() {
-  return InitializeVelmoHelpClient("Foo", "en_US", 0);
+std::uint32_t Initialise(ClientWorld& world) {
+  return world.Initialise("Foo", "en_US");
 }
-std::uint32_t OpenX() { return OpenURL("http://x"); }
-std::uint32_t SearchXY() { return SearchHelp("Foo", "en_US", "x y"); }
-std::uint32_t SearchXYByNames() { return Search("a", "b", "en_US", "x y"); }
+std::uint32_t OnlineStatus(ClientWorld& world) { return world.OnlineStatus(); }
+std::uint32_t OpenX(ClientWorld& world) { return world.OpenUrl("http://x"); }
+std::uint32_t SearchXY(ClientWorld& world) {
+  return world.SearchHelp("Foo", "en_US", "x y");
+}
+std::uint32_t SearchXYByNames(ClientWorld& world) {
+  return world.SearchByNames("a", "b", "en_US", "x y");
+}
 
 INSTANTIATE_TEST_SUITE_P(
     Queries, OneQuestionFails,
@@ -56,14 +59,14 @@ INSTANTIATE_TEST_SUITE_P(
             {{kHostsResources,
               {6, kNothing, Joined({kNeverConfigured, kOffline})}},
              {{kPreferencesFolder[0],
-               "FileExists ~/Preferences/Foo/Cfg/Foo.helpcfg"},
+               "FindFile ~/Preferences/Foo/Cfg/Foo.helpcfg"},
               {0, kNothing, kAsUndisturbed}},
              {kOnlinePreferences, {0, kNothing, kAsUndisturbed}},
              {kReachability, {0, kNothing, kOffline}},
              {kHostsResources, {6, kNothing, Joined({kOldBaseUrl, kNoConfig})}},
              {kDownloadedConfig, {0, kNothing, kOldBaseUrl}}}},
         DisturbedRequest{"in the online status",
-                         GetVelmoHelpClientOnlineStatus,
+                         OnlineStatus,
                          PutServer,
                          true,
                          {0, kNothing, kAsUndisturbed},
@@ -120,7 +123,7 @@ std::vector<Breakdown> OfAFirstSearch() {
                  "kDownloadedHelpcfg \"\""},
                 kNoConfig,
                 {"sHelpPaths 0"}})}},
-      {{kPreferencesFolder[0], "FileExists ~/Preferences/Foo/Cfg/Foo.helpcfg",
+      {{kPreferencesFolder[0], "FindFile ~/Preferences/Foo/Cfg/Foo.helpcfg",
         kNetworkIsProbed[0]},
        {0, kSearchInViewer, kAsUndisturbed}},
       {kUsersPreference, {0, kSearchInViewer, kOnline}}};

@@ -23,7 +23,7 @@ long Display() { return DisplayVelmoHelpClientPage("page"); }
 long DisplayUnknown() { return DisplayVelmoHelpClientPage("unknown page"); }
 long DisplayUrl() { return DisplayVelmoHelpClientPage("http://x/a b"); }
 long Open() { return OpenURL("http://x/a b"); }
-long SearchText() { return SearchHelp("Foo", "en_US", "some words"); }
+long SearchText() { return ::SearchHelp("Foo", "en_US", "some words"); }
 long SearchByNames() { return Search("a", "b", "en_US", "some words"); }
 
 const EntryPoint kClient[] = {

@@ -5,14 +5,14 @@
 
 #include <new>
 
-#include "client/state.h"
-#include "tests/support/client_world.h"
+#include "exports/state.h"
+#include "tests/support/exported_world.h"
 #include "tests/support/sentence.h"
 
 namespace velmohelp {
 namespace {
 
-using testing::ClientWorld;
+using testing::ExportedWorld;
 
 /// Throws at a question that was counted from 1 or named; never for 0 and "".
 class ExhaustedMachine : public ScriptedMachine {
@@ -45,7 +45,7 @@ class MemoryRunsOut : public ::testing::TestWithParam<Request> {
   /// memory runs out, 0 for none; asked: all the questions asked.
   static std::uint32_t Run(std::size_t fault, std::vector<std::string>& asked) {
     ExhaustedMachine machine;
-    ClientWorld world(machine);
+    ExportedWorld world(machine);
     world.Install();
     world.InstallWorkingViewer();
     world.GoOnline();
@@ -94,7 +94,7 @@ INSTANTIATE_TEST_SUITE_P(
                 11},
         Request{"in the opening of a URL", [] { return OpenURL("http://x"); },
                 true, 0, 7},
-        Request{"in a search", [] { return SearchHelp("Foo", "en_US", "x"); },
+        Request{"in a search", [] { return ::SearchHelp("Foo", "en_US", "x"); },
                 true, 0, 1},
         Request{"in a search by names",
                 [] { return Search("a", "b", "en_US", "x"); }, true, 0, 1}),
@@ -102,7 +102,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(MemoryRanOut, LeavesAnInitialisationUndone) {
   ExhaustedMachine machine;
-  ClientWorld world(machine);
+  ExportedWorld world(machine);
   world.Install();
   world.Initialise();
   machine.Arm(1);
@@ -113,20 +113,20 @@ TEST(MemoryRanOut, LeavesAnInitialisationUndone) {
 /// The search goes on from what the initialisation has answered.
 TEST(MemoryRanOut, InTheInitialisationOfASearchIsAMissingConfiguration) {
   ExhaustedMachine machine;
-  ClientWorld world(machine);
+  ExportedWorld world(machine);
   world.Install();
   machine.Arm(1);
-  EXPECT_EQ(SearchHelp("Foo", "en_US", "x"), 4U);
+  EXPECT_EQ(::SearchHelp("Foo", "en_US", "x"), 4U);
 }
 
 /// What was true at the last probe must not outlive one that failed.
 TEST(MemoryRanOut, LeavesTheClientOffline) {
   const auto requests = {+[] { return GetVelmoHelpClientOnlineStatus(); },
                          +[] { return DisplayVelmoHelpClientPage("page"); },
-                         +[] { return SearchHelp("Foo", "en_US", "x"); }};
+                         +[] { return ::SearchHelp("Foo", "en_US", "x"); }};
   for (const auto request : requests) {
     ExhaustedMachine machine;
-    ClientWorld world(machine);
+    ExportedWorld world(machine);
     world.Install();
     world.GoOnline();
     world.Initialise();

@@ -15,9 +15,6 @@
 namespace velmohelp::testing {
 namespace {
 
-constexpr std::int16_t kUserDomain = -32763;
-constexpr std::uint32_t kPreferencesFolder = 0x70726566;  // 'pref'
-
 /// Puts what is asked for on the machine, and returns its path or name.
 using Prepare = std::string (*)(World& world);
 /// The answer is the right one.
@@ -68,15 +65,14 @@ TEST_P(MemoryOfTheMachine, LosesNothingAndAnswersTheNextTime) {
 std::string Nothing(World& /*world*/) { return ""; }
 
 const Question kFiles[] = {
-    {"FileExists", [](World& world) { return world.AddFile("a file"); },
+    {"FindFile", [](World& world) { return world.AddFile("a file"); },
      [](Machine& machine, const std::string& asked) {
-       return machine.FileExists(asked) && machine.FindFile(asked);
+       return machine.FindFile(asked).has_value();
      }},
-    {"StandardFolder",
+    {"PreferencesFolder",
      [](World& world) { return world.SetPreferencesFolder(); },
      [](Machine& machine, const std::string& asked) {
-       return machine.StandardFolder(kUserDomain, kPreferencesFolder, true) ==
-              asked;
+       return machine.PreferencesFolder(true) == asked;
      }},
     {"ResourcesDirectory", Nothing,
      [](Machine& machine, const std::string& /*asked*/) {

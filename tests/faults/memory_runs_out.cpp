@@ -2,11 +2,11 @@
 
 #include <algorithm>
 
-#include "tests/support/client_state.h"
+#include "tests/support/client_variables.h"
 
 namespace velmohelp::testing {
 
-void AtLoad(ClientWorld& /*world*/) { ResetClientState(); }
+void AtLoad(ClientWorld& world) { SetAsAtLoad(world.state()); }
 
 void Initialised(ClientWorld& world) {
   AtLoad(world);

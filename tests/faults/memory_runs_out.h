@@ -8,7 +8,7 @@
 #include <set>
 
 #include "tests/faults/exhaustion.h"
-#include "tests/support/client_world.h"
+#include "tests/support/exported_world.h"
 #include "tests/support/sentence.h"
 
 namespace velmohelp::testing {
@@ -50,7 +50,7 @@ class MemoryRunsOut : public ::testing::TestWithParam<EntryPoint> {
   /// The call's code; nullopt when it took fewer allocations than that.
   std::optional<long> CallExhaustedAt(std::size_t nth, Shortage shortage);
 
-  ClientWorld world_;
+  ExportedWorld world_;
 };
 
 }  // namespace velmohelp::testing

@@ -7,7 +7,7 @@
 
 #include <filesystem>
 
-#include "tests/support/client_world.h"
+#include "tests/support/exported_world.h"
 #include "tests/support/sentence.h"
 
 namespace velmohelp {
@@ -16,6 +16,7 @@ namespace {
 namespace fs = std::filesystem;
 
 using testing::ClientWorld;
+using testing::ExportedWorld;
 using testing::Outcome;
 
 /// Something happens to a file at the first question that ends with a word; the
@@ -75,7 +76,7 @@ class BetweenQuestionAndOpening
 
 TEST_P(BetweenQuestionAndOpening, TheDisplayHasAnOutcome) {
   InterruptedMachine machine;
-  ClientWorld world(machine);
+  ExportedWorld world(machine);
   world.Install();
   world.InstallWorkingViewer();
   world.StartBrowsers();
@@ -140,7 +141,7 @@ class BetweenTheReadsOfAnInitialisation
 
 TEST_P(BetweenTheReadsOfAnInitialisation, TheSecondDecides) {
   InterruptedMachine machine;
-  ClientWorld world(machine);
+  ExportedWorld world(machine);
   world.Install();
   machine.At("VelmoOnlineDefault", GetParam().happen, world.InstalledConfig());
   EXPECT_EQ(InitializeVelmoHelpClient("Foo", "en_US", 0), GetParam().code);

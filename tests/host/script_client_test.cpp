@@ -2,10 +2,10 @@
 #include <gtest/gtest.h>
 #include <velmohelp/script_host.h>
 
-#include "exports/this_machine.h"
 #include "platform/scripted/scripted_machine.h"
 #include "tests/host/lua_state.h"
 #include "tests/support/temporary_directory.h"
+#include "tests/support/this_machine.h"
 
 namespace velmohelp::testing {
 namespace {
@@ -20,12 +20,9 @@ class ScriptOverClient : public ::testing::Test {
   ScriptOverClient() {
     resources_.Write("help/en_US/Product.helpcfg", kConfiguration);
     machine_.SetResourcesDirectory(resources_.path());
-    UseMachine(&machine_);
     private_load_LxHelp(script_);
     private_load_LxHelpWorker(script_);
   }
-
-  ~ScriptOverClient() override { UseMachine(nullptr); }
 
   /// A call's result as type, value and name.
   std::string Call(const std::string& call) {
@@ -34,6 +31,7 @@ class ScriptOverClient : public ::testing::Test {
 
   TemporaryDirectory resources_;
   ScriptedMachine machine_;
+  const OnMachine on_machine_{machine_};
   LuaState script_;
 };
 

@@ -1,7 +1,7 @@
-#include <velmohelp/online.h>
-#include <velmohelp_locations.h>
+#include "online/network_status.h"
 
-#include "tests/support/on_scripted_machine.h"
+#include "platform/locations.h"
+#include "tests/support/scripted_test.h"
 
 namespace velmohelp::testing {
 namespace {
@@ -15,7 +15,7 @@ constexpr char kAsksUser[] =
 const std::string kAsksHost =
     std::string("HostReachability ") + kOnlineHelpHost;
 
-class NetworkStatus : public OnScriptedMachine {
+class OnlineHelp : public ScriptedTest {
  protected:
   void SetPreference(PreferenceScope scope, const char* value) {
     machine.SetPreference("com.velmo.VelmoOnlineHelp", "VelmoOnlineDefault",
@@ -26,48 +26,35 @@ class NetworkStatus : public OnScriptedMachine {
   }
 };
 
-TEST_F(NetworkStatus, AsksPreferencesThenTheServersHost) {
+TEST_F(OnlineHelp, AsksPreferencesThenTheServersHost) {
   MakeReachable();
-  GetNetworkStatus();
-  EXPECT_TRUE(sIsOnline);
+  EXPECT_TRUE(NetworkStatus(machine));
   EXPECT_THAT(machine.Questions(),
               ElementsAre(kAsksAdmin, kAsksUser, kAsksHost));
 }
 
-TEST_F(NetworkStatus, MakesNoProbeWhenTheAdministratorSaysNo) {
+TEST_F(OnlineHelp, IsNotProbedWhenTheAdministratorSaysNo) {
   MakeReachable();
   SetPreference(PreferenceScope::kAnyUserCurrentHost, "0");
   SetPreference(PreferenceScope::kCurrentUserAnyHost, "1");
-  sIsOnline = true;
-  GetNetworkStatus();
-  EXPECT_FALSE(sIsOnline);
+  EXPECT_FALSE(NetworkStatus(machine));
   EXPECT_THAT(machine.Questions(), ElementsAre(kAsksAdmin));
 }
 
-TEST_F(NetworkStatus, MakesNoProbeWhenTheUserSaysNo) {
+TEST_F(OnlineHelp, IsNotProbedWhenTheUserSaysNo) {
   MakeReachable();
   SetPreference(PreferenceScope::kCurrentUserAnyHost, "0");
-  sIsOnline = true;
-  GetNetworkStatus();
-  EXPECT_FALSE(sIsOnline);
+  EXPECT_FALSE(NetworkStatus(machine));
   EXPECT_THAT(machine.Questions(), ElementsAre(kAsksAdmin, kAsksUser));
 }
 
-TEST_F(NetworkStatus, ClearsAStaleAnswerWhenTheProbeFails) {
-  sIsOnline = true;
-  GetNetworkStatus();
-  EXPECT_FALSE(sIsOnline);
-}
-
-TEST_F(NetworkStatus, IsProbedAfreshAtEachCall) {
-  GetNetworkStatus();
+TEST_F(OnlineHelp, IsProbedAgainAtEachCall) {
+  EXPECT_FALSE(NetworkStatus(machine));
   MakeReachable();
-  GetNetworkStatus();
-  EXPECT_TRUE(sIsOnline);
+  EXPECT_TRUE(NetworkStatus(machine));
   machine.SetReachability(kOnlineHelpHost,
                           {.reachable = true, .connection_required = true});
-  GetNetworkStatus();
-  EXPECT_FALSE(sIsOnline);
+  EXPECT_FALSE(NetworkStatus(machine));
   EXPECT_EQ(machine.Questions().size(), 9);
 }
 

@@ -1,13 +1,14 @@
-#include <velmohelp/online.h>
-
-#include "tests/support/on_scripted_machine.h"
+#include "online/network_status.h"
+#include "tests/support/scripted_test.h"
 #include "tests/support/sentence.h"
 
 namespace velmohelp::testing {
 namespace {
 
 using namespace std::string_literals;
-using namespace ITEMInternal;
+using ITEMInternal::kAdminPreference;
+using ITEMInternal::kUserPreference;
+using ITEMInternal::NexletPreference;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
@@ -18,7 +19,7 @@ constexpr char kAsksAdmin[] =
 constexpr char kAsksUser[] =
     "Preference user com.velmo.VelmoOnlineHelp VelmoOnlineDefault";
 
-class OnlinePreferences : public OnScriptedMachine {
+class OnlinePreferences : public ScriptedTest {
  protected:
   void SetAdmin(const std::string& value) {
     machine.SetPreference(kDomain, kKey, PreferenceScope::kAnyUserCurrentHost,
@@ -33,8 +34,8 @@ class OnlinePreferences : public OnScriptedMachine {
 TEST_F(OnlinePreferences, AreReadInCrossedScopes) {
   SetAdmin("of the host");
   SetUser("of the user");
-  EXPECT_EQ(GetNexletPreference(kAdminPreference), "of the host");
-  EXPECT_EQ(GetNexletPreference(kUserPreference), "of the user");
+  EXPECT_EQ(OnlinePreferenceText(machine, kAdminPreference), "of the host");
+  EXPECT_EQ(OnlinePreferenceText(machine, kUserPreference), "of the user");
   EXPECT_THAT(machine.Questions(), ElementsAre(kAsksAdmin, kAsksUser));
 }
 
@@ -42,49 +43,51 @@ TEST_F(OnlinePreferences, OfNoScopeAreEmptyAndNothingIsAsked) {
   SetAdmin("0");
   SetUser("0");
   for (const int which : {2, 3, 255, -1}) {
-    EXPECT_EQ(GetNexletPreference(static_cast<NexletPreference>(which)), "");
+    EXPECT_EQ(
+        OnlinePreferenceText(machine, static_cast<NexletPreference>(which)),
+        "");
   }
   EXPECT_THAT(machine.Questions(), IsEmpty());
 }
 
 TEST_F(OnlinePreferences, AreEmptyWhereNothingIsSet) {
-  EXPECT_EQ(GetNexletPreference(kAdminPreference), "");
-  EXPECT_EQ(GetNexletPreference(kUserPreference), "");
+  EXPECT_EQ(OnlinePreferenceText(machine, kAdminPreference), "");
+  EXPECT_EQ(OnlinePreferenceText(machine, kUserPreference), "");
 }
 
 TEST_F(OnlinePreferences, AreEmptyForValuesThatHaveNoCString) {
   for (const char* value : {"", "\xE2\x82\xAC", "\xFF", "0\xFF"}) {
     SetAdmin(value);
-    EXPECT_EQ(GetNexletPreference(kAdminPreference), "");
-    EXPECT_TRUE(GetAdminOnlinePref());
+    EXPECT_EQ(OnlinePreferenceText(machine, kAdminPreference), "");
+    EXPECT_TRUE(IsOnlineHelpAllowed(machine, kAdminPreference));
   }
 }
 
 TEST_F(OnlinePreferences, AreReadAfreshAtEachCall) {
   SetAdmin("0");
-  EXPECT_FALSE(GetOnlineDefault());
+  EXPECT_FALSE(IsOnlineHelpAllowed(machine));
   SetAdmin("1");
-  EXPECT_TRUE(GetOnlineDefault());
+  EXPECT_TRUE(IsOnlineHelpAllowed(machine));
 }
 
 TEST_F(OnlinePreferences, OfTheUserAreNotReadWhenTheAdministratorSaysNo) {
   SetAdmin("0");
   SetUser("1");
-  EXPECT_FALSE(GetOnlineDefault());
+  EXPECT_FALSE(IsOnlineHelpAllowed(machine));
   EXPECT_THAT(machine.Questions(), ElementsAre(kAsksAdmin));
 }
 
 TEST_F(OnlinePreferences, OfTheUserSwitchOff) {
   SetUser("0");
-  EXPECT_FALSE(GetOnlineDefault());
+  EXPECT_FALSE(IsOnlineHelpAllowed(machine));
   SetAdmin("1");
-  EXPECT_FALSE(GetOnlineDefault());
+  EXPECT_FALSE(IsOnlineHelpAllowed(machine));
   EXPECT_THAT(machine.Questions(),
               ElementsAre(kAsksAdmin, kAsksUser, kAsksAdmin, kAsksUser));
 }
 
 TEST_F(OnlinePreferences, LeaveOnlineHelpOnByDefault) {
-  EXPECT_TRUE(GetOnlineDefault());
+  EXPECT_TRUE(IsOnlineHelpAllowed(machine));
   EXPECT_THAT(machine.Questions(), ElementsAre(kAsksAdmin, kAsksUser));
 }
 
@@ -99,15 +102,15 @@ class OnlineValue : public OnlinePreferences,
 
 TEST_P(OnlineValue, SwitchesItsScopeAlone) {
   SetAdmin(GetParam().value);
-  EXPECT_EQ(GetAdminOnlinePref(), GetParam().on);
-  EXPECT_TRUE(GetUserOnlinePref());
+  EXPECT_EQ(IsOnlineHelpAllowed(machine, kAdminPreference), GetParam().on);
+  EXPECT_TRUE(IsOnlineHelpAllowed(machine, kUserPreference));
   EXPECT_THAT(machine.Questions(), ElementsAre(kAsksAdmin, kAsksUser));
 }
 
 TEST_P(OnlineValue, SwitchesTheOtherScopeAlone) {
   SetUser(GetParam().value);
-  EXPECT_TRUE(GetAdminOnlinePref());
-  EXPECT_EQ(GetUserOnlinePref(), GetParam().on);
+  EXPECT_TRUE(IsOnlineHelpAllowed(machine, kAdminPreference));
+  EXPECT_EQ(IsOnlineHelpAllowed(machine, kUserPreference), GetParam().on);
 }
 
 const Row kValues[] = {
@@ -139,10 +142,8 @@ class ThrowingMachine : public ScriptedMachine {
 
 TEST(OnlinePreferencesThatThrow, AreEmptyAndOn) {
   ThrowingMachine machine;
-  UseMachine(&machine);
-  EXPECT_EQ(GetNexletPreference(kAdminPreference), "");
-  EXPECT_TRUE(GetOnlineDefault());
-  UseMachine(nullptr);
+  EXPECT_EQ(OnlinePreferenceText(machine, kAdminPreference), "");
+  EXPECT_TRUE(IsOnlineHelpAllowed(machine));
 }
 
 }  // namespace

@@ -1,13 +1,11 @@
-#include <velmohelp/online.h>
-
-#include "tests/support/on_scripted_machine.h"
+#include "online/network_status.h"
+#include "tests/support/scripted_test.h"
 #include "tests/support/sentence.h"
 
 namespace velmohelp::testing {
 namespace {
 
 using namespace std::string_literals;
-using ITEMInternal::GetOnlineStatus;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
@@ -18,12 +16,12 @@ struct Row {
   std::string question;
 };
 
-class ProbedUrl : public OnScriptedMachine,
+class ProbedUrl : public ScriptedTest,
                   public ::testing::WithParamInterface<Row> {};
 
 TEST_P(ProbedUrl, AsksForItsHost) {
   machine.SetReachability("h", {.reachable = true});
-  const bool is_reachable = GetOnlineStatus(GetParam().url);
+  const bool is_reachable = IsReachable(machine, GetParam().url);
   if (GetParam().question.empty()) {
     EXPECT_THAT(machine.Questions(), IsEmpty());
   } else {
@@ -92,11 +90,11 @@ INSTANTIATE_TEST_SUITE_P(WithoutAHost, ProbedUrl, ::testing::ValuesIn(kNoHosts),
 INSTANTIATE_TEST_SUITE_P(NoUrl, ProbedUrl, ::testing::ValuesIn(kNoUrls),
                          SentenceOf());
 
-class Answer : public OnScriptedMachine {
+class Answer : public ScriptedTest {
  protected:
   bool Status(Reachability answer) {
     machine.SetReachability("h", answer);
-    return GetOnlineStatus("http://h");
+    return IsReachable(machine, "http://h");
   }
 };
 
@@ -114,7 +112,7 @@ TEST_F(Answer, IsOfflineWhenTheHostIsNotReachable) {
 }
 
 TEST_F(Answer, IsOfflineWhenTheMachineCannotTell) {
-  EXPECT_FALSE(GetOnlineStatus("http://h"));
+  EXPECT_FALSE(IsReachable(machine, "http://h"));
 }
 
 }  // namespace

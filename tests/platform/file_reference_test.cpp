@@ -1,14 +1,11 @@
-#include <velmohelp/platform.h>
-
-#include "tests/support/on_scripted_machine.h"
+#include "platform/folders.h"
+#include "tests/support/scripted_test.h"
 #include "tests/support/sentence.h"
 
 namespace velmohelp::testing {
 namespace {
 
 using namespace std::string_literals;
-using ITEMInternal::FileReference;
-using ITEMInternal::GetFSRefFromPath;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
@@ -19,7 +16,7 @@ struct Row {
   std::string asked;
 };
 
-class Reference : public OnScriptedMachine,
+class Reference : public ScriptedTest,
                   public ::testing::WithParamInterface<Row> {
  protected:
   FileReference out = {7, 7};
@@ -28,7 +25,7 @@ class Reference : public OnScriptedMachine,
 TEST_P(Reference, IsThatOfTheFile) {
   machine.AddFile(GetParam().asked);
   const auto expected = machine.FindFile(GetParam().asked)->reference;
-  EXPECT_EQ(GetFSRefFromPath(GetParam().path, out), 0);
+  EXPECT_EQ(FindFileReference(machine, GetParam().path, out), 0);
   EXPECT_EQ(out.device, expected.device);
   EXPECT_EQ(out.inode, expected.inode);
   EXPECT_EQ(machine.Questions()[0], machine.Questions()[1]);
@@ -36,7 +33,7 @@ TEST_P(Reference, IsThatOfTheFile) {
 
 const Row kPaths[] = {
     {"a plain path", "/x/y.html", "/x/y.html"},
-    {"a path with what may not stand in a URL", "/x y/\"<ä>\"\n",
+    {"a path with characters that are illegal in a URL", "/x y/\"<ä>\"\n",
      "/x y/\"<ä>\"\n"},
     {"a path that is escaped already", "/x%20y/%C3%A4", "/x y/ä"},
     {"a path that is escaped twice", "/x%2520y", "/x y"},
@@ -60,13 +57,14 @@ INSTANTIATE_TEST_SUITE_P(OfPaths, Reference, ::testing::ValuesIn(kPaths),
 class NoReference : public Reference {
  protected:
   void ExpectStatus(const std::string& path, std::int16_t status) {
-    EXPECT_EQ(GetFSRefFromPath(path, out), status) << path.substr(0, 99);
+    EXPECT_EQ(FindFileReference(machine, path, out), status)
+        << path.substr(0, 99);
     EXPECT_EQ(out.device, 7);
     EXPECT_EQ(out.inode, 7);
   }
 };
 
-TEST_F(NoReference, ComesFromATextThatIsNotToBeMadeAUrl) {
+TEST_F(NoReference, ComesFromATextThatMakesNoUrl) {
   ExpectStatus("", -1403);
   ExpectStatus("\0/x"s, -1403);
   ExpectStatus("/\xFF", -1403);
@@ -74,7 +72,7 @@ TEST_F(NoReference, ComesFromATextThatIsNotToBeMadeAUrl) {
   EXPECT_THAT(machine.Questions(), IsEmpty());
 }
 
-TEST_F(NoReference, ComesFromEscapesThatAreNoUtf8) {
+TEST_F(NoReference, ComesFromEscapesThatAreNotUtf8) {
   ExpectStatus("/%FF", -1403);
   ExpectStatus("/\xC3\xA4%C3", -1403);
   EXPECT_THAT(machine.Questions(), IsEmpty());
@@ -99,7 +97,7 @@ TEST_F(NoReference, ComesFromAPathOf1024Bytes) {
   ExpectStatus(path, -43);
 }
 
-TEST_F(NoReference, ComesFromEscapesOfEscapesThatAreNoUtf8) {
+TEST_F(NoReference, ComesFromEscapesOfEscapesThatAreNotUtf8) {
   machine.AddFile("/\xFF");
   ExpectStatus("/%25FF", -43);
 }

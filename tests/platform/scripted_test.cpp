@@ -10,24 +10,23 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-TEST(ScriptedMachine, WritesDownEveryQuestionInOrder) {
+TEST(ScriptedMachine, RecordsEveryQuestionInOrder) {
   ScriptedMachine machine;
-  machine.FileExists("/a b");
-  machine.StandardFolder(-32763, 0x70726566, true);
-  machine.StandardFolder(0, 0x64657374, false);
+  machine.FindFile("/a b");
+  machine.PreferencesFolder(true);
+  machine.PreferencesFolder(false);
   machine.ResourcesDirectory();
   machine.RunToEnd("/x/QTV", {"-isAppInstalled", "", "p"});
   machine.HostReachability(std::nullopt);
   machine.HostReachability("localhost");
   machine.Preference("d", "k", PreferenceScope::kAnyUserCurrentHost);
   machine.Preference("d", "k", PreferenceScope::kCurrentUserAnyHost);
-  EXPECT_THAT(
-      machine.Questions(),
-      ElementsAre("FileExists \"/a b\"", "StandardFolder -32763 pref create",
-                  "StandardFolder 0 dest find", "ResourcesDirectory",
-                  "RunToEnd /x/QTV -isAppInstalled \"\" p", "HostReachability",
-                  "HostReachability localhost", "Preference admin d k",
-                  "Preference user d k"));
+  EXPECT_THAT(machine.Questions(),
+              ElementsAre("FindFile \"/a b\"", "PreferencesFolder create",
+                          "PreferencesFolder find", "ResourcesDirectory",
+                          "RunToEnd /x/QTV -isAppInstalled \"\" p",
+                          "HostReachability", "HostReachability localhost",
+                          "Preference admin d k", "Preference user d k"));
   machine.ForgetQuestions();
   EXPECT_THAT(machine.Questions(), IsEmpty());
 }
@@ -45,8 +44,8 @@ TEST(ScriptedMachine, ForgetsAFileThatIsRemoved) {
   ScriptedMachine machine;
   machine.AddFile("/x/file");
   machine.Remove("/x/file");
-  EXPECT_FALSE(machine.FileExists("/x/file"));
-  EXPECT_TRUE(machine.FileExists("/x"));
+  EXPECT_FALSE(machine.FindFile("/x/file"));
+  EXPECT_TRUE(machine.FindFile("/x"));
 }
 
 TEST(ScriptedMachine, HasTheNetworkThatItIsTold) {

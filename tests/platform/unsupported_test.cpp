@@ -5,11 +5,10 @@
 namespace velmohelp {
 namespace {
 
-TEST(UnsupportedMachine, AnswersNoToEverything) {
+TEST(UnsupportedMachine, CanDoNothing) {
   UnsupportedMachine machine;
-  EXPECT_FALSE(machine.FileExists("/"));
   EXPECT_FALSE(machine.FindFile("/"));
-  EXPECT_FALSE(machine.StandardFolder(-32763, 0x70726566, true));
+  EXPECT_FALSE(machine.PreferencesFolder(true));
   EXPECT_FALSE(machine.ResourcesDirectory());
   EXPECT_FALSE(machine.BundleDirectory("com.example.x"));
   EXPECT_FALSE(machine.ApplicationExecutable("/"));

@@ -1,42 +1,44 @@
-// What becomes of the tool's answer to the question where the viewer is.
-#include <velmohelp/platform.h>
-
-#include "tests/support/on_scripted_machine.h"
+// What the client makes of the path that the tool prints for the viewer.
+#include "platform/help_tool.h"
+#include "tests/support/scripted_test.h"
 #include "tests/support/sentence.h"
 
 namespace velmohelp::testing {
 namespace {
 
 using namespace std::string_literals;
-using ITEMInternal::GetHelpApplicationPath;
 using ::testing::ElementsAre;
 
 const std::string kTool = "/fw//Versions/A/Resources/QTV";
 constexpr char kApp[] = "/apps/Viewer.app";
 constexpr char kViewer[] = "/apps/Viewer.app/bin/Viewer";
 
-/// The tool is there, and says that the viewer "klh" of "id.1" is installed.
-class ViewerPath : public OnScriptedMachine {
+/// The tool exists, and says that the viewer "klh" of "id.1" is installed.
+class ViewerPath : public ScriptedTest {
  protected:
   ViewerPath() {
-    sAppID = "klh";
-    sPublisherID = "id.1";
     machine.SetBundle("com.velmo.vxclientframework", "/fw");
     machine.AddFile(kTool);
     machine.OnRun(kTool, {"-isAppInstalled", "klh", "id.1"}, 0);
     machine.SetExecutable(kApp, kViewer);
   }
+  std::string Path() {
+    return HelpApplicationPath(machine, {app_id, publisher_id});
+  }
   void SetOutput(const std::string& output) {
     machine.OnOutput(kTool, {"-appLocation", "klh", "id.1"}, output);
   }
+
+  std::string app_id = "klh";
+  std::string publisher_id = "id.1";
 };
 
 TEST_F(ViewerPath, TakesTwoRunsOfTheTool) {
   SetOutput(kApp);
-  EXPECT_EQ(GetHelpApplicationPath(), kViewer);
+  EXPECT_EQ(Path(), kViewer);
   EXPECT_THAT(machine.Questions(),
               ElementsAre("BundleDirectory com.velmo.vxclientframework",
-                          "FileExists " + kTool,
+                          "FindFile " + kTool,
                           "RunToEnd " + kTool + " -isAppInstalled klh id.1",
                           "FirstOutput " + kTool + " -appLocation klh id.1",
                           "ApplicationExecutable /apps/Viewer.app"));
@@ -45,24 +47,24 @@ TEST_F(ViewerPath, TakesTwoRunsOfTheTool) {
 TEST_F(ViewerPath, IsNotAskedForWhenTheViewerIsNotInstalled) {
   SetOutput(kApp);
   machine.OnRun(kTool, {"-isAppInstalled", "klh", "id.1"}, 1);
-  EXPECT_EQ(GetHelpApplicationPath(), "");
+  EXPECT_EQ(Path(), "");
   EXPECT_EQ(machine.Questions().back(),
             "RunToEnd " + kTool + " -isAppInstalled klh id.1");
 }
 
-TEST_F(ViewerPath, IsNotAskedForWhenTheFirstRunDoesNotEndWell) {
+TEST_F(ViewerPath, IsNotAskedForWhenTheFirstRunFails) {
   SetOutput(kApp);
-  sPublisherID = "other";
+  publisher_id = "other";
   machine.OnOutput(kTool, {"-appLocation", "klh", "other"}, kApp);
-  EXPECT_EQ(GetHelpApplicationPath(), "");
+  EXPECT_EQ(Path(), "");
   EXPECT_EQ(machine.Questions().size(), 3);
 }
 
 TEST_F(ViewerPath, IsAskedForWithEmptyIdsToo) {
-  sAppID = sPublisherID = "";
+  app_id = publisher_id = "";
   machine.OnRun(kTool, {"-isAppInstalled", "", ""}, 0);
   machine.OnOutput(kTool, {"-appLocation", "", ""}, kApp);
-  EXPECT_EQ(GetHelpApplicationPath(), kViewer);
+  EXPECT_EQ(Path(), kViewer);
   EXPECT_EQ(machine.Questions()[2],
             "RunToEnd " + kTool + R"( -isAppInstalled "" "")");
   EXPECT_EQ(machine.Questions()[3],
@@ -70,15 +72,15 @@ TEST_F(ViewerPath, IsAskedForWithEmptyIdsToo) {
 }
 
 TEST_F(ViewerPath, TakesIdsThatLookLikeOptionsAsOneArgumentEach) {
-  sAppID = "-x y";
-  sPublisherID = "\"";
-  GetHelpApplicationPath();
+  app_id = "-x y";
+  publisher_id = "\"";
+  Path();
   EXPECT_EQ(machine.Questions()[2],
             "RunToEnd " + kTool + " -isAppInstalled \"-x y\" \"\"\"");
 }
 
 TEST_F(ViewerPath, IsEmptyWhenTheToolCannotBeRead) {
-  EXPECT_EQ(GetHelpApplicationPath(), "");
+  EXPECT_EQ(Path(), "");
   EXPECT_EQ(machine.Questions().size(), 4);
 }
 
@@ -86,9 +88,9 @@ TEST_F(ViewerPath, IsEmptyForAnExecutableOf1024Bytes) {
   SetOutput(kApp);
   const std::string longest = "/" + std::string(1022, 'a');
   machine.SetExecutable(kApp, longest);
-  EXPECT_EQ(GetHelpApplicationPath(), longest);
+  EXPECT_EQ(Path(), longest);
   machine.SetExecutable(kApp, longest + "a");
-  EXPECT_EQ(GetHelpApplicationPath(), "");
+  EXPECT_EQ(Path(), "");
 }
 
 struct Row {
@@ -105,7 +107,7 @@ TEST_P(ToolOutput, NamesAnApplication) {
   const std::string& application = GetParam().application;
   if (!application.empty()) machine.SetExecutable(application, kViewer);
   SetOutput(GetParam().output);
-  EXPECT_EQ(GetHelpApplicationPath(), application.empty() ? "" : kViewer);
+  EXPECT_EQ(Path(), application.empty() ? "" : kViewer);
   EXPECT_EQ(machine.Questions().size(), application.empty() ? 4 : 5);
   if (application.empty()) return;
   const bool plain = application.find_first_of(" \"") == std::string::npos;
@@ -121,7 +123,7 @@ const Row kPaths[] = {
     {"a path with one line feed loses it", "/x.app\n", "/x.app"},
     {"a path with two line feeds keeps one", "/x.app\n\n", "/x.app\n"},
     {"a carriage return is kept", "/x.app\r\n", "/x.app\r"},
-    {"blanks are kept", " /x y.app \n", " /x y.app "},
+    {"spaces are kept", " /x y.app \n", " /x y.app "},
     {"a line feed inside is kept", "/x\n/y", "/x\n/y"},
     {"a line feed at the start is kept", "\n/x\n", "\n/x"},
     {"quotes are kept", "\"/x.app\"\n", "\"/x.app\""},
@@ -148,9 +150,9 @@ INSTANTIATE_TEST_SUITE_P(Paths, ToolOutput, ::testing::ValuesIn(kPaths),
 INSTANTIATE_TEST_SUITE_P(NoPaths, ToolOutput, ::testing::ValuesIn(kNoPaths),
                          SentenceOf());
 
-TEST_F(ViewerPath, IsEmptyForTwoLineFeedsBehindARealApplication) {
+TEST_F(ViewerPath, IsEmptyForTwoLineFeedsAfterARealApplication) {
   SetOutput(kApp + "\n\n"s);
-  EXPECT_EQ(GetHelpApplicationPath(), "");
+  EXPECT_EQ(Path(), "");
 }
 
 }  // namespace

@@ -96,10 +96,9 @@ TEST_F(LocalPage, OfAFolderWithoutANameIsInTheRootItself) {
 }
 
 TEST_F(LocalPage, IsLookedForBelowTheSuffixWithoutAPreferencesFolder) {
-  ScriptedMachine bare;
-  UseMachine(&bare);
+  machine = ScriptedMachine();
   AddRow("a");
-  bare.AddFile("/store/Help/" + Folder("a") + "/intro.html");
+  machine.AddFile("/store/Help/" + Folder("a") + "/intro.html");
   EXPECT_EQ(Locally("intro.html"),
             Found("/store/Help/" + Folder("a") + "/intro.html"));
 }

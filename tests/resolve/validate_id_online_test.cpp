@@ -94,7 +94,7 @@ TEST_F(MappedUrl, IsFetchedByTheStatesFlagNotByTheArgument) {
   EXPECT_EQ(Locally("intro.html"), Found(kUrl));
   sIsOnline = false;
   EXPECT_EQ(OnTheNet("intro.html"), NotFound("intro.html"));
-  EXPECT_EQ(machine.Questions()[2], "FileExists https://x/y");
+  EXPECT_EQ(machine.Questions()[2], "FindFile https://x/y");
 }
 
 TEST_F(MappedUrl, IsTestedAsAPathOfflineAndFails) {
@@ -103,7 +103,7 @@ TEST_F(MappedUrl, IsTestedAsAPathOfflineAndFails) {
   EXPECT_EQ(Locally("intro.html"), NotFound("intro.html"));
   EXPECT_THAT(machine.Questions(),
               ElementsAre(asks_for_root, AsksForMap(Downloaded("a")),
-                          "FileExists https://x/y", AsksForMap(Installed("a")),
+                          "FindFile https://x/y", AsksForMap(Installed("a")),
                           Asks(Installed("a") + "/intro.html")));
 }
 

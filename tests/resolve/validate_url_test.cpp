@@ -19,15 +19,14 @@ TEST_F(ValidUrl, WithoutAFetchIsAPathAtWhichSomethingExists) {
   EXPECT_FALSE(ValidateURL("/x/other.html", false));
   EXPECT_FALSE(ValidateURL("", false));
   EXPECT_THAT(machine.Questions(),
-              ElementsAre("FileExists /x/page.html", "FileExists /x",
-                          "FileExists /x/other.html", "FileExists \"\""));
+              ElementsAre("FindFile /x/page.html", "FindFile /x",
+                          "FindFile /x/other.html", "FindFile \"\""));
 }
 
 TEST_F(ValidUrl, WithoutAFetchNeverTouchesTheNetwork) {
   machine.AddText("http://localhost/x");
   EXPECT_FALSE(ValidateURL("http://localhost/x", false));
-  EXPECT_THAT(machine.Questions(),
-              ElementsAre("FileExists http://localhost/x"));
+  EXPECT_THAT(machine.Questions(), ElementsAre("FindFile http://localhost/x"));
 }
 
 TEST_F(ValidUrl, WithAFetchIsOneThatHasAText) {

@@ -1,15 +1,12 @@
 #include "tests/support/client_world.h"
 
 #include <gtest/gtest.h>
-#include <velmohelp/velmohelp.h>
-#include <velmohelp_locations.h>
 
 #include <filesystem>
 #include <fstream>
 #include <ostream>
 
-#include "exports/this_machine.h"
-#include "tests/support/client_state.h"
+#include "platform/locations.h"
 
 namespace velmohelp::testing {
 namespace {
@@ -34,22 +31,45 @@ bool IsLaunch(const std::string& question) {
 
 }  // namespace
 
-ClientWorld::ClientWorld(ScriptedMachine& machine)
+ClientWorld::ClientWorld(ScriptedMachine& machine, ClientState& state)
     : machine_(machine),
+      client_machine_(&machine),
+      state_(state),
       root_(fs::temp_directory_path() / OwnName("velmohelp")) {
-  ResetClientState();
   fs::create_directories(root_);
   machine_.SetResourcesDirectory(root_ + "/Host");
   machine_.SetPreferencesFolder(Preferences());
-  UseMachine(&machine_);
 }
 
 ClientWorld::~ClientWorld() {
-  UseMachine(nullptr);
-  ResetClientState();
   std::error_code ignored;
   fs::remove_all(root_, ignored);
   fs::remove_all(InstalledManual(), ignored);
+}
+
+std::uint32_t ClientWorld::Initialise(const char* product, const char* locale,
+                                      bool clean_product) {
+  return velmohelp::Initialise(client(), product, locale, clean_product);
+}
+
+std::uint32_t ClientWorld::OnlineStatus() { return OnlineStatusOf(client()); }
+
+std::uint32_t ClientWorld::DisplayPage(const char* page_id) {
+  return velmohelp::DisplayPage(client(), page_id);
+}
+
+std::uint32_t ClientWorld::OpenUrl(const char* url) {
+  return velmohelp::OpenUrl(client(), url);
+}
+
+std::uint32_t ClientWorld::SearchHelp(const char* product, const char* locale,
+                                      const char* text) {
+  return velmohelp::SearchHelp(client(), product, locale, text);
+}
+
+std::uint32_t ClientWorld::SearchByNames(const char* a, const char* b,
+                                         const char* locale, const char* text) {
+  return velmohelp::SearchByNames(client(), a, b, locale, text);
 }
 
 void ClientWorld::AddFile(const std::string& path, const std::string& text) {
@@ -133,7 +153,7 @@ void ClientWorld::GoOnline() {
 }
 
 void ClientWorld::Initialise() {
-  ASSERT_EQ(InitializeVelmoHelpClient("Foo", "en_US", 0), 0U);
+  ASSERT_EQ(Initialise("Foo", "en_US"), 0U);
   machine_.ForgetQuestions();
 }
 

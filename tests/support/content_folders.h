@@ -5,10 +5,10 @@
 #include <unistd.h>
 #include <velmohelp/platform.h>
 #include <velmohelp/resolve.h>
-#include <velmohelp_locations.h>
 
 #include <string>
 
+#include "platform/locations.h"
 #include "tests/support/on_scripted_machine.h"
 #include "tests/support/temp_folder.h"
 
@@ -84,10 +84,10 @@ class ContentFolders : public OnScriptedMachine {
   static Target Found(const std::string& out) { return {0, out}; }
   static Target NotFound(const std::string& id) { return {3, id}; }
 
-  const std::string asks_for_root = "StandardFolder -32763 pref create";
+  const std::string asks_for_root = "PreferencesFolder create";
   static std::string Asks(const std::string& path) {
-    return path.find(' ') == std::string::npos ? "FileExists " + path
-                                               : "FileExists \"" + path + "\"";
+    return path.find(' ') == std::string::npos ? "FindFile " + path
+                                               : "FindFile \"" + path + "\"";
   }
   /// The question whether a folder has a help map.
   static std::string AsksForMap(const std::string& directory) {

@@ -1,41 +1,23 @@
-// The client's state at load, on a machine that a test describes.
+// The exported functions on a machine that a test describes, with the client's
+// state as at load.
 #ifndef TESTS_SUPPORT_ON_SCRIPTED_MACHINE_H_
 #define TESTS_SUPPORT_ON_SCRIPTED_MACHINE_H_
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <string>
-
-#include "client/state.h"
-#include "exports/this_machine.h"
+#include "exports/state.h"
 #include "platform/scripted/scripted_machine.h"
+#include "tests/support/this_machine.h"
 
 namespace velmohelp::testing {
 
-/// Clears what the tests of these layers write.
-inline void ResetState() {
-  for (std::string* text :
-       {&sProductID, &sLocale, &sConfigID, &sBaseUrl, &sAppID, &sPublisherID,
-        &kKLHPreferenceFile, &kDownloadedOfflineContent, &kDownloadedHelpcfg}) {
-    text->clear();
-  }
-  for (auto& row : sHelpPaths) row[0] = row[1] = "";
-  sHelpPathCount = kHelpPathCapacity;
-  sHelpMap.clear();
-  sAppIDIsNull = false;
-  sIsOnline = false;
-}
-
 class OnScriptedMachine : public ::testing::Test {
  protected:
-  OnScriptedMachine() {
-    ResetState();
-    UseMachine(&machine);
-  }
-  ~OnScriptedMachine() override { UseMachine(nullptr); }
-
   ScriptedMachine machine;
+
+ private:
+  const OnMachine on_machine_{machine};
 };
 
 }  // namespace velmohelp::testing

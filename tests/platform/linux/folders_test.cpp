@@ -10,7 +10,6 @@
 #include <sys/statvfs.h>
 #include <unistd.h>
 #include <velmohelp/export.h>
-#include <velmohelp_locations.h>
 
 #include <cerrno>
 #include <climits>
@@ -21,6 +20,7 @@
 #include "platform/linux/files.h"
 #include "platform/linux/own_location.h"
 #include "platform/linux/preference_store.h"
+#include "platform/locations.h"
 #include "tests/support/children.h"
 #include "tests/support/sentence.h"
 #include "tests/support/temporary_directory.h"

@@ -1,0 +1,67 @@
+#include <velmohelp/velmohelp.h>
+
+#include <cstring>
+
+#include "exports/guarded.h"
+#include "exports/this_client.h"
+#include "util/percent_encoding.h"
+
+using velmohelp::Guarded;
+using velmohelp::ThisClient;
+
+namespace {
+
+/// The text and a NUL into room bytes at out. Returns the text's length, or -1
+/// when they do not fit.
+long Copy(const std::string& text, char* out, long room) {
+  const auto length = static_cast<long>(text.size());
+  if (length >= room) return -1;
+  std::memcpy(out, text.c_str(), text.size() + 1);
+  return length;
+}
+
+}  // namespace
+
+uint32_t InitializeVelmoHelpClient(const char* productId, const char* locale,
+                                   unsigned int cleanProductId) {
+  return velmohelp::Initialise(ThisClient(), productId, locale,
+                               cleanProductId != 0);
+}
+
+uint32_t GetVelmoHelpClientVersion(void) { return 0x10500; }
+
+uint32_t GetVelmoHelpClientOnlineStatus(void) {
+  return Guarded(kOnlineStatusOffline,
+                 [] { return velmohelp::OnlineStatusOf(ThisClient()); });
+}
+
+uint32_t DisplayVelmoHelpClientPage(const char* pageId) {
+  return Guarded(kDisplayUnexpectedResult,
+                 [&] { return velmohelp::DisplayPage(ThisClient(), pageId); });
+}
+
+uint32_t OpenURL(const char* url) {
+  return Guarded(kOpenUrlUnexpectedResult,
+                 [&] { return velmohelp::OpenUrl(ThisClient(), url); });
+}
+
+uint32_t SearchHelp(const char* productId, const char* locale,
+                    const char* searchText) {
+  return Guarded(kSearchLaunchFailure, [&] {
+    return velmohelp::SearchHelp(ThisClient(), productId, locale, searchText);
+  });
+}
+
+uint32_t Search(const char* a, const char* b, const char* locale,
+                const char* searchText) {
+  return Guarded(kSearchLaunchFailure, [&] {
+    return velmohelp::SearchByNames(ThisClient(), a, b, locale, searchText);
+  });
+}
+
+long VelmoHelpEncodeURIComponent(const char* in, char* out, long outSize) {
+  if (in == nullptr || out == nullptr) return -1;
+  return Guarded(-1L, [&] {
+    return Copy(velmohelp::EncodeUriComponent(in), out, outSize);
+  });
+}
