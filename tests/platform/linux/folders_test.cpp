@@ -2,6 +2,7 @@
 #include "platform/linux/folders.h"
 
 #include <dlfcn.h>
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <pthread.h>
 #include <pwd.h>
@@ -238,6 +239,12 @@ TEST(PreferencesFolder, IsNoneWhereAFileIs) {
   EXPECT_FALSE(PreferencesFolder(true));
   setenv("XDG_CONFIG_HOME", (file + "/x").c_str(), 1);
   EXPECT_FALSE(PreferencesFolder(true));
+}
+
+/// The host may start a program of its own at any moment.
+TEST(OpenedFile, PassesToNoProgram) {
+  const Descriptor file = OpenForReading("/proc/self/exe");
+  EXPECT_EQ(fcntl(file.number(), F_GETFD), FD_CLOEXEC);
 }
 
 TEST(Resources, AreBesideTheHostBeforeTheyAreInShare) {

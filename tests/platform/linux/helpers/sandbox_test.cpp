@@ -67,6 +67,8 @@ TEST_F(Sandbox, OpensNothingWithoutAPortal) { EXPECT_FALSE(Opens(kUrl)); }
 TEST_F(Sandbox, HasOpenedNothingWhileThePersonChooses) {
   PortalDouble portal({.response = {}});
   EXPECT_FALSE(Opens(kUrl));
+  // Another helper comes and goes meanwhile: this one had the time to leave.
+  EXPECT_FALSE(Opens("no URI"));
   EXPECT_TRUE(portal.caller_is_on_the_bus());
   portal.Choose();
   while (portal.caller_is_on_the_bus()) std::this_thread::yield();
