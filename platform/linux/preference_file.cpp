@@ -1,5 +1,7 @@
 #include "platform/linux/preference_file.h"
 
+#include <algorithm>
+
 #include "util/percent_encoding.h"
 #include "util/trim.h"
 #include "util/utf8.h"
@@ -11,6 +13,12 @@ constexpr std::string_view kGroup = "[Preferences]";
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
 constexpr std::string_view kSpaces = " \t\r\v\f";
+
+/// Consumes empty lines: a file of nothing else must not cost a request
+/// seconds.
+void SkipLineFeeds(std::string_view& text) {
+  text.remove_prefix(std::min(text.find_first_not_of('\n'), text.size()));
+}
 
 /// Consumes and returns the first line of the text, trimmed.
 std::string_view ConsumeLine(std::string_view& text) {
@@ -44,7 +52,7 @@ std::optional<std::string> PreferenceInText(std::string_view text,
   }
   std::optional<std::string_view> value;
   bool in_group = false;
-  while (!text.empty()) {
+  for (SkipLineFeeds(text); !text.empty(); SkipLineFeeds(text)) {
     const std::string_view line = ConsumeLine(text);
     if (line.starts_with('[')) {
       in_group = line == kGroup;
