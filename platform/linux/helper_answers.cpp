@@ -24,8 +24,7 @@ std::optional<std::string> HelperAnswers::Ask(
     std::chrono::milliseconds patience, std::size_t limit) {
   // Behind a NUL the helper would not see the rest of the question.
   if (question.find('\0') != std::string::npos) return std::nullopt;
-  return programs_.AllOutput(folder_ + "/" + helper, {question}, patience,
-                             limit);
+  return programs_.Answer(folder_ + "/" + helper, {question}, patience, limit);
 }
 
 bool HelperAnswers::OpenInBrowser(const std::string& url) {

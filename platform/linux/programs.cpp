@@ -9,7 +9,7 @@
 #include "platform/linux/pipe.h"
 #include "platform/linux/process.h"
 #include "platform/linux/retry.h"
-#include "platform/linux/timed_read.h"
+#include "platform/linux/read_answer.h"
 
 namespace velmohelp {
 namespace {
@@ -90,12 +90,12 @@ bool Programs::StartAndCheck(const std::string& program,
   return process && reaper_.IsRunning(*process);
 }
 
-std::optional<std::string> Programs::AllOutput(
+std::optional<std::string> Programs::Answer(
     const std::string& program, const Arguments& arguments,
     std::chrono::milliseconds patience, std::size_t limit) {
   const auto source = StartSource(program, arguments);
   if (!source) return std::nullopt;
-  auto text = ReadUntilClosed(source->output, patience, limit);
+  auto text = ReadAnswer(source->output, patience, limit);
   if (!text) reaper_.End(source->process);
   return text;
 }

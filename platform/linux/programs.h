@@ -34,13 +34,11 @@ class Programs {
   /// The same, and true only when it has not ended at once.
   bool StartAndCheck(const std::string& program, const Arguments& arguments);
 
-  /// All that a program writes to its standard output until it closes it;
-  /// nullopt when that takes longer than patience, or is longer than limit.
-  /// The program is ended then.
-  std::optional<std::string> AllOutput(const std::string& program,
-                                       const Arguments& arguments,
-                                       std::chrono::milliseconds patience,
-                                       std::size_t limit);
+  /// A helper's answer, see ReadAnswer; a helper without one is ended.
+  std::optional<std::string> Answer(const std::string& program,
+                                    const Arguments& arguments,
+                                    std::chrono::milliseconds patience,
+                                    std::size_t limit);
 
  private:
   /// A program, and the end of a pipe at which its output is read.

@@ -122,7 +122,7 @@ INSTANTIATE_TEST_SUITE_P(
         Broken{"talking nonsense", "#!/bin/sh\necho nonsense\n"},
         Broken{"talking without end", "#!/bin/sh\nexec cat /dev/zero\n"},
         Broken{"promising words that do not come",
-               "#!/bin/sh\nprintf 'start\\0002\\000/bin/true\\000'\n"},
+               "#!/bin/sh\nprintf '18:start\\0002\\000/bin/true\\000,'\n"},
         Broken{"no program", "no program"}),
     SentenceOf());
 

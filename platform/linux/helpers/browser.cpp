@@ -33,6 +33,11 @@ std::string StartRecords(const std::vector<std::string>& words) {
   return answer;
 }
 
+/// "" for a URL that nothing opens. False when nobody reads it.
+bool GiveAnswer(const std::string& answer) {
+  return velmo_give_answer(answer.data(), answer.size()) != 0;
+}
+
 /// "" when no program opens the URL.
 std::string StartAnswer(const std::string& url) {
   const auto words = DefaultBrowserCommand(url);
@@ -54,10 +59,9 @@ bool OpenFromSandbox(const std::string& url) {
   return given && opened;
 }
 
-bool Open(const std::string& url) {
-  if (IsInSandbox()) return OpenFromSandbox(url);
-  const std::string answer = StartAnswer(url);
-  return !answer.empty() && GiveAnswer(answer);
+bool Open(const char* url) {
+  if (!IsAbsoluteUri(url)) return GiveAnswer("");
+  return IsInSandbox() ? OpenFromSandbox(url) : GiveAnswer(StartAnswer(url));
 }
 
 /// What a desktop's registry logs must not appear in the host's terminal.
@@ -68,7 +72,7 @@ GLogWriterOutput DropMessage(GLogLevelFlags, const GLogField*, gsize,
 
 int Main(int argc, char* argv[]) {
   g_log_set_writer_func(&DropMessage, nullptr, nullptr);
-  return argc == 2 && IsAbsoluteUri(argv[1]) && Open(argv[1]) ? 0 : 1;
+  return argc == 2 && Open(argv[1]) ? 0 : 1;
 }
 
 }  // namespace

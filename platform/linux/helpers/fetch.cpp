@@ -1,9 +1,12 @@
 // velmohelp-fetch: whether there is a text at a URL. See protocol.h.
+#include <string_view>
+
 #include "platform/linux/helpers/answer.h"
 #include "platform/linux/helpers/protocol.h"
 #include "platform/linux/helpers/transfer.h"
 
 int main(int argc, char* argv[]) {
-  if (argc != 2 || !velmohelp::IsTextAt(argv[1])) return 1;
-  return velmohelp::GiveAnswer(VELMO_IS_TEXT) ? 0 : 1;
+  const bool is_text = argc == 2 && velmohelp::IsTextAt(argv[1]);
+  const std::string_view answer = is_text ? VELMO_IS_TEXT : "";
+  return velmo_give_answer(answer.data(), answer.size()) ? 0 : 1;
 }

@@ -3,8 +3,8 @@
 #include <netdb.h>
 #include <string.h>
 #include <sys/socket.h>
-#include <unistd.h>
 
+#include "platform/linux/helpers/answer.h"
 #include "platform/linux/helpers/protocol.h"
 #include "platform/linux/helpers/route.h"
 #include "platform/linux/helpers/time_limit.h"
@@ -23,7 +23,7 @@ static enum velmo_route best_route(const struct addrinfo* addresses) {
   return best;
 }
 
-static const char* answer_for(enum velmo_route route) {
+static const char* word_for(enum velmo_route route) {
   switch (route) {
     case VELMO_ROUTE:
       return VELMO_REACHABLE;
@@ -34,21 +34,21 @@ static const char* answer_for(enum velmo_route route) {
   }
 }
 
-int main(int argc, char* argv[]) {
-  velmo_limit_time(TIME_LIMIT_SECONDS);
+/* "" when the name is unknown. */
+static const char* answer_about(const char* host) {
   /* The port of the request that may follow. Routes do not depend on it. */
   static const char port[] = "80";
   const struct addrinfo wanted = {.ai_socktype = SOCK_DGRAM,
                                   .ai_flags = AI_NUMERICSERV};
   struct addrinfo* addresses = NULL;
-  if (argc != 2 || getaddrinfo(argv[1], port, &wanted, &addresses) != 0) {
-    return 1;
-  }
-  const char* answer = answer_for(best_route(addresses));
+  if (getaddrinfo(host, port, &wanted, &addresses) != 0) return "";
+  const char* word = word_for(best_route(addresses));
   freeaddrinfo(addresses);
-  /* Closed, so that the library need not wait for the end of this program. */
-  return write(STDOUT_FILENO, answer, strlen(answer)) > 0 &&
-                 close(STDOUT_FILENO) == 0
-             ? 0
-             : 1;
+  return word;
+}
+
+int main(int argc, char* argv[]) {
+  velmo_limit_time(TIME_LIMIT_SECONDS);
+  const char* answer = argc == 2 ? answer_about(argv[1]) : "";
+  return velmo_give_answer(answer, strlen(answer)) ? 0 : 1;
 }
