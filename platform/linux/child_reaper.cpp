@@ -10,8 +10,8 @@
 #include <cstdio>
 #include <ctime>
 
-#include "platform/linux/descriptor.h"
-#include "platform/linux/retry.h"
+#include "platform/linux/retry_on_eintr.h"
+#include "platform/linux/unique_fd.h"
 
 namespace velmohelp {
 namespace {
@@ -25,10 +25,10 @@ std::uint64_t StartTime(pid_t process) {
   char path[32];
   char text[1024];
   std::snprintf(path, sizeof path, "/proc/%d/stat", static_cast<int>(process));
-  const Descriptor file(open(path, O_RDONLY | O_CLOEXEC));
+  const UniqueFd file(open(path, O_RDONLY | O_CLOEXEC));
   if (!file) return 0;
   const ssize_t got =
-      Retry([&] { return read(file.number(), text, sizeof text); });
+      RetryOnEintr([&] { return read(file.get(), text, sizeof text); });
   if (got <= 0) return 0;
   return StartTimeInText({text, static_cast<std::size_t>(got)});
 }
@@ -48,7 +48,7 @@ enum class State : std::uint8_t { kRunning, kEnded, kNoChild };
 /// The state of a child of the host's, which stays as it is.
 State StateOf(pid_t process) {
   siginfo_t ended = {};
-  const int result = Retry([&] {
+  const int result = RetryOnEintr([&] {
     return waitid(P_PID, static_cast<id_t>(process), &ended,
                   WEXITED | WNOHANG | WNOWAIT);
   });
@@ -57,7 +57,7 @@ State StateOf(pid_t process) {
 }
 
 void Take(pid_t process) {
-  Retry([&] { return waitpid(process, nullptr, WNOHANG); });
+  RetryOnEintr([&] { return waitpid(process, nullptr, WNOHANG); });
 }
 
 }  // namespace

@@ -4,7 +4,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "platform/linux/retry.h"
+#include "platform/linux/retry_on_eintr.h"
 
 namespace velmohelp {
 namespace {
@@ -17,9 +17,9 @@ std::optional<struct stat> Status(const std::string& path) {
 }
 
 /// S_IFREG, S_IFDIR and so on; 0 when there is no file.
-mode_t TypeOf(const Descriptor& file) {
+mode_t TypeOf(const UniqueFd& file) {
   struct stat status = {};
-  if (!file || fstat(file.number(), &status) != 0) return 0;
+  if (!file || fstat(file.get(), &status) != 0) return 0;
   return status.st_mode & S_IFMT;
 }
 
@@ -50,18 +50,18 @@ std::optional<std::string> FirstDirectory(
   return std::nullopt;
 }
 
-Descriptor OpenForReading(const std::string& path) {
+UniqueFd OpenForReading(const std::string& path) {
   constexpr int kFlags = O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
-  return Descriptor(Retry([&] { return open(path.c_str(), kFlags); }));
+  return UniqueFd(RetryOnEintr([&] { return open(path.c_str(), kFlags); }));
 }
 
-bool IsRegularFile(const Descriptor& file) { return TypeOf(file) == S_IFREG; }
+bool IsRegularFile(const UniqueFd& file) { return TypeOf(file) == S_IFREG; }
 
-bool IsDirectory(const Descriptor& file) { return TypeOf(file) == S_IFDIR; }
+bool IsDirectory(const UniqueFd& file) { return TypeOf(file) == S_IFDIR; }
 
-Descriptor OpenRegularFile(const std::string& path) {
+UniqueFd OpenRegularFile(const std::string& path) {
   if (path.find('\0') != std::string::npos) return {};
-  Descriptor file = OpenForReading(path);
+  UniqueFd file = OpenForReading(path);
   if (!IsRegularFile(file)) return {};
   return file;
 }

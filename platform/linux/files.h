@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/linux/descriptor.h"
+#include "platform/linux/unique_fd.h"
 #include "platform/machine.h"
 
 namespace velmohelp {
@@ -30,16 +30,16 @@ std::optional<std::string> FirstDirectory(
 /// Opens whatever exists at path; no descriptor when that fails. Never blocks,
 /// as opening a pipe would until it has a writer, and never makes a terminal
 /// the host's.
-Descriptor OpenForReading(const std::string& path);
+UniqueFd OpenForReading(const std::string& path);
 
 /// What an open file is: nothing can take its place after the question. False
 /// for no descriptor.
-bool IsRegularFile(const Descriptor& file);
-bool IsDirectory(const Descriptor& file);
+bool IsRegularFile(const UniqueFd& file);
+bool IsDirectory(const UniqueFd& file);
 
 /// Opens a regular file as OpenForReading does; no descriptor for anything
 /// else.
-Descriptor OpenRegularFile(const std::string& path);
+UniqueFd OpenRegularFile(const std::string& path);
 
 /// "/a/b" -> "/a", "/a" -> "/". path: absolute.
 std::string Dirname(const std::string& path);

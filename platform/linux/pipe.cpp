@@ -6,9 +6,9 @@
 namespace velmohelp {
 namespace {
 
-Descriptor AboveStandardStreams(Descriptor end) {
-  if (end.number() > STDERR_FILENO) return end;
-  return Descriptor(fcntl(end.number(), F_DUPFD_CLOEXEC, STDERR_FILENO + 1));
+UniqueFd AboveStandardStreams(UniqueFd end) {
+  if (end.get() > STDERR_FILENO) return end;
+  return UniqueFd(fcntl(end.get(), F_DUPFD_CLOEXEC, STDERR_FILENO + 1));
 }
 
 }  // namespace
@@ -16,8 +16,8 @@ Descriptor AboveStandardStreams(Descriptor end) {
 std::optional<Pipe> MakePipe() {
   int ends[2] = {-1, -1};
   if (pipe2(ends, O_CLOEXEC) != 0) return std::nullopt;
-  Descriptor read_end(ends[0]);
-  Descriptor write_end(ends[1]);
+  UniqueFd read_end(ends[0]);
+  UniqueFd write_end(ends[1]);
   Pipe pipe{AboveStandardStreams(std::move(read_end)),
             AboveStandardStreams(std::move(write_end))};
   if (!pipe.read_end || !pipe.write_end) return std::nullopt;

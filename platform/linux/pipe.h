@@ -4,13 +4,13 @@
 
 #include <optional>
 
-#include "platform/linux/descriptor.h"
+#include "platform/linux/unique_fd.h"
 
 namespace velmohelp {
 
 struct Pipe {
-  Descriptor read_end;
-  Descriptor write_end;
+  UniqueFd read_end;
+  UniqueFd write_end;
 };
 
 /// Both ends are closed in programs that the host starts meanwhile, and have

@@ -8,8 +8,8 @@
 #include "platform/linux/files.h"
 #include "platform/linux/pipe.h"
 #include "platform/linux/process.h"
-#include "platform/linux/retry.h"
 #include "platform/linux/read_answer.h"
+#include "platform/linux/retry_on_eintr.h"
 
 namespace velmohelp {
 namespace {
@@ -28,7 +28,7 @@ bool HostMayTakeStatuses() {
 
 std::optional<int> WaitForStatus(pid_t process) {
   int status = 0;
-  if (Retry([&] { return waitpid(process, &status, 0); }) != process ||
+  if (RetryOnEintr([&] { return waitpid(process, &status, 0); }) != process ||
       !WIFEXITED(status)) {
     return std::nullopt;
   }
@@ -36,10 +36,10 @@ std::optional<int> WaitForStatus(pid_t process) {
 }
 
 /// One read, however much more there is.
-std::optional<std::string> ReadOnce(const Descriptor& pipe) {
+std::optional<std::string> ReadOnce(const UniqueFd& pipe) {
   std::string text(kFirstOutputSize, '\0');
   const ssize_t got =
-      Retry([&] { return read(pipe.number(), text.data(), text.size()); });
+      RetryOnEintr([&] { return read(pipe.get(), text.data(), text.size()); });
   if (got < 0) return std::nullopt;
   text.resize(static_cast<std::size_t>(got));
   return text;
@@ -66,7 +66,7 @@ std::optional<int> Programs::RunByRunner(const std::string& program,
   Arguments words = {program};
   words.insert(words.end(), arguments.begin(), arguments.end());
   ProgramStart start = {runner_, words};
-  start.status = pipe->write_end.number();
+  start.status = pipe->write_end.get();
   if (!StartRemembered(start)) return std::nullopt;
   pipe->write_end.Close();
   const auto status = ReadOnce(pipe->read_end);
@@ -90,9 +90,10 @@ bool Programs::StartAndCheck(const std::string& program,
   return process && reaper_.IsRunning(*process);
 }
 
-std::optional<std::string> Programs::Answer(
-    const std::string& program, const Arguments& arguments,
-    std::chrono::milliseconds patience, std::size_t limit) {
+std::optional<std::string> Programs::Answer(const std::string& program,
+                                            const Arguments& arguments,
+                                            std::chrono::milliseconds patience,
+                                            std::size_t limit) {
   const auto source = StartSource(program, arguments);
   if (!source) return std::nullopt;
   auto text = ReadAnswer(source->output, patience, limit);
@@ -105,7 +106,7 @@ std::optional<Programs::Source> Programs::StartSource(
   auto pipe = MakePipe();
   if (!pipe) return std::nullopt;
   ProgramStart start = {program, arguments};
-  start.output = pipe->write_end.number();
+  start.output = pipe->write_end.get();
   const auto process = StartRemembered(start);
   if (!process) return std::nullopt;
   return Source{*process, std::move(pipe->read_end)};

@@ -9,8 +9,8 @@
 #include <utility>
 
 #include "platform/linux/child_reaper.h"
-#include "platform/linux/descriptor.h"
 #include "platform/linux/process.h"
+#include "platform/linux/unique_fd.h"
 #include "platform/machine.h"
 
 namespace velmohelp {
@@ -44,7 +44,7 @@ class Programs {
   /// A program, and the end of a pipe at which its output is read.
   struct Source {
     pid_t process;
-    Descriptor output;
+    UniqueFd output;
   };
 
   std::optional<int> RunByRunner(const std::string& program,

@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <charconv>
 
-#include "platform/linux/retry.h"
+#include "platform/linux/retry_on_eintr.h"
 
 namespace velmohelp {
 namespace {
@@ -24,16 +24,16 @@ int Until(Clock::time_point end) {
   return static_cast<int>(std::max(left, milliseconds(0)).count());
 }
 
-bool IsReadableBefore(Clock::time_point end, const Descriptor& pipe) {
-  pollfd waited = {pipe.number(), POLLIN, 0};
-  return Retry([&] { return poll(&waited, 1, Until(end)); }) > 0;
+bool IsReadableBefore(Clock::time_point end, const UniqueFd& pipe) {
+  pollfd waited = {pipe.get(), POLLIN, 0};
+  return RetryOnEintr([&] { return poll(&waited, 1, Until(end)); }) > 0;
 }
 
 /// Appends what is there to text; false at the end of the file or on an error.
-bool ReadMore(const Descriptor& pipe, std::string& text) {
+bool ReadMore(const UniqueFd& pipe, std::string& text) {
   char piece[1024];
   const ssize_t got =
-      Retry([&] { return read(pipe.number(), piece, sizeof piece); });
+      RetryOnEintr([&] { return read(pipe.get(), piece, sizeof piece); });
   if (got <= 0) return false;
   text.append(piece, static_cast<std::size_t>(got));
   return true;
@@ -66,9 +66,8 @@ AnswerState ParseAnswer(std::string_view text, std::size_t limit,
   return AnswerState::kComplete;
 }
 
-std::optional<std::string> ReadAnswer(const Descriptor& pipe,
-                                      milliseconds timeout,
-                                      std::size_t limit) {
+std::optional<std::string> ReadAnswer(const UniqueFd& pipe,
+                                      milliseconds timeout, std::size_t limit) {
   const Clock::time_point end = Clock::now() + timeout;
   AnswerState state = AnswerState::kIncomplete;
   std::string text;

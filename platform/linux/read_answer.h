@@ -8,7 +8,7 @@
 #include <string>
 #include <string_view>
 
-#include "platform/linux/descriptor.h"
+#include "platform/linux/unique_fd.h"
 
 namespace velmohelp {
 
@@ -17,7 +17,7 @@ namespace velmohelp {
 /// nullopt when the answer is malformed, longer than limit bytes, cut short by
 /// the end of the file, or not complete within timeout (on the monotonic
 /// clock: setting the time of day changes nothing).
-std::optional<std::string> ReadAnswer(const Descriptor& pipe,
+std::optional<std::string> ReadAnswer(const UniqueFd& pipe,
                                       std::chrono::milliseconds timeout,
                                       std::size_t limit);
 

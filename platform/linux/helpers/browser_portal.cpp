@@ -44,16 +44,16 @@ bool IsFile(const std::string& url) {
 }
 
 /// The file at a file: URL; no descriptor when it is not on this machine.
-Descriptor OpenFileAt(const std::string& url) {
+UniqueFd OpenFileAt(const std::string& url) {
   const std::string host = HostOfUri(url).value_or("");
   if (!host.empty() && host != "localhost") return {};
   return OpenRegularFile(Unescaped(PathOfUri(url)));
 }
 
 /// Null when the descriptor table is full.
-ObjectPtr<GUnixFDList> ListOf(const Descriptor& file) {
+ObjectPtr<GUnixFDList> ListOf(const UniqueFd& file) {
   ObjectPtr<GUnixFDList> list(g_unix_fd_list_new());
-  if (g_unix_fd_list_append(list.get(), file.number(), nullptr) != 0) return {};
+  if (g_unix_fd_list_append(list.get(), file.get(), nullptr) != 0) return {};
   return list;
 }
 
@@ -141,7 +141,7 @@ void PortalRequest::Send(const std::string& url) {
          nullptr);
     return;
   }
-  const Descriptor file = OpenFileAt(url);
+  const UniqueFd file = OpenFileAt(url);
   const auto files = file ? ListOf(file) : nullptr;
   if (!files) {
     outcome_ = PortalOutcome::kNotOpened;

@@ -218,9 +218,8 @@ TEST(PipeOfAHostWithoutStandardStreams, IsNoneOfThem) {
     close(1);
     close(2);
     const auto pipe = MakePipe();
-    return pipe && pipe->read_end.number() > 2 &&
-           pipe->write_end.number() > 2 && fcntl(0, F_GETFD) == -1 &&
-           fcntl(1, F_GETFD) == -1;
+    return pipe && pipe->read_end.get() > 2 && pipe->write_end.get() > 2 &&
+           fcntl(0, F_GETFD) == -1 && fcntl(1, F_GETFD) == -1;
   }));
 }
 
