@@ -1,5 +1,6 @@
 #include "platform/linux/environment.h"
 
+#include <sys/auxv.h>
 #include <unistd.h>
 
 #include <cstdlib>
@@ -12,8 +13,10 @@ constexpr std::string_view kLoaderPath = "LD_LIBRARY_PATH=";
 
 }  // namespace
 
+bool IsSecureExecution() { return getauxval(AT_SECURE) != 0; }
+
 ChildEnvironment::ChildEnvironment() {
-  const char* saved = std::getenv("LD_LIBRARY_PATH_ORIG");
+  const char* saved = secure_getenv("LD_LIBRARY_PATH_ORIG");
   for (char** entry = environ; entry != nullptr && *entry != nullptr; ++entry) {
     const bool replace =
         saved != nullptr && std::string_view(*entry).starts_with(kLoaderPath);

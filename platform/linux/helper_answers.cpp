@@ -4,54 +4,62 @@
 
 #include "platform/linux/browser_command.h"
 #include "platform/linux/helpers/protocol.h"
+#include "platform/linux/programs.h"
 
 namespace velmohelp {
 namespace {
 
-/// The answers of reach and fetch are a word; a browser's command line has
-/// the URL in it, and perhaps more than once.
+using std::chrono::milliseconds;
+
+/// Bytes of an answer. That of reach and fetch is a word; a browser's command
+/// line contains the URL, perhaps more than once.
 constexpr std::size_t kWordLimit = 64;
 constexpr std::size_t kCommandLimit = 1U << 20U;
 
 }  // namespace
 
-HelperAnswers::HelperAnswers(std::string folder, Programs& programs,
-                             Patience patience)
-    : folder_(std::move(folder)), programs_(programs), patience_(patience) {}
+HelperAnswers::HelperAnswers(std::string folder, Timeouts timeouts)
+    : folder_(std::move(folder)), timeouts_(timeouts) {}
 
-std::optional<std::string> HelperAnswers::Ask(
-    const char* helper, const std::string& question,
-    std::chrono::milliseconds patience, std::size_t limit) {
-  // Behind a NUL the helper would not see the rest of the question.
+std::optional<std::string> HelperAnswers::Ask(const char* helper,
+                                              const std::string& question,
+                                              milliseconds timeout,
+                                              std::size_t limit) const {
+  // The helper would see the part before the NUL alone.
   if (question.find('\0') != std::string::npos) return std::nullopt;
-  return programs_.Answer(folder_ + "/" + helper, {question}, patience, limit);
+  return AskHelper(folder_ + "/" + helper, question, timeout, limit);
 }
 
-bool HelperAnswers::OpenInBrowser(const std::string& url) {
+bool HelperAnswers::OpenInBrowser(const std::string& url) const {
   const auto answer =
-      Ask("velmohelp-browser", url, patience_.browser, kCommandLimit);
+      Ask("velmohelp-browser", url, timeouts_.browser, kCommandLimit);
   if (!answer) return false;
   const auto command = ParseBrowserAnswer(*answer);
   if (!command) return false;
   if (command->empty()) return true;
-  return programs_.Start(command->front(),
-                         {command->begin() + 1, command->end()});
+  return StartDetached(command->front(),
+                       {command->begin() + 1, command->end()}) !=
+         StartResult::kFailed;
 }
 
 std::optional<Reachability> HelperAnswers::HostReachability(
-    const std::optional<std::string>& host) {
+    const std::optional<std::string>& host) const {
   if (!host) return std::nullopt;
   const auto answer =
-      Ask("velmohelp-reach", *host, patience_.reach, kWordLimit);
+      Ask("velmohelp-reach", *host, timeouts_.reach, kWordLimit);
   if (answer == VELMO_REACHABLE) return Reachability{true, false};
   if (answer == VELMO_REACHABLE_ON_CONNECTION) return Reachability{true, true};
   if (answer == VELMO_UNREACHABLE) return Reachability{false, false};
   return std::nullopt;
 }
 
-bool HelperAnswers::FetchText(const std::string& url) {
-  return Ask("velmohelp-fetch", url, patience_.fetch, kWordLimit) ==
-         VELMO_IS_TEXT;
+bool HelperAnswers::FetchText(const std::string& url,
+                              milliseconds timeout) const {
+  return Ask("velmohelp-fetch", url, timeout, kWordLimit) == VELMO_IS_TEXT;
+}
+
+bool HelperAnswers::FetchText(const std::string& url) const {
+  return FetchText(url, timeouts_.fetch);
 }
 
 }  // namespace velmohelp

@@ -1,4 +1,4 @@
-// What the helper programs know of the world outside.
+// What the helper programs know about the outside world.
 #ifndef PLATFORM_LINUX_HELPER_ANSWERS_H_
 #define PLATFORM_LINUX_HELPER_ANSWERS_H_
 
@@ -7,44 +7,37 @@
 #include <optional>
 #include <string>
 
-#include "platform/linux/programs.h"
+#include "platform/linux/timeouts.h"
 #include "platform/machine.h"
 
 namespace velmohelp {
 
-/// How long the host may be kept waiting for each helper.
-struct Patience {
-  std::chrono::milliseconds browser = std::chrono::seconds(10);
-  std::chrono::milliseconds reach = std::chrono::seconds(5);
-  /// Above the 60 s after which the helper gives up by itself.
-  std::chrono::milliseconds fetch = std::chrono::seconds(65);
-};
-
-/// Runs a helper for every question and reads its answer. One that is missing,
-/// fails, is late or talks nonsense reads as "this machine cannot": what breaks
-/// in there, be it a name service, a desktop's registry or a hostile server,
-/// breaks no host.
+/// Runs a helper for each question and reads its answer. A helper that is
+/// missing, fails, is late or sends nonsense reads as "this machine cannot":
+/// what breaks a helper (a name service, a desktop's registry, a hostile
+/// server) does not break the host.
 class HelperAnswers {
  public:
-  /// folder: where the helpers lie, an absolute path. programs outlives this
-  /// object.
-  HelperAnswers(std::string folder, Programs& programs, Patience patience = {});
+  /// folder: an absolute path, where the helpers are.
+  explicit HelperAnswers(std::string folder, Timeouts timeouts = {});
 
   /// See Machine for all three.
-  bool OpenInBrowser(const std::string& url);
+  bool OpenInBrowser(const std::string& url) const;
   std::optional<Reachability> HostReachability(
-      const std::optional<std::string>& host);
-  bool FetchText(const std::string& url);
+      const std::optional<std::string>& host) const;
+  bool FetchText(const std::string& url,
+                 std::chrono::milliseconds timeout) const;
+  /// With the timeout for one page.
+  bool FetchText(const std::string& url) const;
 
  private:
   std::optional<std::string> Ask(const char* helper,
                                  const std::string& question,
-                                 std::chrono::milliseconds patience,
-                                 std::size_t limit);
+                                 std::chrono::milliseconds timeout,
+                                 std::size_t limit) const;
 
   std::string folder_;
-  Programs& programs_;
-  Patience patience_;
+  Timeouts timeouts_;
 };
 
 }  // namespace velmohelp

@@ -5,12 +5,13 @@
 #include "platform/linux/folders.h"
 #include "platform/linux/own_location.h"
 #include "platform/linux/preference_store.h"
+#include "platform/linux/programs.h"
 
 namespace velmohelp {
 namespace {
 
 /// Beside the library, in the build tree, an installed tree and a package
-/// alike; never found by PATH, which anybody may have set.
+/// alike. Never in PATH, which anybody may have set.
 std::string HelperFolder() {
   return OwnFolder().value_or("/nonexistent") + "/velmohelp";
 }
@@ -19,9 +20,8 @@ std::string HelperFolder() {
 
 LinuxMachine::LinuxMachine() : LinuxMachine(HelperFolder()) {}
 
-LinuxMachine::LinuxMachine(const std::string& helper_folder, Patience patience)
-    : programs_(helper_folder + "/velmohelp-run"),
-      helpers_(helper_folder, programs_, patience) {}
+LinuxMachine::LinuxMachine(const std::string& helper_folder, Timeouts timeouts)
+    : helpers_(helper_folder, timeouts) {}
 
 std::optional<FileEntry> LinuxMachine::FindFile(const std::string& path) {
   return FindEntry(path);
@@ -48,17 +48,17 @@ std::optional<std::string> LinuxMachine::ApplicationExecutable(
 
 std::optional<int> LinuxMachine::RunToEnd(const std::string& program,
                                           const Arguments& arguments) {
-  return programs_.RunToEnd(program, arguments);
+  return velmohelp::RunToEnd(program, arguments);
 }
 
 std::optional<std::string> LinuxMachine::FirstOutput(
     const std::string& program, const Arguments& arguments) {
-  return programs_.FirstOutput(program, arguments);
+  return velmohelp::FirstOutput(program, arguments);
 }
 
 bool LinuxMachine::StartProgram(const std::string& program,
                                 const Arguments& arguments) {
-  return programs_.StartAndCheck(program, arguments);
+  return StartDetached(program, arguments) == StartResult::kRunning;
 }
 
 bool LinuxMachine::OpenInBrowser(const std::string& url) {

@@ -1,5 +1,4 @@
-// The client's machine on Linux: each question handed to the file that
-// answers it.
+// The client's machine on Linux: passes each question to the file that knows.
 #ifndef PLATFORM_LINUX_LINUX_MACHINE_H_
 #define PLATFORM_LINUX_LINUX_MACHINE_H_
 
@@ -7,25 +6,23 @@
 #include <string>
 
 #include "platform/linux/helper_answers.h"
-#include "platform/linux/programs.h"
 #include "platform/machine.h"
 
 namespace velmohelp {
 
 class LinuxMachine : public Machine {
  public:
-  /// With the helpers that lie beside the library.
+  /// With the helpers beside the library.
   LinuxMachine();
   /// With helpers from another folder.
   explicit LinuxMachine(const std::string& helper_folder,
-                        Patience patience = {});
+                        Timeouts timeouts = {});
   LinuxMachine(const LinuxMachine&) = delete;
   LinuxMachine& operator=(const LinuxMachine&) = delete;
 
 #include "platform/machine_overrides.inc"
 
  private:
-  Programs programs_;
   HelperAnswers helpers_;
 };
 

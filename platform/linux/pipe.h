@@ -1,4 +1,4 @@
-// A pipe that only this process holds.
+// A pipe that started programs do not inherit.
 #ifndef PLATFORM_LINUX_PIPE_H_
 #define PLATFORM_LINUX_PIPE_H_
 
@@ -13,10 +13,9 @@ struct Pipe {
   UniqueFd write_end;
 };
 
-/// Both ends are closed in programs that the host starts meanwhile, and have
-/// numbers above those of the standard streams: a host may run with these
-/// closed, and what it prints meanwhile would go into the pipe. nullopt when
-/// the descriptor table is full.
+/// Both ends are close-on-exec, and their numbers are above those of the
+/// standard streams: what a host that runs without these prints meanwhile must
+/// not end up in the pipe. nullopt when the descriptor table is full.
 std::optional<Pipe> MakePipe();
 
 }  // namespace velmohelp

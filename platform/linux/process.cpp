@@ -1,102 +1,25 @@
 #include "platform/linux/process.h"
 
-#include <fcntl.h>
-#include <spawn.h>
+#include <sched.h>
+#include <sys/syscall.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <csignal>
 #include <vector>
 
 #include "platform/linux/environment.h"
-#include "platform/linux/helpers/protocol.h"
+#include "platform/linux/launch_memory.h"
+#include "platform/linux/process_children.h"
+#include "platform/linux/retry_on_eintr.h"
 
 namespace velmohelp {
 namespace {
 
-/// posix_spawn's attributes. A blocked or ignored signal passes to a started
-/// program, and the person at the keyboard has a browser that does not end at
-/// logout, or a tool that never hears of its own children.
-class Attributes {
- public:
-  explicit Attributes(bool own_session) {
-    constexpr short kSignals = POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF;
-    sigset_t none;
-    sigset_t all;
-    sigemptyset(&none);
-    sigfillset(&all);
-    posix_spawnattr_init(&attributes_);
-    posix_spawnattr_setsigmask(&attributes_, &none);
-    posix_spawnattr_setsigdefault(&attributes_, &all);
-    posix_spawnattr_setflags(
-        &attributes_, own_session ? kSignals | POSIX_SPAWN_SETSID : kSignals);
-  }
-  Attributes(const Attributes&) = delete;
-  Attributes& operator=(const Attributes&) = delete;
-  ~Attributes() { posix_spawnattr_destroy(&attributes_); }
-
-  const posix_spawnattr_t* get() const { return &attributes_; }
-
- private:
-  posix_spawnattr_t attributes_ = {};
-};
-
-/// posix_spawn's list of what happens to descriptors, in the order of calls.
-class FileActions {
- public:
-  FileActions() { posix_spawn_file_actions_init(&actions_); }
-  FileActions(const FileActions&) = delete;
-  FileActions& operator=(const FileActions&) = delete;
-  ~FileActions() { posix_spawn_file_actions_destroy(&actions_); }
-
-  void Duplicate(int from, int to) {
-    Note(posix_spawn_file_actions_adddup2(&actions_, from, to));
-  }
-  void CloseFrom(int first) {
-    Note(posix_spawn_file_actions_addclosefrom_np(&actions_, first));
-  }
-  void OpenNull(int number) {
-    Note(posix_spawn_file_actions_addopen(&actions_, number, "/dev/null",
-                                          O_RDWR, 0));
-  }
-
-  bool complete() const { return complete_; }
-  const posix_spawn_file_actions_t* get() const { return &actions_; }
-
- private:
-  void Note(int error) { complete_ = complete_ && error == 0; }
-
-  posix_spawn_file_actions_t actions_ = {};
-  bool complete_ = true;
-};
-
-bool PassesToPrograms(int descriptor) {
-  const int flags = fcntl(descriptor, F_GETFD);
-  return flags != -1 && (flags & FD_CLOEXEC) == 0;
-}
-
-/// A program without a standard stream takes the next file that it opens for
-/// one, and prints into it.
-void FillMissingStreams(FileActions& actions, const ProgramStart& start) {
-  for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
-    const bool given = stream == STDOUT_FILENO && start.output >= 0;
-    if (!given && !PassesToPrograms(stream)) actions.OpenNull(stream);
-  }
-}
-
-void AddActions(FileActions& actions, const ProgramStart& start) {
-  int first_closed = STDERR_FILENO + 1;
-  if (start.output >= 0) actions.Duplicate(start.output, STDOUT_FILENO);
-  if (start.status >= 0) {
-    actions.Duplicate(start.status, VELMO_RUN_STATUS_DESCRIPTOR);
-    first_closed = VELMO_RUN_STATUS_DESCRIPTOR + 1;
-  }
-  actions.CloseFrom(first_closed);
-  FillMissingStreams(actions, start);
-}
-
-/// The argument vector; posix_spawn takes its words as not constant, and does
-/// not change them.
-std::vector<char*> VectorOf(const ProgramStart& start) {
+/// The argument vector; exec takes its words as not constant, and does not
+/// change them.
+std::vector<char*> WordsOf(const ProgramStart& start) {
   std::vector<char*> words = {const_cast<char*>(start.program.c_str())};
   for (const std::string& argument : start.arguments) {
     words.push_back(const_cast<char*>(argument.c_str()));
@@ -105,23 +28,92 @@ std::vector<char*> VectorOf(const ProgramStart& start) {
   return words;
 }
 
+/// Blocks all signals of this thread, those of the C library among them (which
+/// pthread_sigmask leaves alone): a handler of the host's that ran in a child
+/// would change the host's memory.
+class SignalsBlocked {
+ public:
+  SignalsBlocked() {
+    constexpr unsigned long kAll[] = {~0UL, ~0UL};
+    Set(kAll, before_);
+  }
+  SignalsBlocked(const SignalsBlocked&) = delete;
+  SignalsBlocked& operator=(const SignalsBlocked&) = delete;
+  ~SignalsBlocked() { Set(before_, nullptr); }
+
+ private:
+  static void Set(const unsigned long* now, unsigned long* before) {
+    syscall(SYS_rt_sigprocmask, SIG_SETMASK, now, before, (NSIG - 1) / 8);
+  }
+  unsigned long before_[2] = {};
+};
+
+/// Children share errno with this thread.
+class ErrnoKept {
+ public:
+  ErrnoKept() = default;
+  ErrnoKept(const ErrnoKept&) = delete;
+  ErrnoKept& operator=(const ErrnoKept&) = delete;
+  ~ErrnoKept() { errno = before_; }
+
+ private:
+  int before_ = errno;
+};
+
+/// The intermediate process; -1 when it could not be made. With 0 for the
+/// signal at its end, a wait() of the host does not see it. An emulator that
+/// knows no such processes makes an ordinary child.
+pid_t StartIntermediate(Launch& launch, void* stack) {
+  constexpr int kFlags = CLONE_VM | CLONE_VFORK;
+  const pid_t process = clone(&RunIntermediate, stack, kFlags, &launch);
+  if (process != -1 || errno != EINVAL) return process;
+  return clone(&RunIntermediate, stack, kFlags | SIGCHLD, &launch);
+}
+
+/// Returns when the report is there, or never will be.
+void Run(Launch& launch, void* stack) {
+  const ErrnoKept errno_kept;
+  const SignalsBlocked signals_blocked;
+  const pid_t process = StartIntermediate(launch, stack);
+  if (process == -1) return;
+  RetryOnEintr([&] { return waitpid(process, nullptr, __WALL); });
+}
+
+ProgramReport ReportOf(WaitFor wait_for, const LaunchReport& launch) {
+  ProgramReport report;
+  report.running = launch.running;
+  if (wait_for == WaitFor::kFirstOutput && launch.output_size >= 0) {
+    report.output.emplace(launch.output,
+                          static_cast<std::size_t>(launch.output_size));
+  }
+  if (!launch.running && WIFEXITED(launch.status)) {
+    report.exit_status = WEXITSTATUS(launch.status);
+  }
+  return report;
+}
+
 }  // namespace
 
-std::optional<pid_t> StartProcess(const ProgramStart& start) {
+std::optional<ProgramReport> StartProcess(const ProgramStart& start) {
   if (start.program.find('\0') != std::string::npos) return std::nullopt;
-  const std::vector<char*> words = VectorOf(start);
+  const std::vector<char*> words = WordsOf(start);
   const ChildEnvironment environment;
-  const Attributes attributes(start.own_session);
-  FileActions actions;
-  AddActions(actions, start);
-  pid_t process = -1;
-  if (!actions.complete() ||
-      posix_spawn(&process, start.program.c_str(), actions.get(),
-                  attributes.get(), words.data(),
-                  environment.pointers()) != 0) {
-    return std::nullopt;
-  }
-  return process;
+  const LaunchMemory memory;
+  if (!memory) return std::nullopt;
+  const LaunchReport& report = *memory.report();
+  Launch launch = {.program = start.program.c_str(),
+                   .words = words.data(),
+                   .environment = environment.pointers(),
+                   .wait_for = start.wait_for,
+                   .output = start.output,
+                   .own_session = start.own_session,
+                   .drop_errors = start.drop_errors,
+                   .time_limit_milliseconds = start.time_limit.count(),
+                   .program_stack = memory.program_stack(),
+                   .report = memory.report()};
+  Run(launch, memory.intermediate_stack());
+  if (!report.complete || report.error != 0) return std::nullopt;
+  return ReportOf(start.wait_for, report);
 }
 
 }  // namespace velmohelp

@@ -24,8 +24,10 @@ int Until(Clock::time_point end) {
   return static_cast<int>(std::max(left, milliseconds(0)).count());
 }
 
+/// False after the end, however much there is to read.
 bool IsReadableBefore(Clock::time_point end, const UniqueFd& pipe) {
   pollfd waited = {pipe.get(), POLLIN, 0};
+  if (Until(end) == 0) return false;
   return RetryOnEintr([&] { return poll(&waited, 1, Until(end)); }) > 0;
 }
 

@@ -8,7 +8,6 @@
 #include <new>
 
 #include "tests/faults/exhaustion.h"
-#include "tests/support/children.h"
 #include "tests/support/sentence.h"
 #include "tests/support/world.h"
 
@@ -133,25 +132,6 @@ INSTANTIATE_TEST_SUITE_P(Files, MemoryOfTheMachine, ::testing::ValuesIn(kFiles),
                          SentenceOf());
 INSTANTIATE_TEST_SUITE_P(Programs, MemoryOfTheMachine,
                          ::testing::ValuesIn(kPrograms), SentenceOf());
-
-/// Those that were started and not waited for are remembered all the same.
-TEST(ProgramsOfAShortMachine, LeaveNoZombies) {
-  const auto world = MakeLinuxWorld();
-  const std::string speaker = world->AddSpeaker("speaker", "a text");
-  const std::string good = world->AddProgram("good", 0);
-  bool came = true;
-  for (std::size_t nth = 1; came; ++nth) {
-    try {
-      const Exhaustion exhaustion(nth, Shortage::kFromThenOn);
-      world->machine().FirstOutput(speaker, {"speak"});
-    } catch (const std::bad_alloc&) {
-    }
-    came = Exhaustion::Came();
-  }
-  AwaitEndOfChildren();
-  EXPECT_EQ(world->machine().RunToEnd(good, {}), 0);
-  EXPECT_TRUE(Children().empty());
-}
 
 }  // namespace
 }  // namespace velmohelp::testing

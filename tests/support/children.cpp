@@ -1,5 +1,6 @@
 #include "tests/support/children.h"
 
+#include <sys/prctl.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -8,6 +9,11 @@
 #include <string>
 
 namespace velmohelp::testing {
+namespace {
+
+[[maybe_unused]] const int kSubreaper = prctl(PR_SET_CHILD_SUBREAPER, 1);
+
+}  // namespace
 
 std::vector<pid_t> Children() {
   std::ifstream list("/proc/self/task/" + std::to_string(getpid()) +

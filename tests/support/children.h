@@ -1,4 +1,6 @@
-// The processes that a test has started.
+// The processes that a test has started. A program that uses this is a child
+// subreaper: programs that the library starts become its children. A copy that
+// it forks is not, like an ordinary host.
 #ifndef TESTS_SUPPORT_CHILDREN_H_
 #define TESTS_SUPPORT_CHILDREN_H_
 
@@ -17,11 +19,11 @@ std::vector<pid_t> Children();
 /// it.
 void EndChildren();
 
-/// Waits until each of them has ended, and leaves them to be waited for.
+/// Waits until each of them has ended, and leaves them as zombies.
 void AwaitEndOfChildren();
 
 /// Runs a test's steps in a copy of this process, which they may change as
-/// they like; true when they say true.
+/// they like; true when they return true.
 bool InACopy(const std::function<bool()>& steps);
 
 }  // namespace velmohelp::testing

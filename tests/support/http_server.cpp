@@ -20,9 +20,9 @@ bool TakeEnd(std::string_view& bytes, std::string_view word) {
   return true;
 }
 
-void SendGigabyte(int connection) {
+void SendLongText(int connection) {
   const std::string piece(1U << 20U, 'a');
-  long left = HttpServer::kBytesInAGigabyte;
+  long left = HttpServer::kLongTextSize;
   while (left > 0 && SendAll(connection, piece)) {
     left -= static_cast<long>(piece.size());
   }
@@ -43,9 +43,9 @@ void HttpServer::Talk(int connection) const {
   std::string_view bytes = answer;
   const bool resets = TakeEnd(bytes, kReset);
   const bool hangs = TakeEnd(bytes, kHang);
-  const bool goes_on = TakeEnd(bytes, kGigabyte);
+  const bool goes_on = TakeEnd(bytes, kLongText);
   SendAll(connection, bytes);
-  if (goes_on) SendGigabyte(connection);
+  if (goes_on) SendLongText(connection);
   if (resets) {
     MakeCloseReset(connection);
     return;

@@ -15,11 +15,11 @@ namespace velmohelp::testing {
 class HttpServer {
  public:
   /// At the end of the bytes: the server then resets the connection, or holds
-  /// it open without a further word, or sends a gigabyte of text.
+  /// it open without a further word, or sends a long text.
   static constexpr char kReset[] = "\x01reset";
   static constexpr char kHang[] = "\x01hang";
-  static constexpr char kGigabyte[] = "\x01gigabyte";
-  static constexpr long kBytesInAGigabyte = 1L << 30;
+  static constexpr char kLongText[] = "\x01long text";
+  static constexpr long kLongTextSize = 100L << 20;
 
   /// Called by several threads at once.
   using Answer = std::function<std::string(const std::string& path)>;

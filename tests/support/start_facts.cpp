@@ -1,6 +1,8 @@
 #include "tests/support/start_facts.h"
 
 #include <fcntl.h>
+#include <sched.h>
+#include <sys/resource.h>
 #include <unistd.h>
 
 #include <csignal>
@@ -28,6 +30,23 @@ void AddDescriptors(Records& records) {
   }
 }
 
+void AddStreams(Records& records) {
+  for (const char* number : {"0", "1", "2"}) {
+    char target[256] = "";
+    const std::string link = std::string("/proc/self/fd/") + number;
+    if (readlink(link.c_str(), target, sizeof target - 1) == -1) continue;
+    records.Add(std::string("stream ") + target);
+  }
+}
+
+void AddScheduling(Records& records) {
+  cpu_set_t processors;
+  sched_getaffinity(0, sizeof processors, &processors);
+  records.Add("policy " + std::to_string(sched_getscheduler(0)));
+  records.Add("nice " + std::to_string(getpriority(PRIO_PROCESS, 0)));
+  records.Add("processors " + std::to_string(CPU_COUNT(&processors)));
+}
+
 void AddSignals(Records& records) {
   sigset_t blocked;
   sigprocmask(SIG_SETMASK, nullptr, &blocked);
@@ -51,6 +70,8 @@ std::string StartFacts(int argc, char* argv[]) {
   for (char** entry = environ; *entry != nullptr; ++entry) {
     records.Add(std::string("environment ") + *entry);
   }
+  AddStreams(records);
+  AddScheduling(records);
   AddSignals(records);
   records.Add(getsid(0) == getpid() ? "own session" : "host's session");
   return records.text();

@@ -8,8 +8,10 @@
 namespace velmohelp::testing {
 
 /// What this process was given: records, each ended by a NUL, that begin with
-/// "argument", "environment", "descriptor", "blocked" or "ignored" and a blank;
-/// and the record "own session" or "host's session".
+/// a word and a space: "argument", "environment", "descriptor", "stream" (what
+/// the descriptors 0, 1 and 2 are), "blocked", "ignored" (signals), "policy",
+/// "nice", "processors" (a number each); and the record "own session" or
+/// "host's session".
 std::string StartFacts(int argc, char* argv[]);
 
 /// The facts of one kind, without the word in front of them.

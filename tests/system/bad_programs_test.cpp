@@ -134,8 +134,8 @@ TEST(ALateHelper, IsEnded) {
   ASSERT_TRUE(world.Initialise());
   world.SetUserPreference("1");
   EXPECT_EQ(world.Ask({"status"}), "1");
-  // Returns only when each of them has ended.
-  for (const pid_t child : ChildrenOf(world.Host().pid())) AwaitEnd(child);
+  // Returns only when it has ended.
+  for (const pid_t program : world.Programs()) AwaitEnd(program);
 }
 
 class ABadServer : public ::testing::TestWithParam<Route> {};
@@ -178,8 +178,8 @@ TEST(AServerThatHangs, HasNoPage) {
   Apply({Online(), NoViewer(), Served("intro.html", HttpServer::kHang)}, world);
   ASSERT_TRUE(world.Initialise());
   world.OnRequest([&] {
-    for (const pid_t child : ChildrenOf(world.Host().pid())) {
-      if (ProgramOf(child).ends_with("fetch")) kill(child, SIGKILL);
+    for (const pid_t program : world.Programs()) {
+      if (ProgramOf(program).ends_with("fetch")) kill(program, SIGKILL);
     }
   });
   EXPECT_EQ(world.Ask(Display("intro")), "7");

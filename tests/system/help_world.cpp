@@ -187,10 +187,16 @@ bool HelpWorld::Initialise() {
   return Ask({"initialise", "Foo", "en_US"}) == "0";
 }
 
+std::vector<pid_t> HelpWorld::Programs() {
+  std::vector<pid_t> programs = Children();
+  std::erase(programs, Host().pid());
+  return programs;
+}
+
 /// Both programs run until their report is read. On a machine of its own a
 /// host's paths have something in front.
 std::optional<pid_t> HelpWorld::ProgramOfHere() {
-  for (const pid_t child : ChildrenOf(Host().pid())) {
+  for (const pid_t child : Programs()) {
     const std::string program = ProgramOf(child);
     if (program.ends_with(places_["viewer"]) ||
         program.ends_with(places_["browser"])) {

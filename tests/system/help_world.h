@@ -85,6 +85,10 @@ class HelpWorld {
   /// Initialises the client for Foo, and says whether that went well.
   bool Initialise();
 
+  /// The programs that the library has started in the host and that are left,
+  /// those that have ended among them: they are the test's children.
+  std::vector<pid_t> Programs();
+
   /// What the viewer or the browser that the host started last had to report:
   /// see StartFacts; "" when neither runs.
   std::string Report();

@@ -177,13 +177,6 @@ std::string TakeMemory(Client&, const Words& words) {
   return memory == MAP_FAILED ? "no room" : "taken";
 }
 
-/// The most memory that one of the children waited for has ever had, in KiB.
-std::string PeakOfChildren(Client&, const Words&) {
-  rusage usage = {};
-  getrusage(RUSAGE_CHILDREN, &usage);
-  return std::to_string(usage.ru_maxrss);
-}
-
 using Request = std::function<std::string(Client&, const Words&)>;
 
 const std::map<std::string, Request>& Requests() {
@@ -204,8 +197,7 @@ const std::map<std::string, Request>& Requests() {
       {"free descriptors", FreeDescriptors},
       {"start child", StartChild},
       {"take child", TakeChild},
-      {"take memory", TakeMemory},
-      {"peak of children", PeakOfChildren}};
+      {"take memory", TakeMemory}};
   return requests;
 }
 

@@ -18,11 +18,6 @@ std::string InProc(pid_t process, const std::string& name) {
   return "/proc/" + std::to_string(process) + "/" + name;
 }
 
-std::string Text(const std::string& path) {
-  std::ifstream file(path, std::ios::binary);
-  return {std::istreambuf_iterator<char>(file), {}};
-}
-
 std::vector<char*> Pointers(const Words& words) {
   std::vector<char*> pointers;
   for (const std::string& word : words) {
@@ -95,14 +90,6 @@ std::string HostProcess::StatusLine(const std::string& name) const {
 std::size_t HostProcess::CountIn(const std::string& folder) const {
   const std::filesystem::directory_iterator entries(InProc(process_, folder));
   return static_cast<std::size_t>(std::distance(begin(entries), end(entries)));
-}
-
-int HostProcess::Zombies() const {
-  int count = 0;
-  for (const pid_t child : ChildrenOf(process_)) {
-    count += Text(InProc(child, "stat")).find(") Z ") != std::string::npos;
-  }
-  return count;
 }
 
 std::vector<pid_t> ChildrenOf(pid_t process) {

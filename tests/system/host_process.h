@@ -24,8 +24,8 @@ struct HostStart {
   std::function<bool()> preparation = [] { return true; };
 };
 
-/// A running host. Programs that outlive it become children of the test, which
-/// ends them with EndChildren.
+/// A running host. The programs that the library starts in it are children of
+/// the test, which ends them with EndChildren.
 class HostProcess {
  public:
   explicit HostProcess(const HostStart& start);
@@ -46,8 +46,6 @@ class HostProcess {
   std::string StatusLine(const std::string& name) const;
   /// How many entries /proc/<pid>/<folder> has.
   std::size_t CountIn(const std::string& folder) const;
-  /// How many of its children have ended and were not waited for.
-  int Zombies() const;
 
  private:
   [[noreturn]] static void Become(const HostStart& start, int socket);
@@ -63,7 +61,7 @@ std::vector<pid_t> ChildrenOf(pid_t process);
 void AwaitEnd(pid_t process);
 
 /// The program that a process runs; "" when it has ended. (Its argument vector
-/// is not there yet when posix_spawn returns to its parent.)
+/// is not there yet when a start returns.)
 std::string ProgramOf(pid_t process);
 
 }  // namespace velmohelp::testing

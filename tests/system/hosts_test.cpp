@@ -131,16 +131,27 @@ TEST(AHostWithAFullDescriptorTable, IsAnswered) {
   EXPECT_TRUE(world.Initialise());
 }
 
-/// Files can be read, and no program's answer.
-TEST(AHostWithOneDescriptorLeft, IsAnswered) {
+/// Files can be read, and the viewer can be found and started.
+TEST(AHostWithOneDescriptorLeft, ShowsHelpInTheViewer) {
   HelpWorld world;
-  Apply({NoBrowser(), File("{installed}/intro.html")}, world);
+  Apply({File("{installed}/intro.html")}, world);
+  ASSERT_TRUE(world.Initialise());
+  ASSERT_EQ(world.Ask({"fill descriptors", "1"}), "filled");
+  EXPECT_EQ(world.Ask(Display("intro")), "0");
+  EXPECT_NE(world.Started(), Nothing());
+}
+
+/// No helper can be asked for the browser.
+TEST(AHostWithOneDescriptorLeft, OpensNoBrowser) {
+  HelpWorld world;
+  Apply({NoViewer(), File("{installed}/intro.html")}, world);
   ASSERT_TRUE(world.Initialise());
   ASSERT_EQ(world.Ask({"fill descriptors", "1"}), "filled");
   EXPECT_EQ(world.Ask(Display("intro")), "2");
   EXPECT_EQ(world.Ask({"initialise", "Foo", "en_US"}), "0");
   ASSERT_EQ(world.Ask({"free descriptors"}), "freed");
   EXPECT_EQ(world.Ask(Display("intro")), "0");
+  EXPECT_NE(world.Started(), Nothing());
 }
 
 /// A copy of such a host's memory, made for every start, would take seconds and

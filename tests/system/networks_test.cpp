@@ -107,9 +107,9 @@ TEST_F(OwnMachine, IsOfflineWithADeadNameServer) {
   Start(NameServer(NameAnswer::kNothing));
   world_.SetUserPreference("1");
   EXPECT_EQ(world_.Ask({"status"}), kOffline);
-  for (const pid_t child : ChildrenOf(world_.Host().pid())) {
+  for (const pid_t program : world_.Programs()) {
     // Returns only when the helper that asked has been ended.
-    if (ProgramOf(child).ends_with("velmohelp-reach")) AwaitEnd(child);
+    if (ProgramOf(program).ends_with("velmohelp-reach")) AwaitEnd(program);
   }
 }
 

@@ -2,13 +2,17 @@
 #include <fcntl.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sched.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <csignal>
 #include <cstdlib>
+#include <functional>
 
 #include "platform/linux/linux_machine.h"
+#include "platform/linux/programs.h"
 #include "tests/support/children.h"
 #include "tests/support/sentence.h"
 #include "tests/support/start_facts.h"
@@ -37,10 +41,12 @@ class StartedProgram : public ::testing::Test {
   /// when it has said all.
   std::string Start() {
     const std::string pipe = directory_ / "pipe";
-    EXPECT_EQ(mkfifo(pipe.c_str(), S_IRWXU), 0);
+    mkfifo(pipe.c_str(), S_IRWXU);
     EXPECT_TRUE(machine_.StartProgram(VELMO_TEST_PROBE, {pipe}));
     return FileText(pipe);
   }
+
+  const testing::TemporaryDirectory& directory() const { return directory_; }
 
  private:
   testing::TemporaryDirectory directory_;
@@ -65,11 +71,32 @@ TEST_F(StartedProgram, GetsNoDescriptorBeyondTheStandardStreams) {
   close(secret);
 }
 
-TEST_F(StartedProgram, GetsNoDescriptorByWayOfTheRunner) {
-  std::signal(SIGCHLD, SIG_IGN);
-  const std::string report = Run();
-  std::signal(SIGCHLD, SIG_DFL);
-  EXPECT_THAT(Facts(report, "descriptor"), ElementsAre("0", "1", "2"));
+/// One that reads its input would take what the host is sent; one that keeps
+/// its output open would keep the reader of the host's output waiting.
+TEST_F(StartedProgram, HasNoInputAndOutputOfItsHost) {
+  const std::string errors = directory() / "errors";
+  EXPECT_TRUE(testing::InACopy([&] {
+    dup2(open(errors.c_str(), O_WRONLY | O_CREAT, S_IRWXU), STDERR_FILENO);
+    const std::vector<std::string> expected = {"/dev/null", "/dev/null",
+                                               errors};
+    return Facts(Run(), "stream") == expected &&
+           Facts(Start(), "stream") == expected;
+  }));
+}
+
+TEST_F(StartedProgram, PrintsItsAnswerAndHasNoInput) {
+  const auto streams = FirstOutput(
+      "/bin/sh",
+      {"-c", "echo $(readlink /proc/$$/fd/0) $(readlink /proc/$$/fd/1)"});
+  ASSERT_TRUE(streams);
+  EXPECT_THAT(*streams, ::testing::StartsWith("/dev/null pipe:"));
+}
+
+TEST_F(StartedProgram, HasNoErrorStreamThatItsHostKeepsFromPrograms) {
+  EXPECT_TRUE(testing::InACopy([&] {
+    fcntl(STDERR_FILENO, F_SETFD, FD_CLOEXEC);
+    return Facts(Run(), "stream") == std::vector<std::string>(3, "/dev/null");
+  }));
 }
 
 TEST_F(StartedProgram, HasAllItsSignals) {
@@ -89,15 +116,156 @@ TEST_F(StartedProgram, HasASessionOfItsOwnOnlyWhenItIsLeftRunning) {
   EXPECT_THAT(Run(), ::testing::HasSubstr("host's session"));
 }
 
+/// What a setting becomes when the system is asked for the normal one; a system
+/// that does not let this user go back keeps it.
+struct SchedulingRow {
+  const char* sentence;
+  const char* fact;
+  /// False where the system refuses it.
+  std::function<bool()> change;
+  std::function<void()> normalise;
+};
+
+class Scheduling : public StartedProgram,
+                   public ::testing::WithParamInterface<SchedulingRow> {};
+
+std::string OwnFact(const char* name) {
+  char* none[] = {nullptr};
+  return Facts(testing::StartFacts(0, none), name).at(0);
+}
+
+TEST_P(Scheduling, IsNotTheHosts) {
+  if (!testing::InACopy(GetParam().change)) {
+    GTEST_SKIP() << "this system refuses it to this user";
+  }
+  EXPECT_TRUE(testing::InACopy([&] {
+    GetParam().change();
+    const auto facts = Facts(Run(), GetParam().fact);
+    GetParam().normalise();
+    return facts.at(0) == OwnFact(GetParam().fact);
+  }));
+}
+
+bool SetPolicy(int policy, int priority) {
+  const sched_param parameters = {priority};
+  return sched_setscheduler(0, policy, &parameters) == 0;
+}
+
+bool SetNice(int value) { return setpriority(PRIO_PROCESS, 0, value) == 0; }
+
+bool Pin(int first, int last) {
+  cpu_set_t processors;
+  CPU_ZERO(&processors);
+  for (int i = first; i <= last; ++i) CPU_SET(i, &processors);
+  return sched_setaffinity(0, sizeof processors, &processors) == 0;
+}
+
+void SetNormalPolicy() { SetPolicy(SCHED_OTHER, 0); }
+void SetNormalNice() { SetNice(0); }
+void Unpin() { Pin(0, CPU_SETSIZE - 1); }
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, Scheduling,
+    ::testing::Values(
+        SchedulingRow{.sentence = "a real-time host",
+                      .fact = "policy",
+                      .change = [] { return SetPolicy(SCHED_FIFO, 1); },
+                      .normalise = &SetNormalPolicy},
+        SchedulingRow{.sentence = "a batch host",
+                      .fact = "policy",
+                      .change = [] { return SetPolicy(SCHED_BATCH, 0); },
+                      .normalise = &SetNormalPolicy},
+        SchedulingRow{.sentence = "a nice host",
+                      .fact = "nice",
+                      .change = [] { return SetNice(7); },
+                      .normalise = &SetNormalNice},
+        SchedulingRow{.sentence = "an urgent host",
+                      .fact = "nice",
+                      .change = [] { return SetNice(-7); },
+                      .normalise = &SetNormalNice},
+        SchedulingRow{.sentence = "a host pinned to a processor",
+                      .fact = "processors",
+                      .change = [] { return Pin(0, 0); },
+                      .normalise = &Unpin}),
+    testing::SentenceOf());
+
+struct IdRow {
+  const char* sentence;
+  id_t real;
+  id_t effective;
+  id_t saved;
+  /// Of the program: its real, effective, saved and file system id.
+  const char* expected;
+};
+
+class UserIds : public ::testing::TestWithParam<IdRow> {};
+
+/// From the ids of root, as exec sets them for a set-user-ID program.
+TEST_P(UserIds, OfTheHostAreNotGivenAway) {
+  if (geteuid() != 0) GTEST_SKIP() << "only root changes its ids freely";
+  EXPECT_TRUE(testing::InACopy([] {
+    const auto& [sentence, real, effective, saved, expected] = GetParam();
+    setresgid(real, effective, saved);
+    setresuid(real, effective, saved);
+    const std::string ids(expected);
+    return FirstOutput("/bin/grep",
+                       {"-E", "^(Uid|Gid):", "/proc/self/status"}) ==
+           "Uid:" + ids + "\nGid:" + ids + "\n";
+  }));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, UserIds,
+    ::testing::Values(IdRow{.sentence = "an ordinary host",
+                            .real = 7,
+                            .effective = 7,
+                            .saved = 7,
+                            .expected = "\t7\t7\t7\t7"},
+                      IdRow{.sentence = "a set-user-ID host of root's",
+                            .real = 7,
+                            .effective = 0,
+                            .saved = 0,
+                            .expected = "\t7\t7\t7\t7"},
+                      IdRow{.sentence = "a set-user-ID host of another user's",
+                            .real = 7,
+                            .effective = 8,
+                            .saved = 8,
+                            .expected = "\t7\t7\t7\t7"},
+                      IdRow{.sentence = "a set-user-ID host back at its user",
+                            .real = 7,
+                            .effective = 7,
+                            .saved = 0,
+                            .expected = "\t7\t7\t7\t7"},
+                      IdRow{.sentence = "a host of root's at work for a user",
+                            .real = 0,
+                            .effective = 7,
+                            .saved = 0,
+                            .expected = "\t7\t7\t7\t7"},
+                      IdRow{.sentence = "root itself",
+                            .real = 0,
+                            .effective = 0,
+                            .saved = 0,
+                            .expected = "\t0\t0\t0\t0"}),
+    testing::SentenceOf());
+
 TEST_F(StartedProgram, HasStandardStreamsWhereItsHostHasNone) {
-  const bool reported = testing::InACopy([&] {
+  EXPECT_TRUE(testing::InACopy([&] {
     close(0);
     close(1);
     close(2);
-    return Facts(Run(), "descriptor") ==
-           std::vector<std::string>({"0", "1", "2"});
-  });
-  EXPECT_TRUE(reported);
+    return Facts(Run(), "stream") == std::vector<std::string>(3, "/dev/null");
+  }));
+}
+
+/// A program whose output cannot be written may end by an error.
+TEST_F(StartedProgram, CanWriteToStandardStreamsThatItsHostLacks) {
+  EXPECT_TRUE(testing::InACopy([&] {
+    close(0);
+    close(1);
+    close(2);
+    return RunToEnd("/bin/sh", {"-c", "echo out && echo error >&2 && cat"}) ==
+           0;
+  }));
 }
 
 struct LoaderPathRow {

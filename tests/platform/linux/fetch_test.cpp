@@ -152,9 +152,9 @@ class Hasty : public ::testing::Test {
  protected:
   static bool Fetch(const std::string& url) {
     setenv("no_proxy", "*", 1);
-    Patience patience;
-    patience.fetch = std::chrono::seconds(1);
-    return LinuxMachine(VELMO_TEST_HELPERS, patience).FetchText(url);
+    Timeouts timeouts;
+    timeouts.fetch = std::chrono::seconds(1);
+    return LinuxMachine(VELMO_TEST_HELPERS, timeouts).FetchText(url);
   }
 };
 
@@ -166,7 +166,7 @@ struct SilenceRow {
 class Silence : public Hasty,
                 public ::testing::WithParamInterface<SilenceRow> {};
 
-TEST_P(Silence, EndsWithTheHostsPatience) {
+TEST_P(Silence, EndsAtTheHostsTimeout) {
   {
     const HttpServer server([](const std::string&) {
       return GetParam().start + std::string(HttpServer::kHang);

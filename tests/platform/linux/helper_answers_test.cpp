@@ -2,7 +2,9 @@
 #include "platform/linux/helper_answers.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
+#include <unistd.h>
 
 #include <csignal>
 
@@ -17,15 +19,15 @@ namespace {
 using std::chrono::milliseconds;
 using namespace std::string_literals;
 
-constexpr Patience kShort{milliseconds(50), milliseconds(50), milliseconds(50)};
+constexpr Timeouts kShort{milliseconds(50), milliseconds(50), milliseconds(50)};
 
 /// A folder of helpers that a test writes.
 class Helpers : public ::testing::Test {
  protected:
   ~Helpers() override { testing::EndChildren(); }
 
-  HelperAnswers Answers(Patience patience = {}) {
-    return {directory_.path(), programs_, patience};
+  HelperAnswers Answers(Timeouts timeouts = {}) {
+    return HelperAnswers(directory_.path(), timeouts);
   }
   void Write(const std::string& name, const std::string& lines) {
     directory_.WriteScript("velmohelp-" + name, lines);
@@ -39,7 +41,6 @@ class Helpers : public ::testing::Test {
 
  private:
   testing::TemporaryDirectory directory_;
-  Programs programs_{""};
 };
 
 TEST_F(Helpers, ThatAreMissingCannot) {
@@ -119,32 +120,58 @@ TEST_F(Helpers, SayThatThereIsAText) {
   EXPECT_FALSE(Answers().FetchText("http://a/"));
 }
 
+/// How the only helper ended.
+int EndingSignal() {
+  EXPECT_EQ(testing::Children().size(), 1U);
+  siginfo_t end = {};
+  waitid(P_ALL, 0, &end, WEXITED | WNOWAIT);
+  return end.si_code == CLD_KILLED ? end.si_status : 0;
+}
+
 TEST_F(Helpers, AreEndedWhenTheyAreLate) {
   Write("reach", "exec sleep 1000");
   EXPECT_FALSE(Answers(kShort).HostReachability("localhost"));
-  ASSERT_EQ(testing::Children().size(), 1U);
-  siginfo_t end = {};
-  waitid(P_ALL, 0, &end, WEXITED | WNOWAIT);
-  EXPECT_EQ(end.si_status, SIGKILL);
-  EXPECT_FALSE(Answers(kShort).FetchText("http://localhost/"));
+  EXPECT_EQ(EndingSignal(), SIGALRM);
 }
 
-TEST_F(Helpers, AreReapedLater) {
-  Write("reach", "exec sleep 1000");
-  Write("fetch", "printf 4:text,");
-  EXPECT_FALSE(Answers(kShort).HostReachability("localhost"));
-  testing::AwaitEndOfChildren();
+TEST_F(Helpers, AreEndedAtTheTimeoutOfARequestThatHasOne) {
+  Write("fetch", "exec sleep 1000");
+  EXPECT_FALSE(Answers().FetchText("http://localhost/", milliseconds(50)));
+  EXPECT_EQ(EndingSignal(), SIGALRM);
+}
+
+TEST_F(Helpers, MayLiveOnAfterTheirAnswer) {
+  const std::string gate = directory() / "gate";
+  ASSERT_EQ(mkfifo(gate.c_str(), S_IRWXU), 0);
+  Write("fetch", "printf 4:text,; exec cat '" + gate + "'");
   EXPECT_TRUE(Answers().FetchText("http://localhost/"));
-  testing::AwaitEndOfChildren();
-  EXPECT_FALSE(Answers().OpenInBrowser("http://localhost/"));
-  EXPECT_TRUE(testing::Children().empty());
+  EXPECT_EQ(testing::Children().size(), 1U);
+}
+
+TEST_F(Helpers, AnswerWhileSignalsInterruptTheHost) {
+  struct sigaction action = {};
+  action.sa_handler = [](int) {};  // no SA_RESTART
+  sigaction(SIGUSR1, &action, nullptr);
+  const std::string interrupt = "kill -USR1 " + std::to_string(getpid());
+  Write("reach", interrupt + "; printf 9:reach; " + interrupt + "; " +
+                     interrupt + "; printf able,");
+  EXPECT_TRUE(Answers().HostReachability("localhost"));
 }
 
 TEST_F(Helpers, KeepTheHostWaitingForSecondsOnly) {
   using std::chrono::seconds;
-  EXPECT_EQ(Patience().reach, seconds(5));
-  EXPECT_EQ(Patience().browser, seconds(10));
-  EXPECT_EQ(Patience().fetch, seconds(65));
+  EXPECT_EQ(Timeouts().reach, seconds(2));
+  EXPECT_EQ(Timeouts().browser, seconds(10));
+  EXPECT_EQ(Timeouts().fetch, seconds(10));
+}
+
+/// What a desktop's registry says about itself is not for the host's terminal.
+TEST_F(Helpers, SayNothingOnTheHostsStandardError) {
+  Write("reach", "printf 9:reachable,; readlink /proc/$$/fd/2 > '" +
+                     (directory() / "errors") + "'");
+  EXPECT_TRUE(Answers().HostReachability("localhost"));
+  testing::AwaitEndOfChildren();
+  EXPECT_EQ(testing::FileText(directory() / "errors"), "/dev/null\n");
 }
 
 /// Nobody waits for the end of the file, which a process that the host forks

@@ -1,11 +1,18 @@
 // Hosts that have their own way with their children.
 #include <gtest/gtest.h>
 #include <sys/wait.h>
+#include <unistd.h>
 
+#include <atomic>
 #include <cerrno>
 #include <csignal>
+#include <functional>
+#include <thread>
+#include <utility>
 
+#include "platform/linux/helper_answers.h"
 #include "platform/linux/linux_machine.h"
+#include "platform/linux/programs.h"
 #include "tests/support/children.h"
 #include "tests/support/sentence.h"
 #include "tests/support/temporary_directory.h"
@@ -28,15 +35,17 @@ struct Host {
 
 class AHost : public ::testing::TestWithParam<Host> {
  protected:
-  void SetUp() override {
+  void SetUp() override { Become(); }
+  void TearDown() override {
+    std::signal(SIGCHLD, SIG_DFL);
+    testing::EndChildren();
+  }
+
+  static void Become() {
     struct sigaction action = {};
     action.sa_handler = GetParam().handler;
     action.sa_flags = GetParam().flags;
     sigaction(SIGCHLD, &action, nullptr);
-  }
-  void TearDown() override {
-    std::signal(SIGCHLD, SIG_DFL);
-    testing::EndChildren();
   }
 
   LinuxMachine& machine() { return machine_; }
@@ -99,11 +108,98 @@ TEST_P(AHost, KeepsItsOwnWay) {
   EXPECT_EQ(action.sa_flags & (SA_NOCLDWAIT | SA_RESTART), GetParam().flags);
 }
 
-TEST(AHostWithoutTheRunner, StillRunsTools) {
-  testing::TemporaryDirectory directory;
-  LinuxMachine machine(directory.path());
-  std::signal(SIGCHLD, [](int) {});
-  EXPECT_EQ(machine.RunToEnd(directory.WriteScript("tool", "exit 7"), {}), 7);
+/// A host's handler may wait for its own child, and takes a SIGCHLD for it.
+TEST_P(AHost, HasNoChildOfTheLibrarys) {
+  std::signal(SIGCHLD, SIG_DFL);  // the test waits for its copy
+  EXPECT_TRUE(testing::InACopy([&] {
+    Become();
+    machine().RunToEnd(Tool("exit 7"), {});
+    machine().FirstOutput(Tool("echo out"), {});
+    machine().StartProgram(Tool("exec sleep 99"), {});
+    machine().HostReachability("127.0.0.1");
+    return waitpid(-1, nullptr, __WALL) == -1 && errno == ECHILD;
+  }));
+}
+
+volatile sig_atomic_t signals_of_children = 0;
+
+TEST(AHostThatCountsItsChildren, HearsOfItsOwnAlone) {
+  const testing::TemporaryDirectory directory;
+  const std::string tool = directory.WriteScript("tool", "echo out; exit 7");
+  EXPECT_TRUE(testing::InACopy([&] {
+    std::signal(SIGCHLD,
+                [](int) { signals_of_children = signals_of_children + 1; });
+    RunToEnd(tool, {});
+    FirstOutput(tool, {});
+    StartDetached(tool, {});
+    RunToEnd("/nonexistent", {});
+    HelperAnswers(VELMO_TEST_HELPERS).HostReachability("127.0.0.1");
+    return signals_of_children == 0;
+  }));
+}
+
+/// A thread that does something again and again while a test runs.
+class Meanwhile {
+ public:
+  explicit Meanwhile(std::function<void()> action)
+      : thread_([this, action = std::move(action)] {
+          while (!stop_) action();
+        }) {}
+  Meanwhile(const Meanwhile&) = delete;
+  Meanwhile& operator=(const Meanwhile&) = delete;
+  ~Meanwhile() {
+    stop_ = true;
+    thread_.join();
+  }
+
+ private:
+  std::atomic<bool> stop_ = false;
+  std::thread thread_;
+};
+
+struct Thief {
+  const char* sentence;
+  int options;
+};
+
+class AHostWithAThreadThatWaits : public ::testing::TestWithParam<Thief> {};
+
+TEST_P(AHostWithAThreadThatWaits, LosesNoStatus) {
+  const Meanwhile thief(
+      [] { waitpid(-1, nullptr, WNOHANG | GetParam().options); });
+  for (int i = 0; i < 100; ++i) {
+    ASSERT_EQ(RunToEnd("/bin/sh", {"-c", "exit 7"}), 7) << i;
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Kinds, AHostWithAThreadThatWaits,
+                         ::testing::Values(Thief{"for any child", 0},
+                                           Thief{"for any child of any kind",
+                                                 __WALL}),
+                         testing::SentenceOf());
+
+/// Each copy has the descriptors that were open at its moment, and keeps them.
+void ForkACopyThatStays() {
+  if (fork() == 0) {
+    for (;;) pause();
+  }
+}
+
+TEST(AHostThatForksInAThread, GetsEveryAnswer) {
+  {
+    int left = 200;
+    const Meanwhile storm([&] {
+      if (left-- > 0) ForkACopyThatStays();
+    });
+    const HelperAnswers helpers(VELMO_TEST_HELPERS);
+    for (int i = 0; i < 20; ++i) {
+      ASSERT_TRUE(helpers.HostReachability("127.0.0.1")) << i;
+      ASSERT_FALSE(helpers.FetchText("no URL")) << i;
+      ASSERT_EQ(FirstOutput("/bin/echo", {"x"}), "x\n") << i;
+      ASSERT_EQ(FirstOutput("/bin/true", {}), "") << i;
+    }
+  }
+  testing::EndChildren();
 }
 
 }  // namespace

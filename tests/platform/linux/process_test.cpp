@@ -1,17 +1,16 @@
-// Running programs: what is answered.
+// Running programs: what is returned, and what is left in the host.
 #include <fcntl.h>
 #include <gtest/gtest.h>
-#include <linux/sched.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
-#include <sys/syscall.h>
-#include <sys/times.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <csignal>
+#include <functional>
 
-#include "platform/linux/child_reaper.h"
+#include "platform/linux/files.h"
 #include "platform/linux/helper_answers.h"
 #include "platform/linux/linux_machine.h"
 #include "platform/linux/pipe.h"
@@ -81,21 +80,25 @@ TEST_F(Running, LeavesAViewerRunning) {
   EXPECT_EQ(testing::Children().size(), 1U);
 }
 
-TEST_F(Running, LeavesNoZombieBehindALaterCall) {
-  const std::string tool = directory().WriteScript("tool", "exit 0");
-  for (int i = 0; i < 3; ++i) machine().FirstOutput(tool, {});
-  machine().StartProgram(tool, {});
-  testing::AwaitEndOfChildren();
-  machine().RunToEnd(tool, {});
-  EXPECT_TRUE(testing::Children().empty());
+/// A host that is no child subreaper: here its programs become children of the
+/// test, elsewhere of init.
+TEST_F(Running, GivesTheHostNoChild) {
+  const std::string tool = directory().WriteScript("tool", "echo x; exit 0");
+  EXPECT_TRUE(testing::InACopy([&] {
+    machine().RunToEnd(tool, {});
+    machine().FirstOutput(tool, {});
+    machine().StartProgram(tool, {});
+    machine().RunToEnd(directory() / "missing", {});
+    machine().HostReachability("127.0.0.1");
+    return testing::Children().empty() && waitpid(-1, nullptr, __WALL) == -1;
+  }));
 }
 
-TEST_F(Running, LeavesNoZombieBehindTheLibrary) {
-  {
-    LinuxMachine machine{VELMO_TEST_HELPERS};
-    machine.FirstOutput(directory().WriteScript("tool", "exit 0"), {});
-    testing::AwaitEndOfChildren();
-  }
+/// Even a host that adopts its programs gets no zombie of one that it waited
+/// for.
+TEST_F(Running, LeavesNoZombieOfAToolThatItWaitedFor) {
+  machine().RunToEnd(directory().WriteScript("tool", "exit 0"), {});
+  machine().RunToEnd(directory().Write("data", ""), {});
   EXPECT_TRUE(testing::Children().empty());
 }
 
@@ -113,49 +116,35 @@ TEST_F(Running, LeavesTheHostsChildrenToTheHost) {
   EXPECT_EQ(WEXITSTATUS(status), 3);
 }
 
-/// A child with a number of the caller's choice; -1 where that is not allowed.
-pid_t ForkAs(pid_t wanted) {
-  clone_args arguments = {};
-  arguments.exit_signal = SIGCHLD;
-  arguments.set_tid = reinterpret_cast<std::uintptr_t>(&wanted);
-  arguments.set_tid_size = 1;
-  return static_cast<pid_t>(syscall(SYS_clone3, &arguments, sizeof arguments));
-}
+volatile sig_atomic_t handled = 0;
 
-/// Processes' start times are told in these ticks.
-void AwaitNextTick() {
-  const clock_t now = times(nullptr);
-  while (times(nullptr) < now + 2) {
-  }
-}
-
-TEST_F(Running, LeavesAChildOfTheHostsThatHasAnOldNumberToTheHost) {
-  const std::string tool = directory().WriteScript("tool", "exit 0");
-  machine().FirstOutput(tool, {});
-  const pid_t number = wait(nullptr);  // the host waits for any child
-  AwaitNextTick();
-  const pid_t child = ForkAs(number);
-  if (child == 0) _exit(3);
-  if (child < 0) {
-    GTEST_SKIP() << "this system does not let a test choose a process's number";
-  }
-  testing::AwaitEndOfChildren();
-  machine().RunToEnd(tool, {});
-  int status = 0;
-  EXPECT_EQ(waitpid(child, &status, 0), child);
-  EXPECT_EQ(WEXITSTATUS(status), 3);
-}
-
-TEST_F(Running, GoesOnAfterASignalOfTheHosts) {
+/// They wait until the tool has ended, and then are handled by the host: never
+/// in a process that shares the host's memory.
+TEST_F(Running, KeepsTheHostsSignalsForTheHost) {
   struct sigaction action = {};
-  action.sa_handler = [](int) {};  // no SA_RESTART
+  action.sa_handler = [](int) { handled = handled + 1; };
   sigaction(SIGUSR1, &action, nullptr);
   const std::string tool = directory().WriteScript(
-      "tool",
-      "for i in 1 2 3 4 5 6 7 8; do kill -USR1 $PPID; done\n"
-      "echo out; exit 5");
+      "tool", "kill -USR1 $PPID; kill -USR1 " + std::to_string(getpid()) +
+                  "; echo out; exit 5");
   EXPECT_EQ(machine().RunToEnd(tool, {}), 5);
+  EXPECT_EQ(handled, 1);
   EXPECT_EQ(machine().FirstOutput(tool, {}), "out\n");
+}
+
+TEST_F(Running, LeavesTheHostsSignalMaskAndErrnoAsTheyWere) {
+  sigset_t usr1;
+  sigset_t after;
+  sigemptyset(&usr1);
+  sigaddset(&usr1, SIGUSR1);
+  sigprocmask(SIG_SETMASK, &usr1, nullptr);
+  errno = EDOM;
+  machine().RunToEnd(directory() / "missing", {});
+  EXPECT_EQ(errno, EDOM);
+  sigprocmask(SIG_SETMASK, nullptr, &after);
+  for (int signal = 1; signal < NSIG; ++signal) {
+    EXPECT_EQ(sigismember(&after, signal), sigismember(&usr1, signal));
+  }
 }
 
 /// Fills the descriptor table of this process but for the given number.
@@ -171,30 +160,28 @@ void FillDescriptorTable(int left) {
   }
 }
 
-// Not through the machine: the sanitizer's look at an object with virtual
-// functions takes a descriptor itself.
-TEST_F(Running, CannotReadWithAFullDescriptorTable) {
+/// A tool's status and output need no descriptor of the host's. Not through the
+/// machine: the sanitizer's look at an object with virtual functions takes a
+/// descriptor itself.
+TEST_F(Running, NeedsADescriptorForHelpersAlone) {
   const std::string tool = directory().WriteScript("tool", "echo x; exit 4");
   directory().Write("domain.conf", "[Preferences]\nKey=0\n");
-  Programs programs(VELMO_TEST_HELPERS "/velmohelp-run");
-  HelperAnswers helpers(VELMO_TEST_HELPERS, programs);
+  const HelperAnswers helpers(VELMO_TEST_HELPERS);
   EXPECT_TRUE(testing::InACopy([&] {
     FillDescriptorTable(0);
-    return !programs.FirstOutput(tool, {}) &&
+    return RunToEnd(tool, {}) == 4 && FirstOutput(tool, {}) == "x\n" &&
            !helpers.HostReachability("127.0.0.1") &&
-           !ReadPreferenceIn(directory().path(), "domain", "Key") &&
-           programs.RunToEnd(tool, {}) == 4;
+           !ReadPreferenceIn(directory().path(), "domain", "Key");
   }));
 }
 
-TEST_F(Running, CannotReadWithRoomForHalfAPipe) {
-  const std::string tool = directory().WriteScript("tool", "echo x");
-  Programs programs("");
+TEST_F(Running, AsksNoHelperWithRoomForHalfAPipe) {
+  const HelperAnswers helpers(VELMO_TEST_HELPERS);
   EXPECT_TRUE(testing::InACopy([&] {
     FillDescriptorTable(1);
-    const bool no_output = !programs.FirstOutput(tool, {});
-    // Nothing was leaked: the one place is there still.
-    return no_output && open("/dev/null", O_RDONLY) == 63;
+    const bool no_answer = !helpers.HostReachability("127.0.0.1");
+    // Nothing was leaked: the one place is still free.
+    return no_answer && open("/dev/null", O_RDONLY) == 63;
   }));
 }
 
@@ -223,48 +210,150 @@ TEST(PipeOfAHostWithoutStandardStreams, IsNoneOfThem) {
   }));
 }
 
-TEST_F(Running, LeavesTheHostsDescriptorsAsTheyWere) {
-  const std::string tool = directory().WriteScript("tool", "echo out");
-  const int before = dup(0);
-  close(before);
-  for (int i = 0; i < 3; ++i) {
-    machine().RunToEnd(tool, {});
-    machine().FirstOutput(tool, {});
-    machine().StartProgram(tool, {});
-    machine().HostReachability("127.0.0.1");
-    machine().FirstOutput(directory() / "missing", {});
-  }
-  const int after = dup(0);
-  close(after);
-  EXPECT_EQ(after, before);
-}
-
-struct StatRow {
+struct RefusalRow {
   const char* sentence;
-  const char* text;
-  std::uint64_t start_time;
+  std::function<bool(const testing::TemporaryDirectory&)> refused;
 };
 
-class StartTimeOfAProcess : public ::testing::TestWithParam<StatRow> {};
+class Refusal : public ::testing::TestWithParam<RefusalRow> {};
 
-TEST_P(StartTimeOfAProcess, IsTheTwentySecondField) {
-  EXPECT_EQ(StartTimeInText(GetParam().text), GetParam().start_time);
+std::size_t OpenDescriptors() {
+  const std::filesystem::directory_iterator all("/proc/self/fd");
+  return static_cast<std::size_t>(std::distance(begin(all), end(all)));
+}
+
+TEST_P(Refusal, TakesNoDescriptorOfTheHosts) {
+  const testing::TemporaryDirectory directory;
+  const std::size_t before = OpenDescriptors();
+  EXPECT_TRUE(GetParam().refused(directory));
+  EXPECT_EQ(OpenDescriptors(), before);
+  testing::EndChildren();
+}
+
+using Directory = testing::TemporaryDirectory;
+
+/// A helper in a shell script.
+bool HelperFails(const Directory& directory, const std::string& lines) {
+  directory.WriteScript("velmohelp-fetch", lines);
+  return !HelperAnswers(directory.path())
+              .FetchText("http://a/", std::chrono::milliseconds(50));
+}
+
+bool PreferenceFails(const Directory& directory) {
+  return !ReadPreferenceIn(directory.path(), "domain", "Key");
 }
 
 INSTANTIATE_TEST_SUITE_P(
-    Rows, StartTimeOfAProcess,
+    Programs, Refusal,
     ::testing::Values(
-        StatRow{"a plain name",
-                "9 (sh) S 4 5 6 7 8 9 10 11 12 13 14 15 16 17 18 19 20 21 22 "
-                "23",
-                22},
-        StatRow{"a name with blanks and parentheses",
-                "9 (a) b) (c) S 4 5 6 7 8 9 10 11 12 13 14 15 16 17 18 19 20 "
-                "21 22 23",
-                22},
-        StatRow{"too few fields", "9 (sh) S 4 5 6", 0},
-        StatRow{"no name", "9 sh S 4 5 6", 0}, StatRow{"nothing", "", 0}),
+        RefusalRow{"a tool that is missing",
+                   [](const Directory& directory) {
+                     return !RunToEnd(directory / "x", {}) &&
+                            !FirstOutput(directory / "x", {});
+                   }},
+        RefusalRow{"a tool that is a directory",
+                   [](const Directory& directory) {
+                     return !RunToEnd(directory.path(), {}) &&
+                            !FirstOutput(directory.path(), {});
+                   }},
+        RefusalRow{"a path with a NUL",
+                   [](const Directory&) {
+                     return !FirstOutput(std::string("/bin/true\0x", 11), {});
+                   }},
+        RefusalRow{"a viewer that is missing",
+                   [](const Directory& directory) {
+                     return StartDetached(directory / "x", {}) ==
+                            StartResult::kFailed;
+                   }},
+        RefusalRow{"a helper that is missing",
+                   [](const Directory& directory) {
+                     return !HelperAnswers(directory / "x").FetchText("a");
+                   }},
+        RefusalRow{"a helper that is no program",
+                   [](const Directory& directory) {
+                     directory.Write("velmohelp-fetch", "text");
+                     return !HelperAnswers(directory.path()).FetchText("a");
+                   }},
+        RefusalRow{"a helper that fails",
+                   [](const Directory& directory) {
+                     return HelperFails(directory, "exit 1");
+                   }},
+        RefusalRow{"a helper that is late",
+                   [](const Directory& directory) {
+                     return HelperFails(directory, "exec sleep 1000");
+                   }},
+        RefusalRow{"a helper that sends nonsense",
+                   [](const Directory& directory) {
+                     return HelperFails(directory, "exec yes");
+                   }},
+        RefusalRow{"a question with a NUL",
+                   [](const Directory& directory) {
+                     return !HelperAnswers(directory.path())
+                                 .FetchText(std::string("a\0b", 3));
+                   }}),
     testing::SentenceOf());
+
+INSTANTIATE_TEST_SUITE_P(
+    Preferences, Refusal,
+    ::testing::Values(
+        RefusalRow{"a preference file that is missing", &PreferenceFails},
+        RefusalRow{"a preference file that is a directory",
+                   [](const Directory& directory) {
+                     directory.MakeDirectory("domain.conf");
+                     return PreferenceFails(directory);
+                   }},
+        RefusalRow{"a preference file that is a pipe",
+                   [](const Directory& directory) {
+                     mkfifo((directory / "domain.conf").c_str(), S_IRWXU);
+                     return PreferenceFails(directory);
+                   }},
+        RefusalRow{"a preference file that is a device",
+                   [](const Directory& directory) {
+                     std::filesystem::create_symlink("/dev/null",
+                                                     directory / "domain.conf");
+                     return PreferenceFails(directory);
+                   }},
+        RefusalRow{"a preference file without the key",
+                   [](const Directory& directory) {
+                     directory.Write("domain.conf", "[Preferences]\n");
+                     return PreferenceFails(directory);
+                   }}),
+    testing::SentenceOf());
+
+TEST_F(Running, LeavesTheHostsDescriptorsAsTheyWere) {
+  const std::string tool = directory().WriteScript("tool", "echo out");
+  const std::size_t before = OpenDescriptors();
+  machine().RunToEnd(tool, {});
+  machine().FirstOutput(tool, {});
+  machine().StartProgram(tool, {});
+  machine().HostReachability("127.0.0.1");
+  EXPECT_EQ(OpenDescriptors(), before);
+}
+
+/// Another thread of the host may start a program at any moment.
+TEST(APipe, IsCloseOnExecAtBothEnds) {
+  const auto pipe = MakePipe();
+  ASSERT_TRUE(pipe);
+  EXPECT_EQ(fcntl(pipe->read_end.get(), F_GETFD), FD_CLOEXEC);
+  EXPECT_EQ(fcntl(pipe->write_end.get(), F_GETFD), FD_CLOEXEC);
+}
+
+TEST(APipe, IsCloseOnExecInAHostWithoutStandardStreams) {
+  EXPECT_TRUE(testing::InACopy([] {
+    close(0);
+    close(1);
+    close(2);
+    const auto pipe = MakePipe();
+    return pipe && fcntl(pipe->read_end.get(), F_GETFD) == FD_CLOEXEC &&
+           fcntl(pipe->write_end.get(), F_GETFD) == FD_CLOEXEC;
+  }));
+}
+
+TEST_F(Running, OpensFilesCloseOnExec) {
+  const UniqueFd file = OpenRegularFile(directory().Write("file", "text"));
+  ASSERT_TRUE(file);
+  EXPECT_EQ(fcntl(file.get(), F_GETFD), FD_CLOEXEC);
+}
 
 }  // namespace
 }  // namespace velmohelp

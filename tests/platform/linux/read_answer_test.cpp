@@ -2,7 +2,10 @@
 #include "platform/linux/read_answer.h"
 
 #include <gtest/gtest.h>
+#include <sys/mman.h>
+#include <unistd.h>
 
+#include "platform/linux/pipe.h"
 #include "tests/support/sentence.h"
 
 namespace velmohelp {
@@ -84,6 +87,42 @@ INSTANTIATE_TEST_SUITE_P(
         Row{.sentence = "fewer bytes than announced", .text = "6:hello,x"},
         Row{.sentence = "plain text", .text = "reachable\n."}),
     testing::SentenceOf());
+
+/// The timeout is for the whole answer: a byte now and then buys no time. A
+/// file always has more to read, and nobody reads this one in a millisecond.
+TEST(ReadingAnAnswer, EndsAtItsTimeoutHoweverMuchIsThere) {
+  constexpr std::size_t kSize = std::size_t{64} << 20U;
+  const std::string start = std::to_string(kSize) + ":";
+  const auto end = static_cast<off_t>(start.size() + kSize);
+  const UniqueFd file(memfd_create("answer", MFD_CLOEXEC));
+  ASSERT_EQ(write(file.get(), start.data(), start.size()), start.size());
+  ASSERT_EQ(pwrite(file.get(), ",", 1, end), 1);
+  lseek(file.get(), 0, SEEK_SET);
+  EXPECT_FALSE(ReadAnswer(file, std::chrono::milliseconds(1), kSize));
+}
+
+/// The test holds the other end open, as a process that the host forks would.
+TEST(ReadingAnAnswer, DoesNotWaitForTheEndOfTheFile) {
+  auto pipe = MakePipe();
+  ASSERT_TRUE(pipe);
+  ASSERT_EQ(write(pipe->write_end.get(), "5:hello,", 8), 8);
+  EXPECT_EQ(ReadAnswer(pipe->read_end, std::chrono::hours(1), kLimit), "hello");
+}
+
+TEST(ReadingAnAnswer, FailsAtTheEndOfTheFile) {
+  auto pipe = MakePipe();
+  ASSERT_TRUE(pipe);
+  ASSERT_EQ(write(pipe->write_end.get(), "5:hel", 5), 5);
+  pipe->write_end.Close();
+  EXPECT_FALSE(ReadAnswer(pipe->read_end, std::chrono::hours(1), kLimit));
+}
+
+TEST(ReadingAnAnswer, EndsAtItsTimeoutWhenNothingComes) {
+  auto pipe = MakePipe();
+  ASSERT_TRUE(pipe);
+  EXPECT_FALSE(
+      ReadAnswer(pipe->read_end, std::chrono::milliseconds(20), kLimit));
+}
 
 }  // namespace
 }  // namespace velmohelp
