@@ -19,3 +19,29 @@ function(velmo_configure target)
     target_link_options(${target} PRIVATE -fsanitize=${VELMO_SANITIZE})
   endif()
 endfunction()
+
+# For what is shipped: the library and its helper programs, which run in other
+# people's processes or read what strangers send.
+function(velmo_harden target)
+  set(optimised "$<NOT:$<CONFIG:Debug>>")
+  if(NOT VELMO_SANITIZE)
+    target_compile_options(${target} PRIVATE
+      -fstack-clash-protection -fstack-protector-strong
+      # Some distributions' compilers define it already.
+      "$<${optimised}:-U_FORTIFY_SOURCE;-D_FORTIFY_SOURCE=2>")
+  endif()
+  get_target_property(type ${target} TYPE)
+  if(NOT type STREQUAL "OBJECT_LIBRARY")
+    target_link_options(${target} PRIVATE "LINKER:-z,relro,-z,now")
+  endif()
+endfunction()
+
+# For code that runs on a host's stack, which may have 16 KiB: a large frame
+# steps over the guard page and writes into the host's memory. Neither an
+# unoptimised nor a sanitized build says how large frames are when shipped.
+function(velmo_limit_frames target)
+  if(NOT VELMO_SANITIZE)
+    target_compile_options(${target} PRIVATE
+      "$<$<NOT:$<CONFIG:Debug>>:-Wframe-larger-than=4096>")
+  endif()
+endfunction()
