@@ -15,11 +15,25 @@
 namespace velmohelp {
 namespace {
 
-/// A process with this many mappings has none of ours behind them.
+/// Bytes of the list of mappings that are read.
 constexpr std::size_t kMapsLimit = 64U << 20U;
 
-/// The kernel's mark behind the path of a file that has been replaced, as an
-/// update does while its programs run. Its folder is the same still.
+/// The list of mappings has one line each: the kernel writes a line feed in a
+/// path as "\\012", and a backslash as it is. Where both readings name a file,
+/// the one without a line feed is right.
+std::string WithLineFeeds(std::string path) {
+  constexpr std::string_view kEscape = "\\012";
+  if (FindEntry(path)) return path;
+  std::size_t at = 0;
+  while ((at = path.find(kEscape, at)) != std::string::npos) {
+    path.replace(at, kEscape.size(), 1, '\n');
+  }
+  return path;
+}
+
+/// The kernel appends a mark to the path of a file that has been replaced, as
+/// an update does while its programs run. The folder is still the same. A file
+/// may also have this name.
 std::string WithoutDeletedMark(std::string path) {
   constexpr std::string_view kMark = " (deleted)";
   if (path.ends_with(kMark) && !FindEntry(path)) {
@@ -28,7 +42,7 @@ std::string WithoutDeletedMark(std::string path) {
   return path;
 }
 
-bool TakeHex(std::string_view& text, unsigned long& value) {
+bool ConsumeHex(std::string_view& text, unsigned long& value) {
   const auto end =
       std::from_chars(text.data(), text.data() + text.size(), value, 16);
   text.remove_prefix(static_cast<std::size_t>(end.ptr - text.data()));
@@ -39,9 +53,9 @@ bool TakeHex(std::string_view& text, unsigned long& value) {
 bool Covers(std::string_view line, unsigned long address) {
   unsigned long from = 0;
   unsigned long to = 0;
-  if (!TakeHex(line, from) || !line.starts_with('-')) return false;
+  if (!ConsumeHex(line, from) || !line.starts_with('-')) return false;
   line.remove_prefix(1);
-  return TakeHex(line, to) && from <= address && address < to;
+  return ConsumeHex(line, to) && from <= address && address < to;
 }
 
 std::optional<std::string> FileMappedHere(unsigned long address) {
@@ -49,7 +63,7 @@ std::optional<std::string> FileMappedHere(unsigned long address) {
   return maps ? MappedFile(*maps, address) : std::nullopt;
 }
 
-/// path without links: helpers lie beside the file, not beside a link to it.
+/// path without links: helpers are beside the file, not beside a link to it.
 std::string RealPath(const std::string& path) {
   const std::unique_ptr<char, decltype(&std::free)> real(
       realpath(path.c_str(), nullptr), &std::free);
@@ -63,8 +77,8 @@ std::optional<std::string> FindOwnFolder() {
       info.dli_fname[0] == '/') {
     return Dirname(RealPath(info.dli_fname));
   }
-  // The host named the file by a relative path, and may have changed its
-  // directory since.
+  // The host loaded the file by a relative path, and may have changed its
+  // working directory since.
   const auto file = FileMappedHere(reinterpret_cast<std::uintptr_t>(&here));
   return file ? std::optional(Dirname(*file)) : std::nullopt;
 }
@@ -79,14 +93,14 @@ std::optional<std::string> MappedFile(std::string_view maps,
     const std::size_t path = line.find('/');
     if (!Covers(line, address)) continue;
     if (path == std::string_view::npos) return std::nullopt;
-    return WithoutDeletedMark(std::string(line.substr(path)));
+    return WithLineFeeds(WithoutDeletedMark(std::string(line.substr(path))));
   }
   return std::nullopt;
 }
 
 std::optional<std::string> OwnFolder() {
-  // The file stays where it is while it is loaded, and to follow the links to
-  // it costs more than all other questions about bundles.
+  // The file stays where it is while it is loaded. Following the links to it
+  // costs more than all other questions about bundles.
   static const std::optional<std::string> folder = FindOwnFolder();
   return folder;
 }

@@ -15,6 +15,7 @@
 #include <functional>
 #include <map>
 
+#include "tests/system/small_stack.h"
 #include "tests/system/words.h"
 
 namespace velmohelp::testing {
@@ -201,10 +202,30 @@ const std::map<std::string, Request>& Requests() {
   return requests;
 }
 
+std::size_t stack_used = 0;
+
+/// "on stack", its size, and a request that is made on a thread's stack of that
+/// size.
+std::string AnswerOnStack(Client& client, const Words& words) {
+  const Words request(words.begin() + 2, words.end());
+  const Request& function = Requests().at(request.at(0));
+  std::string answer;
+  const auto used = UseOfStack(std::stoul(words.at(1)),
+                               [&] { answer = function(client, request); });
+  if (!used) return "overwritten";
+  stack_used = std::max(stack_used, *used);
+  return answer;
+}
+
+std::string Answer(Client& client, const Words& words) {
+  if (words.at(0) == "stack used") return std::to_string(stack_used);
+  if (words.at(0) == "on stack") return AnswerOnStack(client, words);
+  return Requests().at(words.at(0))(client, words);
+}
+
 void Serve(Client& client) {
   while (const auto words = ReceiveWords(kTestDescriptor)) {
-    const std::string answer = Requests().at(words->at(0))(client, *words);
-    if (!SendWords(kTestDescriptor, {answer})) return;
+    if (!SendWords(kTestDescriptor, {Answer(client, *words)})) return;
   }
 }
 

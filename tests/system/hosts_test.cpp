@@ -154,6 +154,41 @@ TEST(AHostWithOneDescriptorLeft, OpensNoBrowser) {
   EXPECT_NE(world.Started(), Nothing());
 }
 
+/// What docs/embedding.md promises.
+constexpr std::size_t kDocumentedStack = std::size_t{24} << 10U;
+
+Words OnSmallStack(const Words& request) {
+  Words words = {"on stack", std::to_string(kDocumentedStack)};
+  words.insert(words.end(), request.begin(), request.end());
+  return words;
+}
+
+/// Some hosts give their threads little. A call that needs more ends the host
+/// or overwrites its memory.
+TEST(AHostWithSmallStacks, GetsEveryAnswer) {
+  if (VELMO_TEST_SANITIZED) GTEST_SKIP() << "its frames are not those shipped";
+  HelpWorld world;
+  Apply({Online(), File("{installed}/intro.html"),
+         File("{installed}/search.html"), Served("intro.html"),
+         Served("search.html")},
+        world);
+  EXPECT_EQ(world.Ask(OnSmallStack({"initialise", "Foo", "en_US"})), "0");
+  for (const char* program : {"{viewer}", "{browser}"}) {
+    for (const Words& request :
+         {Display("intro"), Open("http://localhost/"), Search("x")}) {
+      EXPECT_EQ(world.Ask(OnSmallStack(request)), "0");
+      const Words started = world.Started();
+      ASSERT_FALSE(started.empty());
+      EXPECT_EQ(started.front(), world.Expanded(program));
+    }
+    world.Remove("{viewer}");
+  }
+  EXPECT_EQ(world.Ask(OnSmallStack({"search by name", "", "", "en_US", "x"})),
+            "8");
+  EXPECT_EQ(world.Ask(OnSmallStack({"status"})), "0");
+  RecordProperty("bytes", world.Ask({"stack used"}));
+}
+
 /// A copy of such a host's memory, made for every start, would take seconds and
 /// might not fit.
 TEST(AHostWithFourGigabytes, IsAnsweredAtOnce) {
