@@ -1,6 +1,5 @@
 #include "platform/linux/environment.h"
 
-#include <sys/auxv.h>
 #include <unistd.h>
 
 #include <cstdlib>
@@ -12,8 +11,6 @@ namespace {
 constexpr std::string_view kLoaderPath = "LD_LIBRARY_PATH=";
 
 }  // namespace
-
-bool IsSecureExecution() { return getauxval(AT_SECURE) != 0; }
 
 ChildEnvironment::ChildEnvironment() {
   const char* saved = secure_getenv("LD_LIBRARY_PATH_ORIG");

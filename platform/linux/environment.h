@@ -1,4 +1,4 @@
-// The host's environment, and how far it is trusted.
+// The environment of started programs.
 #ifndef PLATFORM_LINUX_ENVIRONMENT_H_
 #define PLATFORM_LINUX_ENVIRONMENT_H_
 
@@ -7,16 +7,12 @@
 
 namespace velmohelp {
 
-/// The host runs with more rights than the person who started it (set-user-ID,
-/// file capabilities): that person's environment must not decide which files
-/// it reads or makes.
-bool IsSecureExecution();
-
 /// The environment that a program is started with: the host's, with the
 /// loader's path as it was before a tool that bundles applications changed it.
 /// A browser that loads the host's bundled libraries instead of the system's
 /// crashes at its start. Such a tool saves the path as LD_LIBRARY_PATH_ORIG; an
-/// empty one means that there was none.
+/// empty one means that there was none. A host that runs with more rights than
+/// the person who started it (set-user-ID) does not look at the variable.
 ///
 /// Valid until the host's environment changes.
 class ChildEnvironment {
