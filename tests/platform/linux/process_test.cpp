@@ -98,7 +98,10 @@ TEST_F(Running, GivesTheHostNoChild) {
 /// for.
 TEST_F(Running, LeavesNoZombieOfAToolThatItWaitedFor) {
   machine().RunToEnd(directory().WriteScript("tool", "exit 0"), {});
-  machine().RunToEnd(directory().Write("data", ""), {});
+  const std::string data = directory().Write("data", "");
+  machine().RunToEnd(data, {});
+  machine().FirstOutput(data, {});
+  machine().StartProgram(data, {});
   EXPECT_TRUE(testing::Children().empty());
 }
 
