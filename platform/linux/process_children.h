@@ -40,12 +40,12 @@ struct Launch {
 };
 
 /// The intermediate process: starts the program, waits for it and reports.
-/// launch: a Launch. For clone, with all signals blocked; does not return.
+/// argument: a Launch. For clone, with all signals blocked; does not return.
 ///
 /// It shares the host's memory while the host's thread is suspended. Hence it
 /// makes system calls and nothing else: no allocation, no lock, no cancellation
 /// point, no C library function that keeps state; errno is the host's.
-int RunIntermediate(void* launch);
+int RunIntermediate(void* argument);
 
 }  // namespace velmohelp
 

@@ -120,6 +120,14 @@ TEST_F(Helpers, SayThatThereIsAText) {
   EXPECT_FALSE(Answers().FetchText("http://a/"));
 }
 
+/// The library keeps no writing end of its own open.
+TEST_F(Helpers, AreNotWaitedForAfterTheirEnd) {
+  using std::chrono::hours;
+  Write("reach", "exit 1");
+  const Timeouts endless{hours(1), hours(1), hours(1)};
+  EXPECT_FALSE(Answers(endless).HostReachability("localhost"));
+}
+
 /// How the only helper ended.
 int EndingSignal() {
   EXPECT_EQ(testing::Children().size(), 1U);
