@@ -1,5 +1,5 @@
 // What another program writes: as the tool's output it names the viewer, as a
-// helper's answer it is a command line; each is what the slow rules see.
+// helper's answer it is a command line; each is what the oracles see.
 #include "platform/help_tool.h"
 #include "platform/linux/browser_command.h"
 #include "platform/scripted/scripted_machine.h"
@@ -18,7 +18,7 @@ void Check(Input input) {
   machine.OnRun(kTool, {"-isAppInstalled", "a", "p"}, 0);
   machine.OnOutput(kTool, {"-appLocation", "a", "p"}, output);
   machine.SetExecutable(directory, "/viewer");
-  const std::string viewer = GetHelpApplicationPath(machine, {"a", "p"});
+  const std::string viewer = HelpApplicationPath(machine, {"a", "p"});
   Same(viewer, directory.empty() ? "" : "/viewer");
   Same(ParseBrowserAnswer(output), OracleBrowserWords(output));
 }

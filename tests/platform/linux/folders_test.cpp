@@ -243,7 +243,7 @@ TEST(PreferencesFolder, IsNoneWhereAFileIs) {
 
 /// The host may start a program of its own at any moment.
 TEST(OpenedFile, PassesToNoProgram) {
-  const Descriptor file = OpenForReading("/proc/self/exe");
+  const UniqueFd file = OpenForReading("/proc/self/exe");
   EXPECT_EQ(fcntl(file.number(), F_GETFD), FD_CLOEXEC);
 }
 
