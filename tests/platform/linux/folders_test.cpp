@@ -244,7 +244,7 @@ TEST(PreferencesFolder, IsNoneWhereAFileIs) {
 /// The host may start a program of its own at any moment.
 TEST(OpenedFile, PassesToNoProgram) {
   const UniqueFd file = OpenForReading("/proc/self/exe");
-  EXPECT_EQ(fcntl(file.number(), F_GETFD), FD_CLOEXEC);
+  EXPECT_EQ(fcntl(file.get(), F_GETFD), FD_CLOEXEC);
 }
 
 TEST(Resources, AreBesideTheHostBeforeTheyAreInShare) {
