@@ -8,7 +8,7 @@
 #include <csignal>
 #include <cstdlib>
 
-#include "tests/support/temp_folder.h"
+#include "tests/support/temporary_directory.h"
 
 namespace velmohelp::testing {
 namespace {
@@ -28,7 +28,7 @@ std::string KeyIn(const std::string& path, const std::string& key) {
 
 class EndlessScanDeathTest : public ::testing::Test {
  protected:
-  const TempFolder folder;
+  const TemporaryDirectory folder;
 };
 
 TEST_F(EndlessScanDeathTest, FollowsAnEscapedClosingQuote) {

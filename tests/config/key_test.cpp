@@ -3,7 +3,7 @@
 
 #include "config/key_scanner.h"
 #include "tests/support/sentence.h"
-#include "tests/support/temp_folder.h"
+#include "tests/support/temporary_directory.h"
 
 namespace velmohelp::testing {
 namespace {
@@ -152,7 +152,7 @@ INSTANTIATE_TEST_SUITE_P(NotFound, Key, ::testing::ValuesIn(kNotFound),
                          SentenceOf());
 
 std::string ValueInFile(const std::string& text, const std::string& key) {
-  const TempFolder folder;
+  const TemporaryDirectory folder;
   XMLParser parser;
   EXPECT_TRUE(parser.ReadFileToBuffer(folder.Write("x.xml", text)));
   return parser.GetKey(key);

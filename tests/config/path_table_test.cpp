@@ -6,7 +6,7 @@
 
 #include "config/key_scanner.h"
 #include "tests/support/sentence.h"
-#include "tests/support/temp_folder.h"
+#include "tests/support/temporary_directory.h"
 
 namespace velmohelp::testing {
 namespace {
@@ -179,7 +179,7 @@ TEST(PathTableCapacity, BelowOneStaysInATextWithoutAPath) {
 }
 
 TEST(PathTableOfAParser, ComesFromItsFile) {
-  const TempFolder folder;
+  const TemporaryDirectory folder;
   XMLParser parser;
   Table table(100);
   parser.PopulatePathArray(table.rows, table.count);

@@ -2,7 +2,7 @@
 
 #include "tests/support/on_scripted_machine.h"
 #include "tests/support/sentence.h"
-#include "tests/support/temp_folder.h"
+#include "tests/support/temporary_directory.h"
 
 namespace velmohelp::testing {
 namespace {
@@ -33,7 +33,7 @@ class ReadConfig : public OnScriptedMachine,
     sPublisherID = "old publisher";
     sAppIDIsNull = true;
   }
-  const TempFolder folder;
+  const TemporaryDirectory folder;
 };
 
 TEST_P(ReadConfig, ReturnsAResultAndAssigns) {
@@ -221,8 +221,8 @@ class ReadConfigFile : public ReadConfig {};
 
 TEST_F(ReadConfigFile, ThatCannotBeReadChangesNothing) {
   sLocale = "en_US";
-  EXPECT_EQ(ReadHelpcfg(folder.Path("missing")), 6);
-  EXPECT_EQ(ReadHelpcfg(folder.Path()), 6);
+  EXPECT_EQ(ReadHelpcfg(folder / "missing"), 6);
+  EXPECT_EQ(ReadHelpcfg(folder.path()), 6);
   EXPECT_EQ(ReadHelpcfg(""), 6);
   EXPECT_EQ(sConfigID, "old id");
   EXPECT_EQ(sBaseUrl, "old url");

@@ -5,7 +5,7 @@
 #include "tests/support/key_oracle.h"
 #include "tests/support/random_text.h"
 #include "tests/support/sentence.h"
-#include "tests/support/temp_folder.h"
+#include "tests/support/temporary_directory.h"
 
 namespace velmohelp::testing {
 namespace {
@@ -27,7 +27,7 @@ struct Row {
 class Pieces : public ::testing::TestWithParam<Row> {};
 
 TEST_P(Pieces, AreReadUpToTheirFirstZeroByte) {
-  const TempFolder folder;
+  const TemporaryDirectory folder;
   XMLParser parser;
   ASSERT_TRUE(parser.ReadFileToBuffer(folder.Write("x", GetParam().bytes)));
   EXPECT_EQ(parser.GetKey("k"), GetParam().value);
@@ -73,7 +73,7 @@ INSTANTIATE_TEST_SUITE_P(OfAFile, Pieces, ::testing::ValuesIn(kRows),
                          SentenceOf());
 
 TEST(PiecesOfRandomFiles, AreReadAsTheOracleReadsThem) {
-  const TempFolder folder;
+  const TemporaryDirectory folder;
   RandomText random(std::string(700, 'a') + "\0"s);
   for (const std::size_t pieces : {1U, 2U, 63U, 64U, 65U, 128U, 200U}) {
     for (const int more : {-1, 0, 1, 500}) {
@@ -96,24 +96,22 @@ class Unreadable : public ::testing::Test {
     EXPECT_FALSE(parser.ReadFileToBuffer(path));
     EXPECT_EQ(parser.GetKey("k"), "");
   }
-  const TempFolder folder;
+  const TemporaryDirectory folder;
 };
 
 TEST_F(Unreadable, IsAnEmptyPath) { ExpectFalseAndEmpty(""); }
 
-TEST_F(Unreadable, IsAMissingFile) {
-  ExpectFalseAndEmpty(folder.Path("missing"));
-}
+TEST_F(Unreadable, IsAMissingFile) { ExpectFalseAndEmpty(folder / "missing"); }
 
-TEST_F(Unreadable, IsADirectory) { ExpectFalseAndEmpty(folder.Path()); }
+TEST_F(Unreadable, IsADirectory) { ExpectFalseAndEmpty(folder.path()); }
 
 TEST_F(Unreadable, IsAFileBelowAFile) {
   ExpectFalseAndEmpty(folder.Write("file", "") + "/x");
 }
 
 TEST_F(Unreadable, IsAPipeAndDoesNotBlock) {
-  ASSERT_EQ(mkfifo(folder.Path("pipe").c_str(), 0600), 0);
-  ExpectFalseAndEmpty(folder.Path("pipe"));
+  ASSERT_EQ(mkfifo((folder / "pipe").c_str(), 0600), 0);
+  ExpectFalseAndEmpty(folder / "pipe");
 }
 
 TEST_F(Unreadable, IsADeviceThatNeverEnds) { ExpectFalseAndEmpty("/dev/zero"); }
@@ -131,14 +129,14 @@ TEST(Parser, HasNoKeysBeforeItHasReadAFile) {
 }
 
 TEST(Parser, ReadsAnEmptyFile) {
-  const TempFolder folder;
+  const TemporaryDirectory folder;
   XMLParser parser;
   EXPECT_TRUE(parser.ReadFileToBuffer(folder.Write("x", "")));
   EXPECT_EQ(parser.GetKey("k"), "");
 }
 
 TEST(Parser, ForgetsTheFileBefore) {
-  const TempFolder folder;
+  const TemporaryDirectory folder;
   XMLParser parser;
   parser.ReadFileToBuffer(folder.Write("a", "k=\"v\""));
   EXPECT_TRUE(parser.ReadFileToBuffer(folder.Write("b", "j=\"w\"")));
@@ -147,7 +145,7 @@ TEST(Parser, ForgetsTheFileBefore) {
 }
 
 TEST(Parser, ReadsTenMegabytesOfZeroBytesToTheirEnd) {
-  const TempFolder folder;
+  const TemporaryDirectory folder;
   const std::string path = folder.Write("x", "");
   std::filesystem::resize_file(path, kPiece * 10'000);
   std::ofstream(path, std::ios_base::app) << "k=\"v\"";
@@ -157,7 +155,7 @@ TEST(Parser, ReadsTenMegabytesOfZeroBytesToTheirEnd) {
 }
 
 TEST(Parser, ReadsBinaryBytesAsTheyAre) {
-  const TempFolder folder;
+  const TemporaryDirectory folder;
   const std::string all = AllBytes().substr(1);
   XMLParser parser;
   parser.ReadFileToBuffer(folder.Write("x", all + "k=\"\r\n\x1A\xFF\""));

@@ -2,7 +2,7 @@
 
 #include "config/help_config.h"
 #include "tests/support/on_scripted_machine.h"
-#include "tests/support/temp_folder.h"
+#include "tests/support/temporary_directory.h"
 
 namespace velmohelp::testing {
 namespace {
@@ -16,8 +16,8 @@ constexpr char kGood[] = R"(id="en_US_Foo" baseUrl="installed" path="dir"
 class UpdateConfig : public OnScriptedMachine {
  protected:
   UpdateConfig() {
-    machine.SetResourcesDirectory(folder.Path("res"));
-    machine.SetPreferencesFolder(folder.Path("prefs"));
+    machine.SetResourcesDirectory(folder / "res");
+    machine.SetPreferencesFolder(folder / "prefs");
     kDownloadedHelpcfg = "/store/";
     sLocale = "en_US";
     sProductID = "Foo";
@@ -27,13 +27,13 @@ class UpdateConfig : public OnScriptedMachine {
     return folder.Write("res/help/" + locale + "/Foo.helpcfg", text);
   }
   std::string DownloadPath() const {
-    return folder.Path("prefs/store//dir/Foo.helpcfg");
+    return folder / "prefs/store//dir/Foo.helpcfg";
   }
   void Download(const std::string& text) {
     WriteFile(DownloadPath(), text);
     machine.AddFile(DownloadPath());
   }
-  const TempFolder folder;
+  const TemporaryDirectory folder;
 };
 
 TEST_F(UpdateConfig, ReadsTheInstalledFileWhenNothingWasDownloaded) {

@@ -3,7 +3,7 @@
 #include <velmohelp/state.h>
 
 #include "tests/support/sentence.h"
-#include "tests/support/temp_folder.h"
+#include "tests/support/temporary_directory.h"
 
 namespace velmohelp::testing {
 namespace {
@@ -18,7 +18,7 @@ struct Row {
 class Preferences : public ::testing::TestWithParam<Row> {};
 
 TEST_P(Preferences, Decide) {
-  const TempFolder folder;
+  const TemporaryDirectory folder;
   const std::string path = folder.Write("klh-pref.xml", GetParam().text);
   EXPECT_EQ(GetKLHFilePreferenceForHelpApp(path), GetParam().viewer);
   EXPECT_EQ(GetPreferenceSettingsForNetwork(path), GetParam().network);
@@ -92,9 +92,9 @@ INSTANTIATE_TEST_SUITE_P(Consenting, Preferences,
                          ::testing::ValuesIn(kConsents), SentenceOf());
 
 TEST(PreferencesThatCannotBeRead, Consent) {
-  const TempFolder folder;
+  const TemporaryDirectory folder;
   for (const std::string& path :
-       {std::string(), folder.Path("missing"), folder.Path()}) {
+       {std::string(), folder / "missing", folder.path()}) {
     EXPECT_EQ(GetKLHFilePreferenceForHelpApp(path), 1) << path;
     EXPECT_TRUE(GetPreferenceSettingsForNetwork(path)) << path;
   }

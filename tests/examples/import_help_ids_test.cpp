@@ -10,8 +10,8 @@
 #include <sstream>
 #include <string>
 
-#include "tests/support/scratch_folder.h"
 #include "tests/support/sentence.h"
+#include "tests/support/temporary_directory.h"
 
 namespace velmohelp {
 namespace {
@@ -25,7 +25,7 @@ class ImportHelpIds : public ::testing::Test {
  protected:
   /// Imports the table in a file. Returns the path of the help map.
   std::string Import(const std::string& table) {
-    std::string map = folder_.Path("helpmap.txt");
+    std::string map = folder_ / "helpmap.txt";
     const std::string command = "'" LXHOST "' '" IMPORTER
                                 "' home.html en-US/ <'" +
                                 table + "' >'" + map + "'";
@@ -36,12 +36,12 @@ class ImportHelpIds : public ::testing::Test {
   /// Imports a table. Returns the text of the help map.
   std::string ImportText(const std::string& table) {
     folder_.Write("table.js", table);
-    Import(folder_.Path("table.js"));
-    return folder_.Read("helpmap.txt");
+    Import(folder_ / "table.js");
+    return testing::FileText(folder_ / "helpmap.txt");
   }
 
  private:
-  testing::ScratchFolder folder_;
+  testing::TemporaryDirectory folder_;
 };
 
 struct Row {

@@ -15,7 +15,7 @@ namespace fs = std::filesystem;
 
 struct Reader {
   const char* name;
-  Keys (*read)(const TempFolder& folder);
+  Keys (*read)(const TemporaryDirectory& folder);
 };
 
 constexpr Reader kReaders[] = {{"configuration", InConfiguration},
@@ -27,7 +27,7 @@ struct Change {
   /// The read before which it happens: the first, or the second.
   int number;
   /// Returns the error that the read ends with, 0 for none.
-  int (*happen)(const TempFolder& folder);
+  int (*happen)(const TemporaryDirectory& folder);
   Keys keys;
 };
 
@@ -39,7 +39,7 @@ class AFile : public ::testing::TestWithParam<Change> {};
 
 TEST_P(AFile, IsReadWhileItChanges) {
   for (const Reader& reader : kReaders) {
-    const TempFolder folder;
+    const TemporaryDirectory folder;
     WriteFile(FileIn(folder), LongText());
     const Reads reads([&](int number) {
       return number == GetParam().number ? GetParam().happen(folder) : 0;
@@ -48,49 +48,51 @@ TEST_P(AFile, IsReadWhileItChanges) {
   }
 }
 
-int StayAsItIs(const TempFolder& /*folder*/) { return 0; }
-int BeInterrupted(const TempFolder& /*folder*/) { return EINTR; }
+int StayAsItIs(const TemporaryDirectory& /*folder*/) { return 0; }
+int BeInterrupted(const TemporaryDirectory& /*folder*/) { return EINTR; }
 
-int Shrink(const TempFolder& folder, std::uintmax_t size) {
+int Shrink(const TemporaryDirectory& folder, std::uintmax_t size) {
   fs::resize_file(FileIn(folder), size);
   return 0;
 }
-int BeEmptied(const TempFolder& folder) { return Shrink(folder, 0); }
-int BeCutInHalf(const TempFolder& folder) { return Shrink(folder, 150'000); }
+int BeEmptied(const TemporaryDirectory& folder) { return Shrink(folder, 0); }
+int BeCutInHalf(const TemporaryDirectory& folder) {
+  return Shrink(folder, 150'000);
+}
 
-int BeEmptiedAndGrowAgain(const TempFolder& folder) {
+int BeEmptiedAndGrowAgain(const TemporaryDirectory& folder) {
   BeEmptied(folder);
   return Shrink(folder, 1'000'000);
 }
 
-int Gain(const TempFolder& folder) {
+int Gain(const TemporaryDirectory& folder) {
   std::ofstream(FileIn(folder), std::ios_base::app) << Entry("added");
   return 0;
 }
 
-int BeTakenAway(const TempFolder& folder) {
+int BeTakenAway(const TemporaryDirectory& folder) {
   fs::remove(FileIn(folder));
   return 0;
 }
 
-int BecomeADirectory(const TempFolder& folder) {
+int BecomeADirectory(const TemporaryDirectory& folder) {
   BeTakenAway(folder);
   fs::create_directory(FileIn(folder));
   return 0;
 }
 
-int BeReplaced(const TempFolder& folder) {
+int BeReplaced(const TemporaryDirectory& folder) {
   fs::rename(folder.Write("y", Entry("added")), FileIn(folder));
   return 0;
 }
 
-int BeOverwritten(const TempFolder& folder) {
+int BeOverwritten(const TemporaryDirectory& folder) {
   std::fstream file(FileIn(folder), std::ios_base::in | std::ios_base::out);
   file << "[Preferences]\n" << Entry("VX_HOME") << Entry("added");
   return 0;
 }
 
-int BeForbidden(const TempFolder& folder) {
+int BeForbidden(const TemporaryDirectory& folder) {
   fs::permissions(FileIn(folder), fs::perms::none);
   return 0;
 }

@@ -25,14 +25,14 @@ namespace fs = std::filesystem;
 /// Called once, after the next question about a path.
 std::function<void()> after_stat;
 
-Keys InBaseUrl(const TempFolder& folder) {
+Keys InBaseUrl(const TemporaryDirectory& folder) {
   const bool read = ITEMInternal::GetHelpMapBaseUrl(FileIn(folder)) != "";
   return read ? kAllKeys : Keys();
 }
 
 struct LimitRow {
   const char* sentence;
-  Keys (*read)(const TempFolder& folder);
+  Keys (*read)(const TemporaryDirectory& folder);
   std::size_t limit;
 };
 
@@ -41,7 +41,7 @@ class Limit : public ::testing::TestWithParam<LimitRow> {
   /// The keys in a file of this length. All but its first bytes is a hole,
   /// which takes no room on the disk.
   static Keys KeysInFileOf(std::size_t size) {
-    const TempFolder folder;
+    const TemporaryDirectory folder;
     WriteFile(FileIn(folder),
               "[Preferences]\n" + Entry("VX_HOME") + Entry("first"));
     fs::resize_file(FileIn(folder), size);
@@ -64,7 +64,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 struct ReaderRow {
   const char* sentence;
-  Keys (*read)(const TempFolder& folder);
+  Keys (*read)(const TemporaryDirectory& folder);
 };
 
 const ReaderRow kReaders[] = {{"a configuration", InConfiguration},
@@ -84,7 +84,7 @@ struct InPlaceOf : ::testing::TestWithParam<ReaderRow> {
     EXPECT_EQ(GetParam().read(folder), Keys());
     EXPECT_EQ(OpenDescriptors(), before);
   }
-  const TempFolder folder;
+  const TemporaryDirectory folder;
 };
 
 TEST_P(InPlaceOf, APipeIsNothingAndBlocksNobody) {
@@ -142,11 +142,11 @@ INSTANTIATE_TEST_SUITE_P(Of, InPlaceOf, ::testing::ValuesIn(kReaders),
 /// A pipe takes the map's place as soon as somebody has asked what the map is:
 /// opened as a file would be, it would block forever.
 TEST(AHelpMapThatBecomesAPipe, IsJudgedOnceItIsOpen) {
-  const TempFolder folder;
+  const TemporaryDirectory folder;
   WriteFile(FileIn(folder), LongText());
-  ASSERT_EQ(mkfifo((folder.Path("pipe")).c_str(), S_IRWXU), 0);
+  ASSERT_EQ(mkfifo((folder / "pipe").c_str(), S_IRWXU), 0);
   after_stat = [&] {
-    rename(folder.Path("pipe").c_str(), FileIn(folder).c_str());
+    rename((folder / "pipe").c_str(), FileIn(folder).c_str());
   };
   EXPECT_EQ(InHelpMap(folder).size(), 2U);
   after_stat = nullptr;

@@ -7,7 +7,7 @@
 #include <filesystem>
 #include <new>
 
-#include "tests/faults/exhaustion.h"
+#include "tests/support/exhaustion.h"
 #include "tests/support/sentence.h"
 #include "tests/support/world.h"
 

@@ -7,7 +7,7 @@
 #include <optional>
 #include <set>
 
-#include "tests/faults/exhaustion.h"
+#include "tests/support/exhaustion.h"
 #include "tests/support/exported_world.h"
 #include "tests/support/sentence.h"
 

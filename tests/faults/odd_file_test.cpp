@@ -18,7 +18,7 @@ class ABreakingFile : public ::testing::Test {
  protected:
   ABreakingFile() { WriteFile(FileIn(folder), LongText()); }
 
-  const TempFolder folder;
+  const TemporaryDirectory folder;
   const Reads reads{[](int number) { return number == 2 ? EIO : 0; }};
 };
 
@@ -40,7 +40,7 @@ TEST_F(ABreakingFile, RaisesTheStreamsFailureAsAHelpMapAndLeavesItsBeginning) {
 
 /// Holes take no room on the disk.
 TEST(AFileOfSparseGigabytes, IsUnreadableAtOnce) {
-  const TempFolder folder;
+  const TemporaryDirectory folder;
   WriteFile(FileIn(folder), LongText());
   fs::resize_file(FileIn(folder), std::uintmax_t{1} << 32U);
   int count = 0;
@@ -55,7 +55,7 @@ TEST(AFileOfSparseGigabytes, IsUnreadableAtOnce) {
 }
 
 TEST(AFileWithoutAnEnd, IsGivenUp) {
-  const TempFolder folder;
+  const TemporaryDirectory folder;
   WriteFile(FileIn(folder), LongText());
   const Reads reads([](int number) { return number < 2 ? 0 : kZeroBytes; });
   EXPECT_EQ(InConfiguration(folder), Keys());

@@ -17,9 +17,9 @@ std::string LongText() {
   return text + Entry("last");
 }
 
-std::string FileIn(const TempFolder& folder) { return folder.Path("x"); }
+std::string FileIn(const TemporaryDirectory& folder) { return folder / "x"; }
 
-Keys InConfiguration(const TempFolder& folder) {
+Keys InConfiguration(const TemporaryDirectory& folder) {
   XMLParser parser;
   parser.ReadFileToBuffer(FileIn(folder));
   Keys keys = kAllKeys;
@@ -28,7 +28,7 @@ Keys InConfiguration(const TempFolder& folder) {
   return keys;
 }
 
-Keys InHelpMap(const TempFolder& folder) {
+Keys InHelpMap(const TemporaryDirectory& folder) {
   std::map<std::string, std::string> map;
   const bool complete = ITEMInternal::LoadMapFile(FileIn(folder), map);
   EXPECT_EQ(complete, map.contains("VX_HOME"));
@@ -37,7 +37,7 @@ Keys InHelpMap(const TempFolder& folder) {
   return keys;
 }
 
-Keys InPreferences(const TempFolder& folder) {
+Keys InPreferences(const TemporaryDirectory& folder) {
   const auto text = ReadRegularFile(FileIn(folder), kSettingsFileLimit);
   Keys keys = kAllKeys;
   std::erase_if(keys, [&](const auto& key) {

@@ -5,7 +5,7 @@
 #include <set>
 #include <string>
 
-#include "tests/support/temp_folder.h"
+#include "tests/support/temporary_directory.h"
 
 namespace velmohelp::testing {
 
@@ -22,12 +22,12 @@ std::string Entry(const std::string& key);
 std::string LongText();
 
 /// The file that is read.
-std::string FileIn(const TempFolder& folder);
+std::string FileIn(const TemporaryDirectory& folder);
 
 /// The keys that a reader finds in the file.
-Keys InConfiguration(const TempFolder& folder);
-Keys InHelpMap(const TempFolder& folder);
-Keys InPreferences(const TempFolder& folder);
+Keys InConfiguration(const TemporaryDirectory& folder);
+Keys InHelpMap(const TemporaryDirectory& folder);
+Keys InPreferences(const TemporaryDirectory& folder);
 
 }  // namespace velmohelp::testing
 

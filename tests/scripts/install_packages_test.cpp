@@ -4,8 +4,8 @@
 #include <cstdlib>
 #include <string>
 
-#include "tests/support/scratch_folder.h"
 #include "tests/support/sentence.h"
+#include "tests/support/temporary_directory.h"
 
 namespace velmohelp {
 namespace {
@@ -56,30 +56,31 @@ class InstallPackages : public ::testing::TestWithParam<Row> {
     folder_.Write("packages", situation.packages);
     if (situation.sudo_refuses) folder_.Write("sudo-refuses", "");
     if (situation.apt_fails) folder_.Write("apt-fails", "");
-    folder_.WriteProgram("id", "echo " + situation.user);
-    folder_.WriteProgram("dpkg-query", kDpkgQuery);
-    if (situation.has_sudo) folder_.WriteProgram("sudo", kSudo);
+    folder_.WriteScript("id", "echo " + situation.user);
+    folder_.WriteScript("dpkg-query", kDpkgQuery);
+    if (situation.has_sudo) folder_.WriteScript("sudo", kSudo);
     // Nothing else of the machine can be found.
-    for (const std::string name : {"basename", "dirname", "env", "grep", "sed"}) {
-      folder_.WriteProgram(name, "exec /bin/" + name + R"( "$@")");
+    for (const std::string name :
+         {"basename", "dirname", "env", "grep", "sed"}) {
+      folder_.WriteScript(name, "exec /bin/" + name + R"( "$@")");
     }
-    folder_.WriteProgram("apt-get", kAptGet);
+    folder_.WriteScript("apt-get", kAptGet);
   }
 
   int Run() {
     const std::string command =
-        "cd '" + folder_.Path("") + R"('; FOLDER=$PWD PATH=$PWD ')" +
+        "cd '" + folder_.path() + R"('; FOLDER=$PWD PATH=$PWD ')" +
         INSTALLER "' " + GetParam().names + " >output 2>&1";
     return WEXITSTATUS(std::system(command.c_str()));
   }
 
-  testing::ScratchFolder folder_;
+  testing::TemporaryDirectory folder_;
 };
 
 TEST_P(InstallPackages, DoesWhatIsNeeded) {
   EXPECT_EQ(Run(), GetParam().status);
-  EXPECT_EQ(folder_.Read("calls"), GetParam().calls);
-  EXPECT_EQ(folder_.Read("output"), GetParam().output);
+  EXPECT_EQ(testing::FileText(folder_ / "calls"), GetParam().calls);
+  EXPECT_EQ(testing::FileText(folder_ / "output"), GetParam().output);
 }
 
 INSTANTIATE_TEST_SUITE_P(

@@ -9,8 +9,8 @@
 #include <string>
 #include <vector>
 
-#include "tests/support/scratch_folder.h"
 #include "tests/support/sentence.h"
+#include "tests/support/temporary_directory.h"
 
 namespace velmohelp {
 namespace {
@@ -49,13 +49,13 @@ std::vector<std::string> AllScripts() {
 class Script : public ::testing::TestWithParam<std::string> {
  protected:
   Script() {
-    fs::create_directory(folder_.Path("tests"));
+    fs::create_directory(folder_ / "tests");
     for (const std::string name :
          {"bench", "examples", "scripts", "demo", "test", "tests/abi"}) {
       fs::copy(kSource + ("/" + name), folder_.Path(name),
                fs::copy_options::recursive);
     }
-    fs::create_directory(folder_.Path("bin"));
+    fs::create_directory(folder_ / "bin");
     for (const std::string name : {"basename", "dirname", "python3", "sed"}) {
       fs::create_symlink("/usr/bin/" + name, folder_.Path("bin/" + name));
     }
@@ -64,23 +64,22 @@ class Script : public ::testing::TestWithParam<std::string> {
   }
 
   int Run(const std::string& argument) {
-    const std::string command = "cd '" + folder_.Path("") +
-                                "'; PATH=$PWD/bin ./" + GetParam() + " " +
-                                argument + " >output 2>error </dev/null";
+    const std::string command = "cd '" + folder_ / "" + "'; PATH=$PWD/bin ./" +
+                                GetParam() + " " + argument +
+                                " >output 2>error </dev/null";
     const auto before = Tree();
     const int status = std::system(command.c_str());
     EXPECT_EQ(Tree(), before);
     return WEXITSTATUS(status);
   }
 
-  testing::ScratchFolder folder_;
+  testing::TemporaryDirectory folder_;
 
  private:
   /// Every path and when it changed, but for what the script prints.
   std::vector<std::string> Tree() {
     std::vector<std::string> all;
-    for (const auto& entry :
-         fs::recursive_directory_iterator(folder_.Path(""))) {
+    for (const auto& entry : fs::recursive_directory_iterator(folder_ / "")) {
       const fs::path& path = entry.path();
       if (path.filename() == "output" || path.filename() == "error") continue;
       const auto time =

@@ -10,7 +10,7 @@
 
 #include "platform/locations.h"
 #include "tests/support/on_scripted_machine.h"
-#include "tests/support/temp_folder.h"
+#include "tests/support/temporary_directory.h"
 
 namespace velmohelp::testing {
 
@@ -31,7 +31,7 @@ inline void PrintTo(const Target& target, std::ostream* stream) {
 class ContentFolders : public OnScriptedMachine {
  protected:
   ContentFolders() {
-    machine.SetPreferencesFolder(temp_.Path());
+    machine.SetPreferencesFolder(temp_.path());
     kDownloadedOfflineContent = "/store/Help/";
     sBaseUrl = "http://localhost/base/";
     sHelpPathCount = 0;
@@ -47,7 +47,7 @@ class ContentFolders : public OnScriptedMachine {
     return name + "-" + std::to_string(getpid());
   }
   std::string Downloaded(const std::string& name) const {
-    return temp_.Path("store/Help/" + Folder(name));
+    return temp_ / ("store/Help/" + Folder(name));
   }
   static std::string Installed(const std::string& name) {
     return kInstalledHelpDir + ("/" + Folder(name));
@@ -95,7 +95,7 @@ class ContentFolders : public OnScriptedMachine {
   }
 
  private:
-  const TempFolder temp_;
+  const TemporaryDirectory temp_;
 };
 
 }  // namespace velmohelp::testing

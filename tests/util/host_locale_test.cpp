@@ -11,7 +11,7 @@
 #include <map>
 #include <string>
 
-#include "tests/support/temp_folder.h"
+#include "tests/support/temporary_directory.h"
 
 namespace velmohelp::testing {
 namespace {
@@ -41,7 +41,7 @@ class HostLocale : public ::testing::Test {
  protected:
   ~HostLocale() override { std::locale::global(before_); }
 
-  const TempFolder folder;
+  const TemporaryDirectory folder;
 
  private:
   const std::locale before_ = std::locale::global(std::locale(

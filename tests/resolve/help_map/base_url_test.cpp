@@ -5,7 +5,7 @@
 #include <stdexcept>
 
 #include "tests/support/sentence.h"
-#include "tests/support/temp_folder.h"
+#include "tests/support/temporary_directory.h"
 
 namespace velmohelp::testing {
 namespace {
@@ -22,7 +22,7 @@ struct Row {
 class BaseUrl : public ::testing::TestWithParam<Row> {};
 
 TEST_P(BaseUrl, IsTheFirstLine) {
-  const TempFolder folder;
+  const TemporaryDirectory folder;
   const std::string path = folder.Write("x", GetParam().text);
   EXPECT_EQ(GetHelpMapBaseUrl(path), GetParam().base_url);
 }
@@ -109,19 +109,19 @@ INSTANTIATE_TEST_SUITE_P(WithABracketedHost, BaseUrl,
 
 class BaseUrlFile : public ::testing::Test {
  protected:
-  const TempFolder folder;
+  const TemporaryDirectory folder;
 };
 
 TEST_F(BaseUrlFile, ThatCannotBeOpenedHasNoBaseUrl) {
   EXPECT_EQ(GetHelpMapBaseUrl(""), "");
-  EXPECT_EQ(GetHelpMapBaseUrl(folder.Path("missing")), "");
+  EXPECT_EQ(GetHelpMapBaseUrl(folder / "missing"), "");
   EXPECT_EQ(GetHelpMapBaseUrl("/dev/zero"), "");
-  ASSERT_EQ(mkfifo(folder.Path("pipe").c_str(), 0600), 0);
-  EXPECT_EQ(GetHelpMapBaseUrl(folder.Path("pipe")), "");
+  ASSERT_EQ(mkfifo((folder / "pipe").c_str(), 0600), 0);
+  EXPECT_EQ(GetHelpMapBaseUrl(folder / "pipe"), "");
 }
 
 TEST_F(BaseUrlFile, ThatIsADirectoryThrowsTheStreamsFailure) {
-  EXPECT_THROW(GetHelpMapBaseUrl(folder.Path()), std::ios_base::failure);
+  EXPECT_THROW(GetHelpMapBaseUrl(folder.path()), std::ios_base::failure);
 }
 
 // A mistake that callers rely on.

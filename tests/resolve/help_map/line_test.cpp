@@ -7,7 +7,7 @@
 
 #include "tests/support/random_text.h"
 #include "tests/support/sentence.h"
-#include "tests/support/temp_folder.h"
+#include "tests/support/temporary_directory.h"
 
 namespace velmohelp::testing {
 namespace {
@@ -25,7 +25,7 @@ Lines LinesOf(std::ifstream& stream) {
 }
 
 Lines LinesOfFile(const std::string& bytes) {
-  const TempFolder folder;
+  const TemporaryDirectory folder;
   std::ifstream stream(folder.Write("x", bytes), std::ios_base::binary);
   return LinesOf(stream);
 }
@@ -101,7 +101,7 @@ INSTANTIATE_TEST_SUITE_P(OfAFile, Line, ::testing::ValuesIn(kRows),
                          SentenceOf());
 
 TEST(LineAtABufferBorder, KeepsItsEndTogether) {
-  const TempFolder folder;
+  const TemporaryDirectory folder;
   for (const std::string end : {"\n", "\r", "\r\n"}) {
     for (std::size_t length = 0; length < 10; ++length) {
       const std::string bytes = std::string(length, 'a') + end + "b" + end;
@@ -134,7 +134,7 @@ class LineOfAStreamThatIsNotGood : public ::testing::Test {
     EXPECT_EQ(line, "before");
     EXPECT_TRUE(stream.fail());
   }
-  const TempFolder folder;
+  const TemporaryDirectory folder;
 };
 
 TEST_F(LineOfAStreamThatIsNotGood, IsKeptAtTheEndFlag) {
@@ -144,7 +144,7 @@ TEST_F(LineOfAStreamThatIsNotGood, IsKeptAtTheEndFlag) {
 }
 
 TEST_F(LineOfAStreamThatIsNotGood, IsKeptAtTheFailFlag) {
-  std::ifstream stream(folder.Path("missing"));
+  std::ifstream stream(folder / "missing");
   ExpectTrueAndTheLineKept(stream);
 }
 
@@ -155,7 +155,7 @@ TEST_F(LineOfAStreamThatIsNotGood, IsKeptAtTheBadFlag) {
 }
 
 TEST(LineAtTheEnd, IsEmptiedAndSetsNoFlagHoweverOftenItIsAskedFor) {
-  const TempFolder folder;
+  const TemporaryDirectory folder;
   std::ifstream stream(folder.Write("x", "a"), std::ios_base::binary);
   std::string line;
   EXPECT_TRUE(GetLine(stream, line));
@@ -168,8 +168,8 @@ TEST(LineAtTheEnd, IsEmptiedAndSetsNoFlagHoweverOftenItIsAskedFor) {
 }
 
 TEST(LineOfADirectory, ThrowsTheStreamsFailure) {
-  const TempFolder folder;
-  std::ifstream stream(folder.Path());
+  const TemporaryDirectory folder;
+  std::ifstream stream(folder.path());
   std::string line;
   EXPECT_THROW(GetLine(stream, line), std::ios_base::failure);
 }

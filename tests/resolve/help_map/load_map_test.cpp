@@ -5,7 +5,7 @@
 
 #include "tests/support/random_text.h"
 #include "tests/support/sentence.h"
-#include "tests/support/temp_folder.h"
+#include "tests/support/temporary_directory.h"
 
 namespace velmohelp::testing {
 namespace {
@@ -24,7 +24,7 @@ struct Row {
 class LoadMap : public ::testing::TestWithParam<Row> {};
 
 TEST_P(LoadMap, FillsTheMap) {
-  const TempFolder folder;
+  const TemporaryDirectory folder;
   Map map = {{"VX_HOME", "old"}, {"old", "old"}};
   const std::string path = folder.Write("helpmap.txt", GetParam().text);
   EXPECT_EQ(LoadMapFile(path, map), GetParam().complete);
@@ -115,19 +115,17 @@ class LoadMapThatFails : public ::testing::Test {
     EXPECT_FALSE(LoadMapFile(path, map));
     EXPECT_TRUE(map.empty());
   }
-  const TempFolder folder;
+  const TemporaryDirectory folder;
   Map map = {{"VX_HOME", "old"}};
 };
 
 TEST_F(LoadMapThatFails, HasAnEmptyPath) { ExpectFalseAndEmpty(""); }
 
-TEST_F(LoadMapThatFails, HasNoFile) {
-  ExpectFalseAndEmpty(folder.Path("missing"));
-}
+TEST_F(LoadMapThatFails, HasNoFile) { ExpectFalseAndEmpty(folder / "missing"); }
 
 TEST_F(LoadMapThatFails, HasAPipeAndDoesNotBlock) {
-  ASSERT_EQ(mkfifo(folder.Path("pipe").c_str(), 0600), 0);
-  ExpectFalseAndEmpty(folder.Path("pipe"));
+  ASSERT_EQ(mkfifo((folder / "pipe").c_str(), 0600), 0);
+  ExpectFalseAndEmpty(folder / "pipe");
 }
 
 TEST_F(LoadMapThatFails, HasADevice) { ExpectFalseAndEmpty("/dev/zero"); }
@@ -140,7 +138,7 @@ TEST_F(LoadMapThatFails, HasAFileWithoutReadPermission) {
 }
 
 TEST_F(LoadMapThatFails, HasADirectoryAndThrowsTheStreamsFailure) {
-  EXPECT_THROW(LoadMapFile(folder.Path(), map), std::ios_base::failure);
+  EXPECT_THROW(LoadMapFile(folder.path(), map), std::ios_base::failure);
   EXPECT_TRUE(map.empty());
 }
 
@@ -159,7 +157,7 @@ TEST_F(LoadMapThatFails, HasNothingButEmptyLines) {
 }
 
 TEST(LoadMapOfManyEntries, AcceptsThemInAnyOrder) {
-  const TempFolder folder;
+  const TemporaryDirectory folder;
   std::string upwards = "VX_HOME\th\n";
   std::string downwards = "VX_HOME\th\n";
   for (int i = 0; i < 200'000; ++i) {
@@ -174,7 +172,7 @@ TEST(LoadMapOfManyEntries, AcceptsThemInAnyOrder) {
 }
 
 TEST(LoadMapOfManyEntries, KeepsTheFirstOfAMillionForOneKey) {
-  const TempFolder folder;
+  const TemporaryDirectory folder;
   std::string text = "k\tfirst\n";
   for (int i = 0; i < 1'000'000; ++i) text += "k\tx\n";
   Map map;

@@ -6,7 +6,7 @@
 #include <velmohelp/resolve.h>
 
 #include "tests/support/random_text.h"
-#include "tests/support/temp_folder.h"
+#include "tests/support/temporary_directory.h"
 #include "util/file_text.h"
 
 namespace velmohelp::testing {
@@ -14,7 +14,8 @@ namespace {
 
 using Map = std::map<std::string, std::string>;
 
-void ExpectAsTheOracle(const TempFolder& folder, const std::string& text) {
+void ExpectAsTheOracle(const TemporaryDirectory& folder,
+                       const std::string& text) {
   Map map;
   const Map expected = OracleMap(text);
   const bool complete = expected.contains("VX_HOME");
@@ -23,7 +24,7 @@ void ExpectAsTheOracle(const TempFolder& folder, const std::string& text) {
 }
 
 TEST(MapOfRandomBytes, IsAsTheOracleLoader) {
-  const TempFolder folder;
+  const TemporaryDirectory folder;
   RandomText random(std::string("\t\t\t\n\n\r\r ab\v\x01") + '\0');
   for (int i = 0; i < 1500; ++i) {
     ExpectAsTheOracle(folder, random.Next(random.Below(60)));
@@ -31,7 +32,7 @@ TEST(MapOfRandomBytes, IsAsTheOracleLoader) {
 }
 
 TEST(MapOfRandomLines, IsAsTheOracleLoader) {
-  const TempFolder folder;
+  const TemporaryDirectory folder;
   RandomText random("abc");
   const std::string ends[] = {"\n", "\r", "\r\n", "\n\n", "\t\n", "x\n"};
   for (int i = 0; i < 100; ++i) {
@@ -46,7 +47,7 @@ TEST(MapOfRandomLines, IsAsTheOracleLoader) {
 }
 
 TEST(MapOfALargeRandomFile, IsAsTheOracleLoader) {
-  const TempFolder folder;
+  const TemporaryDirectory folder;
   RandomText random("\t\t\n\rabcdefghijklmnop");
   for (const std::size_t size : {65535U, 65536U, 65537U, 200'000U}) {
     ExpectAsTheOracle(folder, random.Next(size));
@@ -55,7 +56,7 @@ TEST(MapOfALargeRandomFile, IsAsTheOracleLoader) {
 
 /// Lines that are longer than any piece, and of every kind.
 TEST(MapOfLongLines, IsAsTheOracleLoader) {
-  const TempFolder folder;
+  const TemporaryDirectory folder;
   const std::string a(FileText::kPieceSize * 2, 'a');
   const std::string tabs(FileText::kPieceSize * 2, '\t');
   for (const std::string& text :
@@ -67,7 +68,7 @@ TEST(MapOfLongLines, IsAsTheOracleLoader) {
 
 /// A line at the border of two pieces, cut at every byte.
 TEST(MapAtAPiecesBorder, IsAsTheOracleLoader) {
-  const TempFolder folder;
+  const TemporaryDirectory folder;
   const std::string cut = "\t\tkey\t\tvalue\tx\t\r\n\r\n\tk\nkey\tz\rl\tv";
   const std::string pad = "\tpage\n";
   for (const char* first : {"a", "z"}) {
@@ -81,7 +82,7 @@ TEST(MapAtAPiecesBorder, IsAsTheOracleLoader) {
 
 /// Keys that differ late, early, or by zero bytes alone.
 TEST(MapOfManyKeysInNoOrder, IsAsTheOracleLoader) {
-  const TempFolder folder;
+  const TemporaryDirectory folder;
   RandomText random(std::string("ab\0\x01\xFF", 5));
   for (const std::size_t equal : {0U, 1U, 7U, 8U, 9U, 63U, 64U, 65U, 200U}) {
     std::string text;

@@ -6,10 +6,10 @@
 #include <sstream>
 
 #include "resolve/help_map/builder.h"
-#include "tests/support/failing_memory.h"
+#include "tests/support/exhaustion.h"
 #include "tests/support/random_text.h"
 #include "tests/support/sentence.h"
-#include "tests/support/temp_folder.h"
+#include "tests/support/temporary_directory.h"
 #include "util/file_text.h"
 
 namespace velmohelp::testing {
@@ -44,7 +44,7 @@ struct Row {
 
 class Reload : public ::testing::TestWithParam<Row> {
  protected:
-  const TempFolder folder;
+  const TemporaryDirectory folder;
   const std::string path = folder.Write("x", TextOf(GetParam().file, "new"));
   const HelpMap expected = MapOf(GetParam().file, "new");
   HelpMap map = MapOf(GetParam().before, "old");
@@ -66,11 +66,11 @@ void ExpectPartOf(const HelpMap& whole, const HelpMap& map) {
 
 TEST_P(Reload, LeavesNothingOldWhenOutOfMemory) {
   bool failed = true;
-  for (int allocation = 1; failed; ++allocation) {
+  for (std::size_t allocation = 1; failed; ++allocation) {
     map = MapOf(GetParam().before, "old");
     failed = false;
     try {
-      const FailingMemory memory(allocation);
+      const Exhaustion memory(allocation, Shortage::kFromThenOn);
       ITEMInternal::LoadMapFile(path, map);
     } catch (const std::bad_alloc&) {
       failed = true;
@@ -135,7 +135,7 @@ TEST(AFileThatLosesItsOrderAfterItsFirstPiece, KeepsTheFirstEntryOfAKey) {
   ASSERT_GT(text.size(), FileText::kPieceSize);
   expected["10000a"] = expected["0"] = "between";
   text += "10001\tagain\n10000a\tbetween\n0\tbetween\n10000\tagain\n";
-  const TempFolder folder;
+  const TemporaryDirectory folder;
   HelpMap map = MapOf("abc", "old");
   ITEMInternal::LoadMapFile(folder.Write("x", text), map);
   EXPECT_EQ(map, expected);

@@ -1,4 +1,4 @@
-#include "tests/faults/exhaustion.h"
+#include "tests/support/exhaustion.h"
 
 #include <cstdlib>
 #include <new>

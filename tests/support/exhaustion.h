@@ -1,6 +1,6 @@
 // Memory that runs out where a test wants it to.
-#ifndef TESTS_FAULTS_EXHAUSTION_H_
-#define TESTS_FAULTS_EXHAUSTION_H_
+#ifndef TESTS_SUPPORT_EXHAUSTION_H_
+#define TESTS_SUPPORT_EXHAUSTION_H_
 
 #include <cstddef>
 
@@ -25,4 +25,4 @@ class Exhaustion {
 
 }  // namespace velmohelp::testing
 
-#endif  // TESTS_FAULTS_EXHAUSTION_H_
+#endif  // TESTS_SUPPORT_EXHAUSTION_H_
