@@ -52,12 +52,12 @@ class Script : public ::testing::TestWithParam<std::string> {
     fs::create_directory(folder_ / "tests");
     for (const std::string name :
          {"bench", "examples", "scripts", "demo", "test", "tests/abi"}) {
-      fs::copy(kSource + ("/" + name), folder_.Path(name),
+      fs::copy(kSource + ("/" + name), folder_ / name,
                fs::copy_options::recursive);
     }
     fs::create_directory(folder_ / "bin");
     for (const std::string name : {"basename", "dirname", "python3", "sed"}) {
-      fs::create_symlink("/usr/bin/" + name, folder_.Path("bin/" + name));
+      fs::create_symlink("/usr/bin/" + name, folder_ / ("bin/" + name));
     }
     folder_.Write("output", "");
     folder_.Write("error", "");
