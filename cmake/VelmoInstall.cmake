@@ -3,18 +3,6 @@
 # what it needs to be built; "host" and "lua" are for scripts.
 include(CMakePackageConfigHelpers)
 
-# velmo_install_compressed(SOURCE NAME FOLDER COMPONENT): without a name and a
-# time inside, so that the same sources make the same bytes.
-find_program(VELMO_GZIP gzip REQUIRED)
-function(velmo_install_compressed source name folder component)
-  set(compressed "${PROJECT_BINARY_DIR}/package/${name}")
-  set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS "${source}")
-  execute_process(COMMAND "${VELMO_GZIP}" -9nc "${source}"
-    OUTPUT_FILE "${compressed}" COMMAND_ERROR_IS_FATAL ANY)
-  install(FILES "${compressed}" DESTINATION "${folder}"
-    COMPONENT ${component})
-endfunction()
-
 install(TARGETS velmohelp EXPORT velmohelp
   LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}"
     COMPONENT runtime NAMELINK_COMPONENT development)
@@ -60,6 +48,6 @@ install(FILES "${PROJECT_BINARY_DIR}/package/velmohelp.pc"
   DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig" COMPONENT development)
 
 if(VELMO_BUILD_HOST)
-  velmo_install_compressed("${PROJECT_SOURCE_DIR}/host/lxhost.1" lxhost.1.gz
-    "${CMAKE_INSTALL_MANDIR}/man1" host)
+  install(FILES host/lxhost.1 DESTINATION "${CMAKE_INSTALL_MANDIR}/man1"
+    COMPONENT host)
 endif()

@@ -28,7 +28,6 @@ set(VELMO_LIBRARY_DIR "${PROJECT_BINARY_DIR}/lib")
 
 option(VELMO_INSTALL "Install the library and what belongs to it"
   ${PROJECT_IS_TOP_LEVEL})
-option(VELMO_PACKAGES "Prepare Debian packages of what is installed" OFF)
 
 if(PROJECT_IS_TOP_LEVEL AND NOT CMAKE_BUILD_TYPE)
   set(CMAKE_BUILD_TYPE Release CACHE STRING "Build type" FORCE)
