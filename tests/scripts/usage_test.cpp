@@ -64,9 +64,9 @@ class Script : public ::testing::TestWithParam<std::string> {
   }
 
   int Run(const std::string& argument) {
-    const std::string command = "cd '" + folder_ / "" + "'; PATH=$PWD/bin ./" +
-                                GetParam() + " " + argument +
-                                " >output 2>error </dev/null";
+    const std::string command = "cd '" + folder_.path() +
+                                "'; PATH=$PWD/bin ./" + GetParam() + " " +
+                                argument + " >output 2>error </dev/null";
     const auto before = Tree();
     const int status = std::system(command.c_str());
     EXPECT_EQ(Tree(), before);
@@ -79,7 +79,7 @@ class Script : public ::testing::TestWithParam<std::string> {
   /// Every path and when it changed, but for what the script prints.
   std::vector<std::string> Tree() {
     std::vector<std::string> all;
-    for (const auto& entry : fs::recursive_directory_iterator(folder_ / "")) {
+    for (const auto& entry : fs::recursive_directory_iterator(folder_.path())) {
       const fs::path& path = entry.path();
       if (path.filename() == "output" || path.filename() == "error") continue;
       const auto time =
@@ -95,14 +95,15 @@ class Script : public ::testing::TestWithParam<std::string> {
 
 TEST_P(Script, PrintsItsUsageAndChangesNothing) {
   EXPECT_EQ(Run("--help"), 0);
-  EXPECT_THAT(folder_.Read("output"), StartsWith("usage: "));
-  EXPECT_EQ(folder_.Read("error"), "");
+  EXPECT_THAT(testing::FileText(folder_ / "output"), StartsWith("usage: "));
+  EXPECT_EQ(testing::FileText(folder_ / "error"), "");
 }
 
 TEST_P(Script, RefusesAnUnknownOptionAndChangesNothing) {
   EXPECT_EQ(Run("--no-such-option"), 2);
-  EXPECT_EQ(folder_.Read("output"), "");
-  EXPECT_THAT(folder_.Read("error"), ::testing::HasSubstr("usage: "));
+  EXPECT_EQ(testing::FileText(folder_ / "output"), "");
+  EXPECT_THAT(testing::FileText(folder_ / "error"),
+              ::testing::HasSubstr("usage: "));
 }
 
 INSTANTIATE_TEST_SUITE_P(Each, Script, ::testing::ValuesIn(AllScripts()),
