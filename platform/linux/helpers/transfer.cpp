@@ -22,8 +22,10 @@ constexpr long kLowSpeedSeconds = 5;
 constexpr long kMaxRedirects = 20;
 /// Of all responses of a transfer together: libcurl keeps headers in memory.
 constexpr std::size_t kMaxHeaderBytes = 256U << 10U;
+#ifndef VELMO_UNLIMITED_MEMORY
 /// A transfer with TLS takes a fifth of it, thread stacks included.
 constexpr rlim_t kMaxAddressSpace = 512U << 20U;
+#endif
 
 using Handle = std::unique_ptr<CURL, decltype(&curl_easy_cleanup)>;
 
