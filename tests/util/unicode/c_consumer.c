@@ -69,6 +69,7 @@ int main(void) {
       "UTF-32 to UTF-16 of a surrogate");
 
   Expect(ITEMisLegalUTF8String(utf8, utf8_end), "a legal string");
-  Expect(!ITEMisLegalUTF8Sequence(utf8 + 2, utf8_end), "a sequence without a lead byte");
+  Expect(!ITEMisLegalUTF8Sequence(utf8 + 2, utf8_end),
+         "a sequence without a lead byte");
   return failures != 0;
 }
