@@ -29,6 +29,9 @@ class UpdateConfig : public OnScriptedMachine {
   std::string DownloadPath() const {
     return folder / "prefs/store//dir/Foo.helpcfg";
   }
+  std::string AsksForDownload() const {
+    return "FileExists \"" + DownloadPath() + "\"";
+  }
   void Download(const std::string& text) {
     WriteFile(DownloadPath(), text);
     machine.AddFile(DownloadPath());
