@@ -30,7 +30,7 @@ class UpdateConfig : public OnScriptedMachine {
     return folder / "prefs/store//dir/Foo.helpcfg";
   }
   std::string AsksForDownload() const {
-    return "FileExists \"" + DownloadPath() + "\"";
+    return "FindFile \"" + DownloadPath() + "\"";
   }
   void Download(const std::string& text) {
     WriteFile(DownloadPath(), text);
@@ -49,7 +49,7 @@ TEST_F(UpdateConfig, ReadsTheInstalledFileWhenNothingWasDownloaded) {
   EXPECT_EQ(sHelpPathCount, 1);
   EXPECT_THAT(machine.Questions(),
               ElementsAre("ResourcesDirectory", "PreferencesFolder create",
-                          "FindFile " + DownloadPath()));
+                          AsksForDownload()));
 }
 
 TEST_F(UpdateConfig, ReadsTheViewersIdsOnlyFromTheInstalledFile) {
@@ -66,7 +66,7 @@ TEST_F(UpdateConfig, ReadsTheViewersIdsOnlyFromTheInstalledFile) {
   EXPECT_EQ(sHelpPaths[1][1], "YES");
   EXPECT_THAT(machine.Questions(),
               ElementsAre("ResourcesDirectory", "PreferencesFolder create",
-                          "FindFile " + DownloadPath()));
+                          AsksForDownload()));
 }
 
 TEST_F(UpdateConfig, FallsBackFromADownloadOfAnotherProduct) {
@@ -77,7 +77,7 @@ TEST_F(UpdateConfig, FallsBackFromADownloadOfAnotherProduct) {
   EXPECT_EQ(sBaseUrl, "installed");
   EXPECT_THAT(machine.Questions(),
               ElementsAre("ResourcesDirectory", "PreferencesFolder create",
-                          "FindFile " + DownloadPath(), "ResourcesDirectory"));
+                          AsksForDownload(), "ResourcesDirectory"));
 }
 
 TEST_F(UpdateConfig, FallsBackFromADownloadThatCannotBeRead) {
