@@ -23,8 +23,4 @@
 #define VELMO_BROWSER_OPENED "opened"
 #define VELMO_BROWSER_START "start"
 
-/* velmohelp-run PROGRAM ARGUMENT...: runs the program to its end and writes its
- * exit status, one byte, to this descriptor. */
-#define VELMO_RUN_STATUS_DESCRIPTOR 3
-
 #endif /* PLATFORM_LINUX_HELPERS_PROTOCOL_H_ */
