@@ -84,10 +84,21 @@ class Timer {
   bool timed_out_ = false;
 };
 
+struct KeyFileFree {
+  void operator()(GKeyFile* file) const { g_key_file_unref(file); }
+};
+
 }  // namespace
 
+/// A sandbox's file says what runs in it. An empty one in the root of a machine
+/// is what other programs' sandboxes leave there when root starts them, and
+/// hosts outside must not lose their browser to it.
 bool IsInSandbox() {
-  return g_file_test("/.flatpak-info", G_FILE_TEST_EXISTS) != 0;
+  const std::unique_ptr<GKeyFile, KeyFileFree> info(g_key_file_new());
+  return g_key_file_load_from_file(info.get(), "/.flatpak-info",
+                                   G_KEY_FILE_NONE, nullptr) != 0 &&
+         (g_key_file_has_group(info.get(), "Application") != 0 ||
+          g_key_file_has_group(info.get(), "Runtime") != 0);
 }
 
 PortalRequest::PortalRequest(const std::string& url)

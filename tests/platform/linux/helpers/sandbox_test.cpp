@@ -39,13 +39,20 @@ class Sandbox : public ::testing::Test {
   }
 
  private:
+  /// The machine's own browsers are out of sight.
   bool Enter() {
+    for (const char* name : {"XDG_DATA_DIRS", "XDG_DATA_HOME"}) {
+      setenv(name, directory_.path().c_str(), 1);
+    }
     return testing::EnterOwnFiles(directory_.path()) &&
-           std::ofstream("/.flatpak-info").is_open();
+           (std::ofstream("/.flatpak-info") << info_ << std::flush).good();
   }
 
   testing::TemporaryDirectory directory_;
   testing::PrivateBus bus_;
+
+ protected:
+  std::string info_ = "[Application]\nname=com.example.Host\n";
 };
 
 TEST_F(Sandbox, OpensWhatThePortalOpens) {
@@ -58,6 +65,15 @@ TEST_F(Sandbox, OpensNothingThatThePortalRefuses) {
   const PortalDouble portal({.response = 2});
   EXPECT_FALSE(Opens(kUrl));
   EXPECT_EQ(portal.target(), kUrl);
+}
+
+/// A machine has such a file where root runs programs with sandboxes of their
+/// own.
+TEST_F(Sandbox, IsNotSeenInAnEmptyFile) {
+  info_.clear();
+  const PortalDouble portal({});
+  EXPECT_FALSE(Opens(kUrl));
+  EXPECT_EQ(portal.target(), "");
 }
 
 TEST_F(Sandbox, OpensNothingWithoutAPortal) { EXPECT_FALSE(Opens(kUrl)); }
