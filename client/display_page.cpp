@@ -93,17 +93,18 @@ DisplayPageReturnCode ShowLocalTarget(const Client& client, const char* page_id,
   return ShowTarget(client, page_id, JoinPath("file://", encoded));
 }
 
-bool FindTargetOf(const Client& client, const std::string& id,
-                  std::string& target) {
-  return FindPageTarget(client.machine, ContentView(client.state), id,
+bool FindTargetOf(const Client& client, FetchBudget& budget,
+                  const std::string& id, std::string& target) {
+  return FindPageTarget(client.machine, budget, ContentView(client.state), id,
                         client.state.is_online, client.state.help_map, target);
 }
 
 /// The page, or once the home page in its place.
 bool FindTarget(const Client& client, const std::string& id,
                 std::string& target) {
-  if (FindTargetOf(client, id, target)) return true;
-  return id != kHomePage && FindTargetOf(client, kHomePage, target);
+  FetchBudget budget;
+  if (FindTargetOf(client, budget, id, target)) return true;
+  return id != kHomePage && FindTargetOf(client, budget, kHomePage, target);
 }
 
 /// Refreshes what the choice between viewer and browser depends on.

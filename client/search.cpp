@@ -63,7 +63,9 @@ SearchReturnCode SearchInBrowser(const Client& client,
                                  const std::string& term) {
   RefreshOnlineStatus(client);
   const bool is_online = client.state.is_online;
-  const auto page = FindSearchPage(client.machine, ContentView(client.state));
+  FetchBudget budget;
+  const auto page =
+      FindSearchPage(client.machine, budget, ContentView(client.state));
   if (!page) return is_online ? kSearchNoOnlinePage : kSearchNoLocalPage;
   return CodeOf(LaunchPlatformBrowser(
       client.machine,

@@ -9,6 +9,7 @@
 #include "util/path_join.h"
 
 using velmohelp::ContentView;
+using velmohelp::FetchBudget;
 using velmohelp::ThisMachine;
 using velmohelp::ThisState;
 
@@ -26,16 +27,19 @@ bool isHTMLPage(std::string name) { return velmohelp::IsHtmlPage(name); }
 void NormalizePageID(std::string& id) { velmohelp::NormalizePageId(id); }
 
 unsigned char ValidateID(std::string pageId, bool online, std::string& out) {
-  return velmohelp::FindPageTarget(ThisMachine(), ContentView(ThisState()),
-                                   pageId, online, ThisState().help_map, out)
+  FetchBudget budget;
+  return velmohelp::FindPageTarget(ThisMachine(), budget,
+                                   ContentView(ThisState()), pageId, online,
+                                   ThisState().help_map, out)
              ? kTargetFound
              : kTargetNotFound;
 }
 
 bool GetSearchPage(std::string& page, std::string /*locale*/,
                    std::string /*paths*/[][2]) {
-  const auto found =
-      velmohelp::FindSearchPage(ThisMachine(), ContentView(ThisState()));
+  FetchBudget budget;
+  const auto found = velmohelp::FindSearchPage(ThisMachine(), budget,
+                                               ContentView(ThisState()));
   page = found.value_or("");
   return found.has_value();
 }
@@ -45,7 +49,8 @@ namespace ITEMInternal {
 bool isUrl(std::string text) { return velmohelp::IsUrl(text); }
 
 bool ValidateURL(std::string target, bool fetch) {
-  return velmohelp::ValidateUrl(ThisMachine(), target, fetch);
+  FetchBudget budget;
+  return velmohelp::ValidateUrl(ThisMachine(), budget, target, fetch);
 }
 
 bool LoadMapFile(const std::string& path, velmohelp::HelpMap& map) {

@@ -2,6 +2,7 @@
 #ifndef PLATFORM_MACHINE_H_
 #define PLATFORM_MACHINE_H_
 
+#include <chrono>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -92,9 +93,13 @@ class Machine {
                                                 const std::string& key,
                                                 PreferenceScope scope) = 0;
 
-  /// Loads the whole resource at url. True when that succeeds and the resource
-  /// is text. Bounded in time.
-  virtual bool FetchText(const std::string& url) = 0;
+  /// Loads the whole resource at url. True when that succeeds within timeout
+  /// and the resource is text.
+  virtual bool FetchText(const std::string& url,
+                         std::chrono::milliseconds timeout) = 0;
+
+  /// The time on a clock that nobody sets: only differences have a meaning.
+  virtual std::chrono::milliseconds MonotonicTime() = 0;
 };
 
 /// The machine that this library was built for. Each system's folder defines

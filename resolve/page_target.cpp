@@ -13,6 +13,7 @@ namespace {
 /// One search through the content folders.
 struct Search {
   Machine& machine;
+  FetchBudget& budget;
   const HelpContent& content;
   const std::string& page_id;
   bool online;
@@ -58,7 +59,8 @@ bool AcceptMapped(const Search& search, const Folder& folder,
                   std::string_view value) {
   if (IsUrl(value)) {
     std::string url(value);
-    if (!ValidateUrl(search.machine, url, search.content.is_online)) {
+    if (!ValidateUrl(search.machine, search.budget, url,
+                     search.content.is_online)) {
       return false;
     }
     search.out = std::move(url);
@@ -85,7 +87,7 @@ bool AcceptFromMap(const Search& search, const Folder& folder,
 bool AcceptUnmapped(const Search& search, const Folder& folder) {
   search.out = search.online ? OnlineTarget(search, folder, search.page_id)
                              : LocalTarget(folder, search.page_id);
-  return ValidateUrl(search.machine, search.out, search.online);
+  return ValidateUrl(search.machine, search.budget, search.out, search.online);
 }
 
 bool AcceptFolder(const Search& search, const Folder& folder) {
@@ -97,11 +99,12 @@ bool AcceptFolder(const Search& search, const Folder& folder) {
 
 }  // namespace
 
-bool FindPageTarget(Machine& machine, const HelpContent& content,
-                    const std::string& page_id, bool online, HelpMap& help_map,
-                    std::string& out) {
+bool FindPageTarget(Machine& machine, FetchBudget& budget,
+                    const HelpContent& content, const std::string& page_id,
+                    bool online, HelpMap& help_map, std::string& out) {
   LazyHelpMap lazy_map(help_map);
   const Search search{.machine = machine,
+                      .budget = budget,
                       .content = content,
                       .page_id = page_id,
                       .online = online,

@@ -7,6 +7,7 @@
 
 #include "platform/machine.h"
 #include "resolve/content_folders.h"
+#include "resolve/fetch_budget.h"
 #include "resolve/help_map/map_type.h"
 
 namespace velmohelp {
@@ -16,9 +17,9 @@ namespace velmohelp {
 /// page id. help_map: becomes the help map that the search read last; stays as
 /// it is when the search read none. Throws std::ios_base::failure when a help
 /// map breaks while it is read.
-bool FindPageTarget(Machine& machine, const HelpContent& content,
-                    const std::string& page_id, bool online, HelpMap& help_map,
-                    std::string& out);
+bool FindPageTarget(Machine& machine, FetchBudget& budget,
+                    const HelpContent& content, const std::string& page_id,
+                    bool online, HelpMap& help_map, std::string& out);
 
 }  // namespace velmohelp
 

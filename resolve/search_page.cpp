@@ -5,12 +5,12 @@
 
 namespace velmohelp {
 
-std::optional<std::string> FindSearchPage(Machine& machine,
+std::optional<std::string> FindSearchPage(Machine& machine, FetchBudget& budget,
                                           const HelpContent& content) {
   std::string page;
   const auto accept = [&](const std::string& root, const std::string& name) {
     page = StrCat({root, name, "/search.html"});
-    return ValidateUrl(machine, page, content.is_online);
+    return ValidateUrl(machine, budget, page, content.is_online);
   };
   const bool found = content.is_online
                          ? AnyFolder(content,

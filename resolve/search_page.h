@@ -7,12 +7,13 @@
 
 #include "platform/machine.h"
 #include "resolve/content_folders.h"
+#include "resolve/fetch_budget.h"
 
 namespace velmohelp {
 
 /// The URL (online) or path of the first usable "search.html" of the content
 /// folders; nullopt when there is none.
-std::optional<std::string> FindSearchPage(Machine& machine,
+std::optional<std::string> FindSearchPage(Machine& machine, FetchBudget& budget,
                                           const HelpContent& content);
 
 }  // namespace velmohelp

@@ -5,10 +5,11 @@
 
 namespace velmohelp {
 
-bool ValidateUrl(Machine& machine, const std::string& target, bool fetch) {
+bool ValidateUrl(Machine& machine, FetchBudget& budget,
+                 const std::string& target, bool fetch) {
   if (!fetch) return FileExists(machine, target);
   const auto uri = UriOf(target);
-  return uri && machine.FetchText(*uri);
+  return uri && budget.FetchText(machine, *uri);
 }
 
 }  // namespace velmohelp

@@ -5,12 +5,15 @@
 #include <string>
 
 #include "platform/machine.h"
+#include "resolve/fetch_budget.h"
 
 namespace velmohelp {
 
-/// fetch: target is a URI, and a text could be loaded from it, whole; blocks
-/// meanwhile. Otherwise: something exists at the path target.
-bool ValidateUrl(Machine& machine, const std::string& target, bool fetch);
+/// fetch: target is a URI, and a text could be loaded from it, whole, within
+/// the request's budget; blocks meanwhile. Otherwise: something exists at the
+/// path target.
+bool ValidateUrl(Machine& machine, FetchBudget& budget,
+                 const std::string& target, bool fetch);
 
 }  // namespace velmohelp
 

@@ -58,8 +58,4 @@ bool HelperAnswers::FetchText(const std::string& url,
   return Ask("velmohelp-fetch", url, timeout, kWordLimit) == VELMO_IS_TEXT;
 }
 
-bool HelperAnswers::FetchText(const std::string& url) const {
-  return FetchText(url, timeouts_.fetch);
-}
-
 }  // namespace velmohelp

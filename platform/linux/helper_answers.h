@@ -27,8 +27,6 @@ class HelperAnswers {
       const std::optional<std::string>& host) const;
   bool FetchText(const std::string& url,
                  std::chrono::milliseconds timeout) const;
-  /// With the timeout for one page.
-  bool FetchText(const std::string& url) const;
 
  private:
   std::optional<std::string> Ask(const char* helper,

@@ -76,8 +76,14 @@ std::optional<std::string> LinuxMachine::Preference(const std::string& domain,
   return ReadPreference(domain, key, scope);
 }
 
-bool LinuxMachine::FetchText(const std::string& url) {
-  return helpers_.FetchText(url);
+bool LinuxMachine::FetchText(const std::string& url,
+                             std::chrono::milliseconds timeout) {
+  return helpers_.FetchText(url, timeout);
+}
+
+std::chrono::milliseconds LinuxMachine::MonotonicTime() {
+  return std::chrono::duration_cast<std::chrono::milliseconds>(
+      std::chrono::steady_clock::now().time_since_epoch());
 }
 
 }  // namespace velmohelp

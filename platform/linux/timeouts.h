@@ -6,15 +6,13 @@
 
 namespace velmohelp {
 
-/// The bound of each question to a helper. A page display asks several; the
-/// client has a bound for all of its fetches together.
+/// The bound of each question to a helper, other than that of a fetch, which
+/// the client sets.
 struct Timeouts {
   /// Finding the default browser, or asking the desktop to open a URL.
   std::chrono::milliseconds browser = std::chrono::seconds(10);
   /// A person who presses a key waits for a dead name server no longer.
   std::chrono::milliseconds reach = std::chrono::seconds(2);
-  /// One page.
-  std::chrono::milliseconds fetch = std::chrono::seconds(10);
 };
 
 }  // namespace velmohelp

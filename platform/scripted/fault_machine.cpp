@@ -63,8 +63,14 @@ std::optional<std::string> FaultMachine::Preference(const std::string& domain,
   return machine_.Preference(domain, key, scope);
 }
 
-bool FaultMachine::FetchText(const std::string& url) {
-  return !Fails() && machine_.FetchText(url);
+bool FaultMachine::FetchText(const std::string& url,
+                             std::chrono::milliseconds timeout) {
+  return !Fails() && machine_.FetchText(url, timeout);
+}
+
+/// A clock does not fail.
+std::chrono::milliseconds FaultMachine::MonotonicTime() {
+  return machine_.MonotonicTime();
 }
 
 }  // namespace velmohelp

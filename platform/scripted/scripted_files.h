@@ -11,9 +11,10 @@
 
 namespace velmohelp {
 
-/// A tree of files and directories that exist, without contents. Paths mean what
-/// they mean to a file system: several slashes count as one, a final one asks
-/// for a directory, and nothing exists at an empty path or at one with a NUL.
+/// A tree of files and directories that exist, without contents. Paths mean
+/// what they mean to a file system: several slashes count as one, a final one
+/// asks for a directory, and nothing exists at an empty path or at one with a
+/// NUL.
 class ScriptedFiles {
  public:
   /// Makes a file or a directory exist, with every directory above it.

@@ -1,7 +1,11 @@
 #include "platform/scripted/scripted_machine.h"
 
+#include <algorithm>
+
 namespace velmohelp {
 namespace {
+
+using namespace std::chrono_literals;
 
 std::string Quoted(const std::string& word) {
   const bool plain =
@@ -150,9 +154,14 @@ std::optional<std::string> ScriptedMachine::Preference(
   return Lookup(preferences_, {domain, key, scope});
 }
 
-bool ScriptedMachine::FetchText(const std::string& url) {
+bool ScriptedMachine::FetchText(const std::string& url,
+                                std::chrono::milliseconds timeout) {
   Record({"FetchText", url});
-  return texts_.contains(url);
+  const auto time = Lookup(fetch_times_, url).value_or(0ms);
+  clock_ += std::min(time, timeout);
+  return time <= timeout && texts_.contains(url);
 }
+
+std::chrono::milliseconds ScriptedMachine::MonotonicTime() { return clock_; }
 
 }  // namespace velmohelp

@@ -3,6 +3,7 @@
 #ifndef PLATFORM_SCRIPTED_SCRIPTED_MACHINE_H_
 #define PLATFORM_SCRIPTED_SCRIPTED_MACHINE_H_
 
+#include <chrono>
 #include <cstdint>
 #include <map>
 #include <optional>
@@ -49,10 +50,15 @@ class ScriptedMachine : public Machine {
                      PreferenceScope scope, const std::string& value);
   /// A URL at which there is a text.
   void AddText(const std::string& url) { texts_.insert(url); }
+  /// How far a fetch of the URL advances the clock, which otherwise stands
+  /// still. One that takes longer than its timeout fails when that has passed.
+  void SetFetchTime(const std::string& url, std::chrono::milliseconds time) {
+    fetch_times_[url] = time;
+  }
 
-  /// Every question so far, first to last: the function's name and its
-  /// arguments, separated by a space. An argument that is empty or has a space
-  /// or a double quote is enclosed in double quotes:
+  /// Every question so far but those for the time, first to last: the
+  /// function's name and its arguments, separated by a space. An argument that
+  /// is empty or has a space or a double quote is enclosed in double quotes:
   ///
   ///   FindFile /x/QTV
   ///   PreferencesFolder create                 (or: find)
@@ -65,7 +71,7 @@ class ScriptedMachine : public Machine {
   ///   OpenInBrowser file:///x/page.html
   ///   HostReachability localhost               (no host: no second word)
   ///   Preference admin com.velmo.x HelpcfgName (or: user)
-  ///   FetchText http://localhost/page.html
+  ///   FetchText http://localhost/page.html     (its timeout is left out)
   const std::vector<std::string>& Questions() const { return questions_; }
   void ForgetQuestions() { questions_.clear(); }
 
@@ -92,6 +98,8 @@ class ScriptedMachine : public Machine {
   std::map<std::string, Reachability> hosts_;
   std::map<PreferenceName, std::string> preferences_;
   std::set<std::string> texts_;
+  std::map<std::string, std::chrono::milliseconds> fetch_times_;
+  std::chrono::milliseconds clock_{0};
 };
 
 }  // namespace velmohelp

@@ -51,6 +51,13 @@ std::optional<std::string> UnsupportedMachine::Preference(const std::string&,
   return std::nullopt;
 }
 
-bool UnsupportedMachine::FetchText(const std::string&) { return false; }
+bool UnsupportedMachine::FetchText(const std::string&,
+                                   std::chrono::milliseconds) {
+  return false;
+}
+
+std::chrono::milliseconds UnsupportedMachine::MonotonicTime() {
+  return std::chrono::milliseconds::zero();
+}
 
 }  // namespace velmohelp

@@ -124,7 +124,7 @@ const Question kPrograms[] = {
      }},
     {"FetchText", [](World& world) { return world.AddText("a page.html"); },
      [](Machine& machine, const std::string& asked) {
-       return machine.FetchText(asked);
+       return machine.FetchText(asked, std::chrono::minutes(1));
      }},
 };
 

@@ -23,7 +23,8 @@ void Check(Input input) {
   Same(out.c_str(), url);
   ScriptedMachine machine;
   machine.AddText(UriOf(text).value_or(""));
-  Same(ValidateUrl(machine, text, true), OracleIsUri(text));
+  FetchBudget budget;
+  Same(ValidateUrl(machine, budget, text, true), OracleIsUri(text));
 }
 
 }  // namespace velmohelp::testing

@@ -9,6 +9,7 @@
 namespace velmohelp {
 namespace {
 
+using namespace std::chrono_literals;
 using namespace std::string_literals;
 using testing::World;
 
@@ -137,9 +138,15 @@ TEST_P(EveryMachine, KnowsNoWayToNoHost) {
 }
 
 TEST_P(EveryMachine, FetchesATextWhereThereIsOne) {
-  EXPECT_TRUE(machine().FetchText(world().AddText("page.html")));
-  EXPECT_FALSE(machine().FetchText("file://" + world().root() + "/missing"));
-  EXPECT_FALSE(machine().FetchText(""));
+  EXPECT_TRUE(machine().FetchText(world().AddText("page.html"), 1min));
+  EXPECT_FALSE(
+      machine().FetchText("file://" + world().root() + "/missing", 1min));
+  EXPECT_FALSE(machine().FetchText("", 1min));
+}
+
+TEST_P(EveryMachine, HasAClockThatNeverGoesBack) {
+  const auto before = machine().MonotonicTime();
+  EXPECT_GE(machine().MonotonicTime(), before);
 }
 
 TEST_P(EveryMachine, OpensNothingThatIsNoUrl) {

@@ -19,7 +19,8 @@ TEST(UnsupportedMachine, CanDoNothing) {
   EXPECT_FALSE(machine.HostReachability("localhost"));
   EXPECT_FALSE(
       machine.Preference("x", "y", PreferenceScope::kCurrentUserAnyHost));
-  EXPECT_FALSE(machine.FetchText("file:///etc/passwd"));
+  EXPECT_FALSE(
+      machine.FetchText("file:///etc/passwd", std::chrono::seconds(1)));
 }
 
 }  // namespace

@@ -13,9 +13,13 @@
 namespace velmohelp {
 namespace {
 
+using namespace std::chrono_literals;
 using namespace std::string_literals;
 using testing::HttpServer;
 using testing::Response;
+
+/// Far longer than any fetch here takes.
+constexpr std::chrono::seconds kTimeout = 1min;
 
 constexpr char kPicture[] = "\x89PNG\r\n\x1A\n";
 constexpr char kHtml[] = "Content-Type: text/html\r\n";
@@ -54,7 +58,8 @@ TEST_P(FromAServer, IsText) {
                            : Response("200 OK", "", "another text");
   });
   LinuxMachine machine(VELMO_TEST_HELPERS);
-  EXPECT_EQ(machine.FetchText(server.Url("/page")), GetParam().is_text);
+  EXPECT_EQ(machine.FetchText(server.Url("/page"), kTimeout),
+            GetParam().is_text);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -133,8 +138,8 @@ std::string CountDown(const std::string& path) {
 
 TEST_F(Fetching, FollowsTwentyRedirectsAndNoMore) {
   const HttpServer server(&CountDown);
-  EXPECT_TRUE(machine().FetchText(server.Url("/20")));
-  EXPECT_FALSE(machine().FetchText(server.Url("/21")));
+  EXPECT_TRUE(machine().FetchText(server.Url("/20"), kTimeout));
+  EXPECT_FALSE(machine().FetchText(server.Url("/21"), kTimeout));
 }
 
 TEST_F(Fetching, TakesTheCharacterSetOfTheLastResponse) {
@@ -142,7 +147,7 @@ TEST_F(Fetching, TakesTheCharacterSetOfTheLastResponse) {
     if (path == "/") return Response("200 OK", kHtml, "B\xE4r");
     return Response("302 Found", kLatin1 + "Location: /\r\n"s, "B\xE4r");
   });
-  EXPECT_FALSE(machine().FetchText(server.Url("/first")));
+  EXPECT_FALSE(machine().FetchText(server.Url("/first"), kTimeout));
 }
 
 /// A host that waits for a second: its helper has the server's silence by then,
@@ -152,9 +157,7 @@ class Hasty : public ::testing::Test {
  protected:
   static bool Fetch(const std::string& url) {
     setenv("no_proxy", "*", 1);
-    Timeouts timeouts;
-    timeouts.fetch = std::chrono::seconds(1);
-    return LinuxMachine(VELMO_TEST_HELPERS, timeouts).FetchText(url);
+    return LinuxMachine(VELMO_TEST_HELPERS).FetchText(url, 1s);
   }
 };
 
@@ -200,7 +203,7 @@ TEST_F(Fetching, FailsWhereNobodyListens) {
     const HttpServer server(&CountDown);
     url = server.Url("/0");
   }
-  EXPECT_FALSE(machine().FetchText(url));
+  EXPECT_FALSE(machine().FetchText(url, kTimeout));
 }
 
 struct FileRow {
@@ -220,8 +223,9 @@ TEST_P(FromAFile, IsText) {
   directory.Write("picture", kPicture);
   ASSERT_EQ(mkfifo("pipe", S_IRWXU), 0);
   LinuxMachine machine(VELMO_TEST_HELPERS);
-  EXPECT_EQ(machine.FetchText("file:///proc/self/cwd/"s + GetParam().name),
-            GetParam().is_text);
+  EXPECT_EQ(
+      machine.FetchText("file:///proc/self/cwd/"s + GetParam().name, kTimeout),
+      GetParam().is_text);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -243,11 +247,11 @@ TEST_F(Fetching, RefusesWhatIsNoUrlOfAResource) {
   std::filesystem::current_path(directory.path());
   const HttpServer server(&CountDown);
   const std::string url = server.Url("/0");
-  EXPECT_TRUE(machine().FetchText(url));
+  EXPECT_TRUE(machine().FetchText(url, kTimeout));
   for (const std::string& bad :
        {url.substr(7), url + "/a b", url + "/\"\xC3\xA4", " " + url,
         "ftp" + url.substr(4), "page"s, "/etc/passwd"s, "-V"s, ""s}) {
-    EXPECT_FALSE(machine().FetchText(bad)) << bad;
+    EXPECT_FALSE(machine().FetchText(bad, kTimeout)) << bad;
   }
 }
 

@@ -194,7 +194,7 @@ TEST(AHostThatForksInAThread, GetsEveryAnswer) {
     const HelperAnswers helpers(VELMO_TEST_HELPERS);
     for (int i = 0; i < 20; ++i) {
       ASSERT_TRUE(helpers.HostReachability("127.0.0.1")) << i;
-      ASSERT_FALSE(helpers.FetchText("no URL")) << i;
+      ASSERT_FALSE(helpers.FetchText("no URL", std::chrono::minutes(1))) << i;
       ASSERT_EQ(FirstOutput("/bin/echo", {"x"}), "x\n") << i;
       ASSERT_EQ(FirstOutput("/bin/true", {}), "") << i;
     }

@@ -270,12 +270,14 @@ INSTANTIATE_TEST_SUITE_P(
                    }},
         RefusalRow{"a helper that is missing",
                    [](const Directory& directory) {
-                     return !HelperAnswers(directory / "x").FetchText("a");
+                     return !HelperAnswers(directory / "x")
+                                 .FetchText("a", std::chrono::seconds(10));
                    }},
         RefusalRow{"a helper that is no program",
                    [](const Directory& directory) {
                      directory.Write("velmohelp-fetch", "text");
-                     return !HelperAnswers(directory.path()).FetchText("a");
+                     return !HelperAnswers(directory.path())
+                                 .FetchText("a", std::chrono::seconds(10));
                    }},
         RefusalRow{"a helper that fails",
                    [](const Directory& directory) {
@@ -292,7 +294,8 @@ INSTANTIATE_TEST_SUITE_P(
         RefusalRow{"a question with a NUL",
                    [](const Directory& directory) {
                      return !HelperAnswers(directory.path())
-                                 .FetchText(std::string("a\0b", 3));
+                                 .FetchText(std::string("a\0b", 3),
+                                            std::chrono::seconds(10));
                    }}),
     testing::SentenceOf());
 

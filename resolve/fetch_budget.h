@@ -1,0 +1,27 @@
+// How long a request may spend on loading pages.
+#ifndef RESOLVE_FETCH_BUDGET_H_
+#define RESOLVE_FETCH_BUDGET_H_
+
+#include <chrono>
+#include <string>
+
+#include "platform/machine.h"
+
+namespace velmohelp {
+
+/// The time that one request has for all of its fetches. The person who waits
+/// for help gives up on a slow server sooner than the folders run out, each of
+/// which would cost another timeout.
+class FetchBudget {
+ public:
+  /// Machine::FetchText, with a page's timeout or with the time that is left.
+  /// False at once, without a question to the machine, when none is left.
+  bool FetchText(Machine& machine, const std::string& uri);
+
+ private:
+  std::chrono::milliseconds left_ = std::chrono::seconds(20);
+};
+
+}  // namespace velmohelp
+
+#endif  // RESOLVE_FETCH_BUDGET_H_
