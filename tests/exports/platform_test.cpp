@@ -31,6 +31,13 @@ TEST_F(PlatformExports, FindFilesAndDirectories) {
   EXPECT_FALSE(ITEMInternal::FileExists("/y"));
 }
 
+TEST_F(PlatformExports, FindNoFileWhoseNameIsNotUtf8) {
+  machine.AddFile("/x\xFC.html");
+  EXPECT_FALSE(ITEMInternal::FileExists("/x\xFC.html"));
+  machine.AddFile("/x\xC3\xBC.html");
+  EXPECT_TRUE(ITEMInternal::FileExists("/x\xC3\xBC.html"));
+}
+
 TEST_F(PlatformExports, AskTheToolAboutTheRuntime) {
   InstallTool();
   EXPECT_FALSE(ITEMInternal::IsZAMRuntimePresent());

@@ -106,5 +106,12 @@ TEST_F(Launch, FindsFilesAndDirectoriesAlike) {
   EXPECT_FALSE(FileExists(machine, ""));
 }
 
+TEST_F(Launch, FindsNoFileWhoseNameIsNotUtf8) {
+  machine.AddFile("/x\xFF");
+  EXPECT_FALSE(FileExists(machine, "/x\xFF"));
+  EXPECT_FALSE(FileExists(machine, "/\xED\xA0\x80"));
+  EXPECT_THAT(machine.Questions(), IsEmpty());
+}
+
 }  // namespace
 }  // namespace velmohelp::testing

@@ -74,8 +74,20 @@ TEST_F(LocalPage, HasADoubledSlashInItsInstalledPathAndInEachMapsPath) {
 
 TEST_F(LocalPage, ThatIsNotFoundLeavesTheIdAlthoughCandidatesWereWritten) {
   AddRow("a");
-  EXPECT_EQ(Locally("x y\xFF.html"), NotFound("x y\xFF.html"));
+  EXPECT_EQ(Locally("x y.html"), NotFound("x y.html"));
   EXPECT_EQ(machine.Questions().size(), 5);
+}
+
+/// It could not be shown: no URL can be made of its path.
+TEST_F(LocalPage, IsNotTheOneInAFolderWhoseNameIsNotUtf8) {
+  AddRow("a");
+  AddRow("b");
+  sHelpPaths[0][0] += "\xFC";
+  AddPage(Downloaded("a") + "\xFC", "intro.html");
+  AddMap(Downloaded("a") + "\xFC", "VX_HOME\th\nintro\tx.html\n");
+  EXPECT_EQ(Locally("intro.html"), NotFound("intro.html"));
+  AddPage(Downloaded("b"), "intro.html");
+  EXPECT_EQ(Locally("intro.html"), Found(Downloaded("b") + "/intro.html"));
 }
 
 TEST_F(LocalPage, GetsNoSecondSlashAfterAFolderThatEndsWithOne) {
