@@ -27,9 +27,11 @@ std::optional<std::string> WithoutEscapes(std::string_view text) {
 
 /// The path of a URL in the file system. It is unescaped twice, as a URL and
 /// then as a path: a path that its caller had escaped already is found too.
-/// nullopt when the URL's path is not valid UTF-8; "", where no file exists,
-/// when it is not after the second time or is longer than the text buffer.
+/// nullopt when the URL has no path or one that is not valid UTF-8; "", where
+/// no file exists, when it is not after the second time or is longer than the
+/// text buffer.
 std::optional<std::string> FileSystemPathOf(const std::string& url) {
+  if (!IsHierarchical(url)) return std::nullopt;
   const auto path = WithoutEscapes(PathOfUri(url));
   if (!path) return std::nullopt;
   const auto file_path = WithoutEscapes(*path);

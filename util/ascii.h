@@ -12,10 +12,14 @@ constexpr int HexValue(char c) {
   return -1;
 }
 
+/// An ASCII letter.
+constexpr bool IsAsciiAlpha(char c) {
+  return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
+}
+
 /// An ASCII letter or digit.
 constexpr bool IsAsciiAlnum(char c) {
-  return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') ||
-         (c >= 'a' && c <= 'z');
+  return IsAsciiAlpha(c) || (c >= '0' && c <= '9');
 }
 
 }  // namespace velmohelp

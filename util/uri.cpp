@@ -1,9 +1,19 @@
 #include "util/uri.h"
 
+#include <algorithm>
+
 #include "util/c_string.h"
 
 namespace velmohelp {
 namespace {
+
+bool IsScheme(std::string_view text) {
+  constexpr std::string_view kMarks = "+-.";
+  return IsAsciiAlpha(text.front()) &&
+         std::ranges::all_of(text, [&](char byte) {
+           return IsAsciiAlnum(byte) || kMarks.find(byte) != kMarks.npos;
+         });
+}
 
 /// "http://host/x" -> "//host/x"; "/a/b:c" and ":a" stay.
 std::string_view WithoutScheme(std::string_view uri) {
@@ -68,6 +78,13 @@ std::string Unescaped(std::string_view text) {
     text.remove_prefix(2);
   }
   return result;
+}
+
+bool IsHierarchical(std::string_view uri) {
+  const std::size_t end = uri.find_first_of(":/?#");
+  if (end == std::string_view::npos || uri[end] != ':') return true;
+  return end != 0 && IsScheme(uri.substr(0, end)) &&
+         uri.substr(end + 1).starts_with('/');
 }
 
 std::string_view PathOfUri(std::string_view uri) {

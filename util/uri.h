@@ -26,6 +26,11 @@ bool IsUri(std::string_view text);
 /// nullopt when that is not a URI.
 std::optional<std::string> UriOf(std::string_view text);
 
+/// Whether a URI has a path that can be one in a file system. In "mailto:x" the
+/// scheme is not followed by "/"; in "1:x" a colon precedes the first "/"
+/// though "1" is not a scheme.
+bool IsHierarchical(std::string_view uri);
+
 /// The path of a URI, still escaped.
 std::string_view PathOfUri(std::string_view uri);
 

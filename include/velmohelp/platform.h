@@ -37,7 +37,8 @@ enum TextEncoding : std::uint32_t {
   kTextEncodingUtf8 = 0x08000100,
 };
 
-/// True when a file or a directory exists at path (UTF-8).
+/// True when a file or a directory exists at path. False for a path that is not
+/// valid UTF-8, whatever exists there.
 VELMOHELP_API bool FileExists(std::string path);
 
 /// True when the QTV tool says that the viewer's runtime is installed.
@@ -78,9 +79,11 @@ VELMOHELP_API std::string GetHelpContentDirectory(std::string first,
 
 /// The reference of the file at a path, which may be percent-encoded once or
 /// twice, or at the path of a URL; what follows "?" or "#" is ignored. Returns
-/// 0; -1403 when path is empty or not valid UTF-8, before or after unescaping;
-/// -43 when the file does not exist or its path has more than 1023 bytes; -1302
-/// when it is a directory. out is written only on 0.
+/// 0; -1403 when path is empty, is not valid UTF-8 before or after unescaping,
+/// or has a colon before its first "/" without being a URL with a path, as
+/// "mailto:x" and the relative path "a:b/c" have; -43 when the file does not
+/// exist or its path has more than 1023 bytes; -1302 when it is a directory.
+/// out is written only on 0.
 VELMOHELP_API std::int16_t GetFSRefFromPath(std::string path,
                                             FileReference& out);
 

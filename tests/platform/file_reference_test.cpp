@@ -45,6 +45,10 @@ const Row kPaths[] = {
     {"a query is no part of the path", "/x?y", "/x"},
     {"a fragment is no part of the path", "/x#y", "/x"},
     {"a colon inside a path", "/a:b/c", "/a:b/c"},
+    {"a colon after the first slash of a relative path", "./a:b", "./a:b"},
+    {"a colon in the query of a relative path", "a?b:c", "a"},
+    {"a URL with an absolute path and no host", "file:/x", "/x"},
+    {"a URL whose scheme has every kind of character", "a+1-.:/x", "/x"},
     {"a path up to its first zero byte", "/x\0/y"s, "/x"},
     {"a path up to an escaped zero byte", "/x%00/y", "/x"},
     {"a path of 1023 bytes", "/" + std::string(1022, 'a'),
@@ -80,8 +84,17 @@ TEST_F(NoReference, ComesFromEscapesThatAreNotUtf8) {
 
 TEST_F(NoReference, ComesFromAMissingFile) {
   ExpectStatus("/x", -43);
-  ExpectStatus("mailto:x", -43);
-  EXPECT_THAT(machine.Questions(), ElementsAre("FindFile /x", "FindFile x"));
+  EXPECT_THAT(machine.Questions(), ElementsAre("FindFile /x"));
+}
+
+/// The file whose name follows the colon is another one.
+TEST_F(NoReference, ComesFromAColonWithoutAPathOfAUrl) {
+  for (const char* path : {"x", "b/c", "/x"}) machine.AddFile(path);
+  for (const char* path : {"mailto:x", "file:x", "a:b/c", "1:/x", ":x", ":/x",
+                           "a_b:/x", "ä:/x", "a b:/x", "file:", "a:?/x"}) {
+    ExpectStatus(path, -1403);
+  }
+  EXPECT_THAT(machine.Questions(), IsEmpty());
 }
 
 TEST_F(NoReference, ComesFromADirectoryThoughItExists) {
