@@ -11,6 +11,9 @@ namespace {
 
 using std::string_literals::operator""s;
 
+/// The longest file that is read: any but a help map.
+constexpr std::size_t kLongest = 16U << 20U;
+/// A help map, which may be longer.
 constexpr std::size_t kHuge = 100U << 20U;
 
 /// The beginning of a program: no key is in it, and no text.
@@ -42,12 +45,21 @@ Change Unreadable(const std::string& name) {
   };
 }
 
-/// A file with a text in front of, or behind, that many bytes.
-Change Huge(const std::string& name, const std::string& before,
-            const std::string& after) {
+/// So many bytes, the last of which are a text.
+std::string Ending(const std::string& text, std::size_t size) {
+  return std::string(size - text.size(), 'x') + text;
+}
+
+/// A file of so many bytes that begins or ends with a text.
+Change FileThatBegins(const std::string& name, const std::string& text,
+                      std::size_t size) {
   return [=](HelpWorld& world) {
-    world.Write(name, world.Expanded(before) + std::string(kHuge, 'x') + after);
+    world.Write(name, text + std::string(size - text.size(), 'x'));
   };
+}
+Change FileThatEnds(const std::string& name, const std::string& text,
+                    std::size_t size) {
+  return [=](HelpWorld& world) { world.Write(name, Ending(text, size)); };
 }
 
 struct BadConfig {
@@ -81,7 +93,10 @@ INSTANTIATE_TEST_SUITE_P(
         BadConfig{"a binary file", File("{config}", kBinary), "7"},
         BadConfig{"a file full of zero bytes",
                   File("{config}", std::string(1U << 20U, '\0')), "7"},
-        BadConfig{"100 MB of nothing", Huge("{config}", "", ""), "7"},
+        BadConfig{"as many bytes of nothing as are read",
+                  FileThatEnds("{config}", "", kLongest), "7"},
+        BadConfig{"a byte more than is read",
+                  FileThatEnds("{config}", "", kLongest + 1), "6"},
         BadConfig{"no closing quote",
                   File("{config}", "<help path=\"Cfg id=en_US_Foo"), "7"},
         BadConfig{"no closing quote behind the path",
@@ -106,13 +121,16 @@ TEST(AConfigurationWithTooManyFolders, HasTheFirstHundred) {
   EXPECT_EQ(world.Started(), world.Expanded(Viewer("HELP", "intro")));
 }
 
-TEST(AHugeConfiguration, IsReadToItsEnd) {
+TEST(ALongConfiguration, IsReadToItsEndUnlessItIsTooLong) {
   HelpWorld world;
-  world.Write("{config}", std::string(kHuge, 'x') + world.config().Text());
+  world.Write("{config}", Ending(world.config().Text(), kLongest));
   EXPECT_TRUE(world.Initialise());
+  world.Write("{config}", Ending(world.config().Text(), kLongest + 1));
+  EXPECT_EQ(world.Ask(Display("intro")), "4");
 }
 
 constexpr char kPreferences[] = "{store}/klh-pref.xml";
+constexpr char kAccessible[] = "accessibleMode=\"TRUE\"";
 const Change kPage = File("{installed}/intro.html");
 const Words kInViewer = Viewer("HELP", "\"{url:installed}/intro.html\"");
 const Words kInBrowser = Browser("{url:installed}/intro.html");
@@ -138,10 +156,14 @@ INSTANTIATE_TEST_SUITE_P(
                         File(kPreferences, std::string(4096, '\0'))),
         WithPreferences("no closing quote",
                         File(kPreferences, "accessibleMode=\"TRUE")),
-        WithPreferences("100 MB before what they say",
-                        Huge(kPreferences, "", "accessibleMode=\"TRUE\""),
-                        kInBrowser)),
+        WithPreferences("a byte more than is read",
+                        FileThatEnds(kPreferences, kAccessible, kLongest + 1))),
     SentenceOf());
+
+TEST(LongViewerPreferences, AreReadToTheirEnd) {
+  Follow(WithPreferences("", FileThatEnds(kPreferences, kAccessible, kLongest),
+                         kInBrowser));
+}
 
 constexpr char kMap[] = "{installed}/helpmap.txt";
 
@@ -169,11 +191,13 @@ INSTANTIATE_TEST_SUITE_P(
                 File(kMap, std::string(1U << 20U, '\0')), "0",
                 Viewer("HELP", "intro")),
         WithMap("100 MB before the entries",
-                Huge(kMap, "", "\nintro\tintro.html\nVX_HOME\tx.html\n"), "0",
-                kInViewer)),
+                FileThatEnds(kMap, "\nintro\tintro.html\nVX_HOME\tx.html\n",
+                             kHuge),
+                "0", kInViewer)),
     SentenceOf());
 
 /// Online help is on where nobody has legibly switched it off.
+constexpr char kOff[] = "[Preferences]\nVelmoOnlineDefault=0\n";
 constexpr char kUserFile[] = "{settings}/velmo/com.velmo.VelmoOnlineHelp.conf";
 
 Route WithUserFile(const char* sentence, const Change& change) {
@@ -198,13 +222,19 @@ INSTANTIATE_TEST_SUITE_P(
         WithUserFile("a value that is no text",
                      File(kUserFile,
                           "[Preferences]\nVelmoOnlineDefault=\xFF\n")),
-        WithUserFile("100 MB behind what it says",
-                     Huge(kUserFile, "[Preferences]\nVelmoOnlineDefault=0\n",
-                          ""))),
+        WithUserFile("a byte more than is read",
+                     FileThatBegins(kUserFile, kOff, kLongest + 1))),
     SentenceOf());
 
 TEST(AUserPreference, SwitchesOnlineHelpOff) {
   HelpWorld world;
+  ASSERT_TRUE(world.Initialise());
+  EXPECT_EQ(world.Ask({"status"}), "1");
+}
+
+TEST(ALongUserPreference, SwitchesOnlineHelpOff) {
+  HelpWorld world;
+  FileThatBegins(kUserFile, kOff, kLongest)(world);
   ASSERT_TRUE(world.Initialise());
   EXPECT_EQ(world.Ask({"status"}), "1");
 }
