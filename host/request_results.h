@@ -4,36 +4,41 @@
 #ifndef HOST_REQUEST_RESULTS_H_
 #define HOST_REQUEST_RESULTS_H_
 
+#include <velmohelp/velmohelp.h>
+
 #include "exports/result_codes.h"
 
 namespace velmohelp {
 
 inline constexpr ResultCodeTable<9> kOpenUrlReturnCode = {
     {"Open URL Return Code", kOpenUrlReturnCode.values},
-    {{"success", 0},
-     {"browserLaunchFailure", 1},
-     {"helpAppLaunchFailure", 2},
-     {"invalidArgument", 3},
-     {"missingConfig", 4},
-     {"invalidConfig", 5},
-     {"invalidInitialization", 6},
-     {"unexpectedResult", 7},
+    {{"success", kOpenUrlSuccess},
+     {"browserLaunchFailure", kOpenUrlBrowserLaunchFailure},
+     {"helpAppLaunchFailure", kOpenUrlHelpAppLaunchFailure},
+     {"invalidArgument", kOpenUrlInvalidArgument},
+     {"missingConfig", kOpenUrlMissingConfig},
+     {"invalidConfig", kOpenUrlInvalidConfig},
+     {"invalidInitialization", kOpenUrlInvalidInitialization},
+     {"unexpectedResult", kOpenUrlUnexpectedResult},
      {nullptr, 0}}};
 
 inline constexpr ResultCodeTable<8> kSearchReturnCode = {
     {"Search Return Code", kSearchReturnCode.values},
-    {{"success", 0},
-     {"launchFailure", 1},
-     {"invalidArgument", 3},
-     {"missingConfig", 4},
-     {"invalidConfig", 5},
-     {"noLocalPage", 6},
-     {"noOnlinePage", 7},
+    {{"success", kSearchSuccess},
+     {"launchFailure", kSearchLaunchFailure},
+     {"invalidArgument", kSearchInvalidArgument},
+     {"missingConfig", kSearchMissingConfig},
+     {"invalidConfig", kSearchInvalidConfig},
+     {"noLocalPage", kSearchNoLocalPage},
+     {"noOnlinePage", kSearchNoOnlinePage},
      {nullptr, 0}}};
 
 inline constexpr ResultCodeTable<4> kOnlineStatusReturnCode = {
     {"Online Status Return Code", kOnlineStatusReturnCode.values},
-    {{"online", 0}, {"offline", 1}, {"notInitialized", 2}, {nullptr, 0}}};
+    {{"online", kOnlineStatusOnline},
+     {"offline", kOnlineStatusOffline},
+     {"notInitialized", kOnlineStatusNotInitialized},
+     {nullptr, 0}}};
 
 }  // namespace velmohelp
 
