@@ -1,4 +1,4 @@
-// The client's whole state, as a request is handed it.
+// The client's whole state, as requests receive it.
 #ifndef CLIENT_CLIENT_STATE_H_
 #define CLIENT_CLIENT_STATE_H_
 
@@ -65,7 +65,7 @@ struct ClientState {
   HelpMap& help_map;
 };
 
-/// The parts of a state that the layers below are handed.
+/// The parts of a state that the layers below need.
 inline HelpConfigState ConfigView(ClientState& state) {
   return {.product_id = state.product_id,
           .downloaded_suffix = state.downloaded_config,

@@ -24,8 +24,8 @@ install(FILES
   "${PROJECT_BINARY_DIR}/package/velmohelpConfigVersion.cmake"
   DESTINATION "${velmo_package_dir}" COMPONENT development)
 
-# pkg-config. The prefix is told from the file's own place, so that a tree that
-# was unpacked elsewhere still names its own headers.
+# pkg-config. The prefix is relative to the file's own place, so that a tree
+# that was unpacked elsewhere still names its own headers.
 function(velmo_below_prefix out folder)
   if(IS_ABSOLUTE "${folder}")
     set(${out} "${folder}" PARENT_SCOPE)

@@ -13,16 +13,16 @@ option(VELMO_BUILD_FUZZERS "Build the fuzz targets (needs Clang)" OFF)
 set(VELMO_SANITIZE "" CACHE STRING
   "Sanitizers to build with, as for -fsanitize (address,undefined)")
 
-# The folder of platform/ that answers for this machine.
+# The folder of platform/ that implements the machine.
 if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
   set(velmo_default_platform linux)
 else()
   set(velmo_default_platform unsupported)
 endif()
 set(VELMO_PLATFORM "${velmo_default_platform}" CACHE STRING
-  "The folder of platform/ that answers for this machine")
+  "The folder of platform/ that implements the machine")
 
-# The library and its helper programs lie together, in the build tree as in the
+# The library and its helper programs are together, in the build tree as in the
 # installed one: the library finds them by its own location.
 set(VELMO_LIBRARY_DIR "${PROJECT_BINARY_DIR}/lib")
 

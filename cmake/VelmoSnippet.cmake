@@ -1,5 +1,5 @@
 # velmo_extract_snippet(DOCUMENT LANGUAGE FILE): writes the document's first
-# fenced block of a language to FILE in the current build folder, afresh
+# fenced block of a language to FILE in the current build folder, and again
 # whenever the document changes.
 function(velmo_extract_snippet document language file)
   set(path "${PROJECT_SOURCE_DIR}/${document}")

@@ -1,2 +1,2 @@
-# The library needs no other package: what it links is its own affair.
+# The library needs no other package: its callers link nothing else.
 include("${CMAKE_CURRENT_LIST_DIR}/velmohelpTargets.cmake")

@@ -18,9 +18,9 @@ void FileText::Reserve(std::size_t size) {
   capacity_ = size;
 }
 
-/// The first time for little, as most files are cut into lines and dropped.
-/// What does not fit then is one long line: the room for all of the file is
-/// taken at once, and costs nothing until it is read into.
+/// Little at first: most files are read in chunks of lines, which fit. What
+/// does not fit is one long line, and then all of the file gets room at once,
+/// which costs nothing until it is read into.
 void FileText::Grow(const InputFile& file) {
   const std::size_t doubled = std::max(2 * capacity_, 2 * kPieceSize);
   const std::size_t whole = capacity_ == 0 ? 0 : file.size() + kPieceSize;

@@ -21,8 +21,7 @@ class InputFile {
   /// The size when it was opened, 0 when the system does not tell. A hint: the
   /// file may grow.
   std::size_t size() const { return size_; }
-  /// Whoever reads to the end gives up after so many bytes: some files have no
-  /// end.
+  /// Readers give up after so many bytes: some files have no end.
   std::size_t limit() const { return limit_; }
 
   /// Reads up to size bytes, size not 0; returns how many, 0 at the end. Throws

@@ -73,8 +73,8 @@ std::size_t EscapedSize(std::string_view text, const EscapeTable& table) {
 
 /// The table applied to every byte. size: the result's, counted before: memory
 /// that grows is touched more than once, which is most of the cost. The copy of
-/// each byte has no branch: in running text nobody, a processor neither, can
-/// guess which byte is escaped.
+/// each byte has no branch: in running text a processor cannot predict which
+/// byte is escaped.
 std::string Escaped(std::string_view text, const EscapeTable& table,
                     std::size_t size) {
   constexpr std::size_t kCopiedAtOnce = sizeof Replacement::bytes;

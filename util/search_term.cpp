@@ -6,10 +6,11 @@
 namespace velmohelp {
 namespace {
 
-/// GCC and Clang make of it what the processor has, plain code at worst.
+/// GCC and Clang compile it to vector instructions where the processor has
+/// them.
 using Block __attribute__((vector_size(16))) = unsigned char;
 
-/// A block of counters holds so many.
+/// The counters are bytes: more blocks would overflow them.
 constexpr std::size_t kMostBlocks = 255;
 
 std::size_t CountInBlocks(const char* text, std::size_t blocks) {

@@ -8,8 +8,8 @@
 namespace velmohelp {
 
 /// An ASCII letter or digit, or one of "'()*!~"; "-", "_" and "." are escaped,
-/// search pages expect that. Bytes: one byte, or a vector of them that are all
-/// asked at once, which is why the question has no branch.
+/// as search pages expect. Bytes: one byte, or a vector of them, which is why
+/// the test has no branch.
 template <typename Bytes>
 constexpr auto StaysInSearchTerm(Bytes byte) {
   const auto letter = Bytes(Bytes(byte | ' ') - 'a') <= 'z' - 'a';

@@ -26,10 +26,9 @@ std::optional<std::string> DecodeText(std::string_view bytes,
 /// cannot express it or it does not fit the text buffer.
 std::string EncodeText(std::string_view utf8, TextEncoding encoding);
 
-/// Whether a conversion to UTF-8 succeeds in a buffer of the size that the
-/// platform names for a text: three bytes per UTF-16 unit, with the NUL counted
-/// in although no room was set aside for it. An empty text and one of
-/// three-byte characters alone do not fit. utf8: valid UTF-8.
+/// Whether a text fits a buffer of the maximum size that the platform reports
+/// for it: three bytes per UTF-16 unit, with the NUL. So an empty text and one
+/// of three-byte characters alone do not fit. utf8: valid UTF-8.
 bool FitsMaximumSize(std::string_view utf8);
 
 /// A copy of the text for free(); null when it does not fit its maximum size or

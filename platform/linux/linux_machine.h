@@ -1,4 +1,5 @@
-// The client's machine on Linux: passes each question to the file that knows.
+// The client's machine on Linux: passes each call on to the file that
+// implements it.
 #ifndef PLATFORM_LINUX_LINUX_MACHINE_H_
 #define PLATFORM_LINUX_LINUX_MACHINE_H_
 

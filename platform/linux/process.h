@@ -14,7 +14,7 @@ namespace velmohelp {
 /// How long the caller waits for a program.
 enum class WaitFor : std::uint8_t { kStart, kFirstOutput, kEnd };
 
-/// A program, and what it gets beside its arguments.
+/// A program, its arguments, and how it is started.
 struct ProgramStart {
   std::string program;
   Arguments arguments = {};

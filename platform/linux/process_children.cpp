@@ -125,14 +125,14 @@ VELMO_CHILD int RunProgram(void* argument) {
   Exit();
 }
 
-/// A pipe that exec closes. -1 twice when there is none: only an emulated vfork
-/// needs it.
+/// A pipe that exec closes. Both ends are -1 when it could not be made: only an
+/// emulated vfork needs it.
 struct ExecPipe {
   int ends[2] = {-1, -1};
 };
 
 /// Waits until the program has been started or has failed to. The kernel's
-/// vfork has waited for that already; an emulated one has not.
+/// vfork has waited for that already; an emulated one does not.
 VELMO_CHILD void AwaitExec(const ExecPipe& pipe) {
   char nothing = 0;
   Close(pipe.ends[1]);

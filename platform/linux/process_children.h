@@ -8,7 +8,7 @@
 
 namespace velmohelp {
 
-/// What the intermediate process reports. It lies in shared memory, so that
+/// What the intermediate process reports. It is in shared memory, so that
 /// the report also arrives where vfork is emulated as fork (valgrind,
 /// qemu-user): the children then have a copy of all other memory.
 struct LaunchReport {

@@ -17,9 +17,9 @@ using std::chrono::milliseconds;
 /// Digits of the longest length that is worth reading.
 constexpr std::size_t kLengthDigits = 10;
 
-/// Milliseconds until a time, rounded up: poll must not return early and spin
-/// through the last one.
-int Until(Clock::time_point end) {
+/// Rounded up: poll must not return early and spin through the last
+/// millisecond.
+int MillisecondsUntil(Clock::time_point end) {
   const auto left = std::chrono::ceil<milliseconds>(end - Clock::now());
   return static_cast<int>(std::max(left, milliseconds(0)).count());
 }
@@ -27,8 +27,9 @@ int Until(Clock::time_point end) {
 /// False after the end, however much there is to read.
 bool IsReadableBefore(Clock::time_point end, const UniqueFd& pipe) {
   pollfd waited = {pipe.get(), POLLIN, 0};
-  if (Until(end) == 0) return false;
-  return RetryOnEintr([&] { return poll(&waited, 1, Until(end)); }) > 0;
+  if (MillisecondsUntil(end) == 0) return false;
+  return RetryOnEintr(
+             [&] { return poll(&waited, 1, MillisecondsUntil(end)); }) > 0;
 }
 
 /// Appends what is there to text; false at the end of the file or on an error.

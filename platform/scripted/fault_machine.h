@@ -1,4 +1,4 @@
-// A machine that breaks down once: for tests of what the client makes of it.
+// A machine that fails once, for tests of how the client handles it.
 #ifndef PLATFORM_SCRIPTED_FAULT_MACHINE_H_
 #define PLATFORM_SCRIPTED_FAULT_MACHINE_H_
 

@@ -78,7 +78,7 @@ class ScriptedMachine : public Machine {
 #include "platform/machine_overrides.inc"
 
  protected:
-  /// Called with the words of every question before it is answered.
+  /// Called with the words of every question before the machine returns.
   virtual void Record(const Arguments& words);
 
  private:

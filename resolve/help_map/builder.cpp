@@ -8,8 +8,8 @@ namespace velmohelp {
 namespace {
 
 /// In the order of keys, entries are spread over the whole text, and each one
-/// is a cache miss. Prefetched so many entries ahead it is in the cache when
-/// its turn comes; loading takes half as long.
+/// is a cache miss. Prefetched so many entries ahead, it is in the cache
+/// when its turn comes; loading then takes half as long.
 constexpr std::size_t kPrefetchDistance = 8;
 
 bool IsSorted(std::string_view lines) {

@@ -11,7 +11,7 @@ namespace velmohelp {
 
 /// An entry of a text.
 struct EntryRef {
-  /// Eight bytes of the key as a number that compares as they do. Keys are
+  /// Eight bytes of the key, as a number that sorts as they do. Keys are
   /// spread over the whole text, and comparing them there is a cache miss.
   Word bytes;
   /// Where the key starts.

@@ -6,7 +6,7 @@
 //     PEXT    a  c  d  g  0  0  0  0     all eight bytes are stored,
 //             ----------->               then the target moves on by four
 //
-// The next store overwrites the zeros. Those of the last one land behind the
+// The next store overwrites the zeros. Those of the last one end up after the
 // block's own units, where the caller's buffer may hold something already:
 //
 //     target  [units of the block][overshoot] ...

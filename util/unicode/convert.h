@@ -26,7 +26,8 @@ ITEMConversionResult Step(Direction direction, Cursor<Source>& source,
 }
 
 /// When a kernel has stopped, this many characters go one by one before it is
-/// tried again. Text that it can never take then pays seldom for the attempt.
+/// tried again. Text that it can never convert then seldom pays for the
+/// attempt.
 inline constexpr int kStepsBetweenBlocks = 16;
 
 template <typename Direction, typename Source, typename Target>

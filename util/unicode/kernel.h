@@ -12,8 +12,8 @@
 
 namespace velmohelp::unicode {
 
-// A kernel moves both cursors over as many whole characters as it can convert
-// many at a time, perhaps none. It stops before anything that may be illegal:
+// A kernel converts whole blocks and moves both cursors over their whole
+// characters, perhaps none. It stops before anything that may be illegal:
 // single steps alone know the result codes. It has
 //   Sse2(source, target);
 //   Bmi2(source, target), compiled with VELMO_BMI2.

@@ -7,7 +7,7 @@
 #include <stdio.h>
 #include <unistd.h>
 
-/* False when nobody reads it. */
+/* False when nobody reads the pipe. */
 static inline int velmo_write_all(const char* bytes, size_t size) {
   while (size > 0) {
     const ssize_t written = write(STDOUT_FILENO, bytes, size);
@@ -19,7 +19,7 @@ static inline int velmo_write_all(const char* bytes, size_t size) {
 }
 
 /* Writes an answer as a netstring ("5:hello,") to standard output, and closes
- * it. No bytes: this helper cannot tell. False when nobody reads it.
+ * it. No bytes: this helper cannot tell. False when nobody reads the pipe.
  *
  * The length in front lets the library return as soon as it has the whole
  * answer. It never waits for the end of the file: a process that the host

@@ -17,7 +17,7 @@ namespace {
 
 /// Below the library's own timeout for this program.
 constexpr std::chrono::seconds kAnswerTimeout(8);
-/// A dialog that nobody answers goes away in the end.
+/// A dialog in which nobody chooses is closed after this time.
 constexpr std::chrono::minutes kChoiceTimeout(10);
 
 bool IsAbsoluteUri(const char* text) {
@@ -33,7 +33,7 @@ std::string StartRecords(const std::vector<std::string>& words) {
   return answer;
 }
 
-/// "" for a URL that nothing opens. False when nobody reads it.
+/// answer: "" for a URL that nothing opens. False when nobody reads the pipe.
 bool GiveAnswer(const std::string& answer) {
   return velmo_give_answer(answer.data(), answer.size()) != 0;
 }
@@ -45,8 +45,8 @@ std::string StartAnswer(const std::string& url) {
 }
 
 /// The library has its answer in time, and 0 for the host means that something
-/// opened. While the person is still choosing an application nothing has: that
-/// answer is "no". The request goes on, so that the choice is not in vain.
+/// opened. While the person is still choosing an application nothing has, and
+/// the answer is empty. The request goes on, so that the choice still counts.
 bool OpenFromSandbox(const std::string& url) {
   PortalRequest request(url);
   const PortalOutcome outcome = request.Await(kAnswerTimeout);

@@ -15,8 +15,8 @@ constexpr char kObjectPath[] = "/org/freedesktop/portal/desktop";
 constexpr char kInterface[] = "org.freedesktop.portal.OpenURI";
 constexpr char kRequestInterface[] = "org.freedesktop.portal.Request";
 
-/// Part of an object path, which has no "-". Nobody else can guess it and ask
-/// for the same one.
+/// For an object path, where "-" is not allowed. Random, so that no other
+/// client of the bus can ask for the same path.
 std::string NewToken() {
   std::string token = "velmohelp_" + Text(TextPtr(g_uuid_string_random()));
   std::replace(token.begin(), token.end(), '-', '_');

@@ -1,5 +1,5 @@
 /* What the library and its helper programs say to each other. A helper takes
- * the question as its only argument and always gives an answer, in the form of
+ * the question as its only argument and always writes an answer, in the form of
  * answer.h: one of those below, or an empty one when it cannot tell.
  *
  * The library starts a helper with a real-time interval timer: SIGALRM ends a

@@ -16,7 +16,7 @@ namespace velmohelp {
 namespace {
 
 constexpr unsigned kTotalSeconds = 10;
-/// A server that sends less than this is given up.
+/// A transfer that is slower than this for that long is given up.
 constexpr long kLowSpeedBytesPerSecond = 1024;
 constexpr long kLowSpeedSeconds = 5;
 constexpr long kMaxRedirects = 20;
