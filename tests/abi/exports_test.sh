@@ -2,7 +2,7 @@
 # usage: exports_test.sh NM LIBRARY LIST
 # Fails when the names that the library exports are not those of the list, in
 # C order. A name that disappears breaks programs already built; one that
-# appears is kept for ever.
+# appears is kept forever.
 set -eu
 nm=$1 library=$2 list=$3
 

@@ -62,7 +62,7 @@ class LoadOrder : public ::testing::Test {
 
   template <typename T>
   T* Object(const std::string& name) const {
-    // Whatever is exported tells where the rest lies.
+    // The address of an exported variable gives those of the others.
     const auto distance = static_cast<std::ptrdiff_t>(symbols_.at(name)) -
                           static_cast<std::ptrdiff_t>(symbols_.at(kExported));
     auto* exported = static_cast<char*>(dlsym(library_, kExported));

@@ -11,8 +11,8 @@
 
 namespace velmohelp::testing {
 
-/// Addresses in the order of events since StartRecording. An array stands as a
-/// null pointer in the first two.
+/// Addresses in the order of events since StartRecording. An array is a null
+/// pointer in the first two.
 struct Recording {
   std::vector<const void*> made;
   std::vector<const void*> destroyed;

@@ -1,4 +1,4 @@
-// Every code that a page display answers, with what was shown for it.
+// Every code that a page display returns, with what was shown for it.
 #include <gtest/gtest.h>
 
 #include <ios>
@@ -19,7 +19,7 @@ constexpr char kInBrowser[] =
 
 struct Story {
   const char* sentence;
-  /// Told before the client is initialised, and after.
+  /// Set up before the client is initialised, and after.
   void (*given)(ClientWorld&);
   void (*then)(ClientWorld&);
   const char* page_id;
@@ -141,7 +141,7 @@ INSTANTIATE_TEST_SUITE_P(
     Three, DisplayCode,
     ::testing::Values(Story{"no page id", Nothing, Nothing, nullptr, {3, {}}},
                       Story{"an empty page id", Nothing, Nothing, "", {3, {}}},
-                      Story{"blanks", Nothing, Nothing, "   ", {3, {}}}),
+                      Story{"spaces", Nothing, Nothing, "   ", {3, {}}}),
     testing::SentenceOf());
 
 INSTANTIATE_TEST_SUITE_P(
@@ -179,29 +179,28 @@ INSTANTIATE_TEST_SUITE_P(
 
 INSTANTIATE_TEST_SUITE_P(
     Seven, DisplayCode,
-    ::testing::Values(Story{"neither page nor home page nor viewer",
-                            [](ClientWorld& world) { world.StartBrowsers(); },
-                            Nothing,
-                            "page",
-                            {7, {}}},
-                      Story{"a viewer without its runtime is no last resort",
-                            [](ClientWorld& world) { world.InstallViewer(); },
-                            Nothing,
-                            "page",
-                            {7, {}}},
-                      Story{"a target that is no URL for the browser",
-                            [](ClientWorld& world) {
-                              world.Install({.base_url = "help/"});
-                              world.AddFile(
-                                  ClientWorld::InstalledManual() +
-                                      "/helpmap.txt",
-                                  "VX_HOME\thome.html\npage\tp.html\n");
-                              world.GoOnline();
-                              world.StartBrowsers();
-                            },
-                            Nothing,
-                            "page",
-                            {7, {}}}),
+    ::testing::Values(
+        Story{"neither page nor home page nor viewer",
+              [](ClientWorld& world) { world.StartBrowsers(); },
+              Nothing,
+              "page",
+              {7, {}}},
+        Story{"a viewer without its runtime is not the last resort",
+              [](ClientWorld& world) { world.InstallViewer(); },
+              Nothing,
+              "page",
+              {7, {}}},
+        Story{"a target that is no URL for the browser",
+              [](ClientWorld& world) {
+                world.Install({.base_url = "help/"});
+                world.AddFile(ClientWorld::InstalledManual() + "/helpmap.txt",
+                              "VX_HOME\thome.html\npage\tp.html\n");
+                world.GoOnline();
+                world.StartBrowsers();
+              },
+              Nothing,
+              "page",
+              {7, {}}}),
     testing::SentenceOf());
 
 INSTANTIATE_TEST_SUITE_P(

@@ -52,14 +52,14 @@ INSTANTIATE_TEST_SUITE_P(
                "page",
                "file://~/Preferences/reader.VELMO.1/Local%20Store/Help/manual/"
                "page.html"},
-        Target{"the installed page behind a doubled slash",
+        Target{"the installed page after a doubled slash",
                [](ClientWorld& world) { AddInstalledPage(world, "page.html"); },
                "page", "file:///Help//manual/page.html"},
         Target{
-            "a leading blank is part of the page id",
+            "a leading space is part of the page id",
             [](ClientWorld& world) { AddInstalledPage(world, "_help.html"); },
             " help", "file:///Help//manual/_help.html"},
-        Target{"a leading blank keeps a URL from being one",
+        Target{"a leading space keeps a URL from being one",
                [](ClientWorld& world) {
                  AddInstalledPage(world, "_http___x.html");
                },
@@ -84,12 +84,12 @@ INSTANTIATE_TEST_SUITE_P(
                                  "VX_HOME\thome.html\nintro\tv2.html#top\n");
                },
                "intro", "file:///Help//manual/v2.html?nameAnchor=top"},
-        Target{"a blank in the map is escaped",
+        Target{"a space in the map is escaped",
                [](ClientWorld& world) {
                  AddInstalledMap(world, "VX_HOME\tmy home.html\n");
                },
                "page", "file:///Help//manual/my%20home.html"},
-        Target{"a URL in the map is no file",
+        Target{"a URL in the map is not looked up as a file",
                [](ClientWorld& world) {
                  AddInstalledMap(world, "VX_HOME\thttp://x/y\n");
                  world.machine().AddText("http://x/y");
@@ -134,7 +134,7 @@ INSTANTIATE_TEST_SUITE_P(
                                          "/VX_HOME.html");
                },
                "page", "http://localhost/help/manual/VX_HOME.html"},
-        Target{"a mapped page with its anchor as it stands",
+        Target{"a mapped page with its anchor unchanged",
                [](ClientWorld& world) {
                  world.GoOnline();
                  AddInstalledMap(world, "VX_HOME\thome.html#top\n");

@@ -1,4 +1,4 @@
-// What an initialisation answers, and what it leaves in the state.
+// What an initialisation returns, and what it leaves in the state.
 #include <gtest/gtest.h>
 
 #include "tests/support/client_world.h"
@@ -39,8 +39,8 @@ INSTANTIATE_TEST_SUITE_P(
                       BadArguments{"neither", nullptr, nullptr},
                       BadArguments{"an empty product", "", "en_US"},
                       BadArguments{"an empty locale", "Foo", ""},
-                      BadArguments{"a blank product", "   ", "en"},
-                      BadArguments{"a blank locale", "Foo", " "}),
+                      BadArguments{"a product of spaces", "   ", "en"},
+                      BadArguments{"a locale of one space", "Foo", " "}),
     testing::SentenceOf());
 
 struct Configured {
@@ -172,8 +172,8 @@ INSTANTIATE_TEST_SUITE_P(
                       ViewerIds{"no application drops the publisher too", "",
                                 "VELMO.1", kDefaultStore, "", "VELMO.1"},
                       ViewerIds{"neither id", "", "", kDefaultStore, "", ""},
-                      ViewerIds{"a viewer called NULL is none", "NULL",
-                                "VELMO.1", kDefaultStore, "", ""},
+                      ViewerIds{"the application id NULL means no viewer",
+                                "NULL", "VELMO.1", kDefaultStore, "", ""},
                       ViewerIds{"in any letter case", "nUlL", "VELMO.1",
                                 kDefaultStore, "", ""},
                       ViewerIds{"an id with formatting characters", "%s%n",

@@ -1,4 +1,4 @@
-// What OpenURL asks the machine, in which order, and what it leaves behind.
+// What OpenURL asks the machine, in which order, and the state afterwards.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -80,8 +80,8 @@ TEST(OpenUrlOrder, AsksNothingForABadArgument) {
   EXPECT_THAT(world.Questions(), IsEmpty());
 }
 
-/// The default viewer is taken and looked up whatever the configuration read
-/// has answered.
+/// The viewer is looked up, by the default ids, even after a configuration read
+/// that failed.
 TEST(OpenUrlOrder, LooksForTheViewerThoughTheConfigurationIsGone) {
   ClientWorld world;
   world.Install();

@@ -1,4 +1,4 @@
-// What OpenURL answers and shows.
+// What OpenURL returns and shows.
 #include <gtest/gtest.h>
 
 #include "tests/support/client_world.h"
@@ -16,7 +16,7 @@ void Nothing(ClientWorld&) {}
 
 struct Story {
   const char* sentence;
-  /// Told before the client is initialised, and after.
+  /// Set up before the client is initialised, and after.
   void (*given)(ClientWorld&);
   void (*then)(ClientWorld&);
   const char* url;
@@ -43,7 +43,7 @@ INSTANTIATE_TEST_SUITE_P(
               Nothing,
               "http://x/y",
               {0, {"StartProgram ~/Viewer URL Foo en_US \"\"http://x/y\"\""}}},
-        Story{"blanks stay blanks",
+        Story{"spaces stay spaces",
               [](ClientWorld& world) { world.InstallWorkingViewer(); },
               Nothing,
               "http://x/a b.html",
@@ -82,7 +82,7 @@ INSTANTIATE_TEST_SUITE_P(
                             Nothing,
                             "http://x/y",
                             {0, {"OpenInBrowser http://x/y"}}},
-                      Story{"blanks are escaped",
+                      Story{"spaces are escaped",
                             [](ClientWorld& world) { world.StartBrowsers(); },
                             Nothing,
                             "http://x/a b.html",
@@ -135,11 +135,11 @@ INSTANTIATE_TEST_SUITE_P(
     ::testing::Values(
         Story{"no URL", Nothing, Nothing, nullptr, {3, {}}},
         Story{"an empty URL", Nothing, Nothing, "", {3, {}}},
-        Story{"blanks", Nothing, Nothing, "   ", {3, {}}},
+        Story{"spaces", Nothing, Nothing, "   ", {3, {}}},
         Story{"a page id", Nothing, Nothing, "page.html", {3, {}}},
         Story{"a scheme in capitals", Nothing, Nothing, "HTTP://x", {3, {}}},
         Story{"another scheme", Nothing, Nothing, "mailto:x", {3, {}}},
-        Story{"a leading blank", Nothing, Nothing, " http://x", {3, {}}},
+        Story{"a leading space", Nothing, Nothing, " http://x", {3, {}}},
         Story{"a configuration removed since",
               Nothing,
               [](ClientWorld& world) {

@@ -1,4 +1,4 @@
-// What a search asks the machine, in which order, and what it leaves behind.
+// What a search asks the machine, in which order, and the state afterwards.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -109,7 +109,7 @@ TEST(SearchInitialises, AndRefusesWhatItCannotRead) {
   EXPECT_EQ(world.state().locale, "en_US");
 }
 
-/// A product of blanks is an argument that the initialisation refuses (1), not
+/// A product of spaces is an argument that the initialisation refuses (1), not
 /// a configuration that failed (6, 7): the search goes on with what there is.
 TEST(SearchInitialises, AndGoesOnWhenItsArgumentsAreRefused) {
   ClientWorld world;

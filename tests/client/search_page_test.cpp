@@ -92,7 +92,7 @@ INSTANTIATE_TEST_SUITE_P(
 INSTANTIATE_TEST_SUITE_P(
     Online, SearchPage,
     ::testing::Values(
-        Row{"straight behind the base URL",
+        Row{"directly after the base URL",
             {"http://xone/search.html"},
             true,
             "http://xone/search.html"},

@@ -1,4 +1,4 @@
-// What the two searches answer and show.
+// What the two searches return and show.
 #include <gtest/gtest.h>
 
 #include "tests/support/client_world.h"
@@ -172,7 +172,7 @@ INSTANTIATE_TEST_SUITE_P(
                               return world.SearchHelp("Foo", "en_US", "");
                             },
                             {3, {}}},
-                      Story{"a blank text",
+                      Story{"a text of spaces",
                             InViewer,
                             [](ClientWorld& world) {
                               return world.SearchHelp("Foo", "en_US", "  ");

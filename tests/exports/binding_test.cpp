@@ -11,7 +11,7 @@ namespace {
 
 using Calls = std::vector<std::string>;
 
-/// What the host was handed last.
+/// What the host got last.
 LxState* seen_state = nullptr;
 const LxRegistration* seen_functions = nullptr;
 const LxNamedIntegerTable* seen_table = nullptr;
@@ -106,7 +106,7 @@ TEST_F(Binding, LoadedTwiceRegistersTheSameTableAgain) {
 }
 
 TEST_F(Binding, DisplaysThePageOfArgumentOne) {
-  client_answer = 7;
+  client_result = 7;
   EXPECT_EQ(CallDisplay({"page"}), 1);
   EXPECT_EQ(calls, (Calls{"check 1", "display page",
                           "push 7 Display Page Return Code"}));
@@ -114,7 +114,7 @@ TEST_F(Binding, DisplaysThePageOfArgumentOne) {
 }
 
 TEST_F(Binding, InitialisesWithBothArgumentsAndCleansNothing) {
-  client_answer = 6;
+  client_result = 6;
   EXPECT_EQ(CallInitialize({"a/b", "en_US"}), 1);
   EXPECT_EQ(calls, (Calls{"check 1", "check 2", "initialize a/b en_US 0",
                           "push 6 Init Return Code"}));
@@ -122,7 +122,7 @@ TEST_F(Binding, InitialisesWithBothArgumentsAndCleansNothing) {
 }
 
 TEST_F(Binding, PushesAnAnswerThatNoRowNames) {
-  client_answer = 0xffffffff;
+  client_result = 0xffffffff;
   EXPECT_EQ(CallDisplay({"page"}), 1);
   EXPECT_EQ(calls.back(), "push 4294967295 Display Page Return Code");
 }

@@ -27,7 +27,7 @@ constexpr std::size_t kMegabyte = 1024UL * 1024UL;
 struct OddText {
   const char* sentence;
   std::string text;
-  /// Behind "http://x/", as the browser is handed it; "" where it is not.
+  /// After "http://x/", as the browser is handed it; "" where it is not.
   std::string escaped;
 };
 
@@ -155,7 +155,7 @@ TEST(HelpMapThatIsADirectory, LeavesTheClientInitialised) {
 struct Room {
   const char* sentence;
   long size;
-  long answer;
+  long result;
   /// All of the caller's memory.
   std::string_view out;
 };
@@ -164,8 +164,8 @@ class EncoderRoom : public ::testing::TestWithParam<Room> {};
 
 TEST_P(EncoderRoom, IsOneByteMoreThanTheText) {
   char out[] = "untouched";
-  const long answer = VelmoHelpEncodeURIComponent("a b", out, GetParam().size);
-  EXPECT_EQ(answer, GetParam().answer);
+  const long result = VelmoHelpEncodeURIComponent("a b", out, GetParam().size);
+  EXPECT_EQ(result, GetParam().result);
   EXPECT_EQ(std::string_view(out, sizeof out - 1), GetParam().out);
 }
 

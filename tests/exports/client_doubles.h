@@ -8,8 +8,8 @@
 
 namespace velmohelp::testing {
 
-/// What both functions answer.
-inline std::uint32_t client_answer = 0;
+/// What both functions return.
+inline std::uint32_t client_result = 0;
 
 /// Every call so far of what the binding may call, first to last.
 inline std::vector<std::string> calls;

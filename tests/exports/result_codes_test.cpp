@@ -1,4 +1,4 @@
-// Every result code, from the client's answer to what a script sees.
+// Every result code, from the client's result to what a script sees.
 #include <velmohelp/script_host.h>
 
 #include "tests/exports/client_doubles.h"
@@ -10,7 +10,7 @@ namespace {
 
 struct Row {
   std::string sentence;
-  std::uint32_t answer;
+  std::uint32_t result;
   std::string name;
 };
 
@@ -21,7 +21,7 @@ class ResultCode : public ::testing::TestWithParam<Row> {
   ResultCode() {
     private_load_LxHelp(state_);
     private_load_LxHelpWorker(state_);
-    client_answer = GetParam().answer;
+    client_result = GetParam().result;
   }
 
   std::string Seen(const std::string& call) {
@@ -31,7 +31,7 @@ class ResultCode : public ::testing::TestWithParam<Row> {
 
   static std::string Expected(const std::string& type) {
     return GetParam().name + " " + GetParam().name + " " +
-           std::to_string(GetParam().answer) + " " + type;
+           std::to_string(GetParam().result) + " " + type;
   }
 
   LuaState state_;

@@ -1,5 +1,5 @@
-// The machine fails to answer one question of a request, each in turn: what the
-// request makes of it, what is shown, and what is left in the state.
+// One question of a request to the machine fails, each in turn: the code that
+// the request returns, what is shown, and the state afterwards.
 #ifndef TESTS_FAULTS_BREAKDOWN_H_
 #define TESTS_FAULTS_BREAKDOWN_H_
 

@@ -1,4 +1,4 @@
-// What a page display makes of a machine that fails once.
+// Page displays on a machine that fails once.
 
 #include "tests/faults/breakdown.h"
 #include "tests/support/sentence.h"

@@ -1,4 +1,4 @@
-// What the other requests make of a machine that fails once.
+// The other requests on a machine that fails once.
 #include "tests/faults/breakdown.h"
 
 #include "tests/support/sentence.h"

@@ -107,7 +107,7 @@ const Change kChanges[] = {
     {"that is emptied as it is read", 2, BeEmptied, {"first"}},
     {"that is cut in half as it is read", 2, BeCutInHalf, {"first"}},
     {"that is emptied and grows again", 2, BeEmptiedAndGrowAgain, {"first"}},
-    {"that is overwritten behind the reader", 2, BeOverwritten, kBoth},
+    {"that is overwritten where it was read already", 2, BeOverwritten, kBoth},
     {"that is taken away", 1, BeTakenAway, kBoth},
     {"that is replaced by another", 1, BeReplaced, kBoth},
     {"whose name is a directory's by then", 2, BecomeADirectory, kBoth},

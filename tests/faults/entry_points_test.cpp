@@ -1,6 +1,6 @@
 // Memory runs out at each allocation of each function with C linkage, one run
-// an allocation: no exception reaches the host, the code is that of the table,
-// and the next call works. Under the sanitizers nothing is lost either.
+// per allocation: no exception reaches the host, the code is that of the table,
+// and the next call works. Under the sanitizers nothing leaks either.
 #include <gtest/gtest.h>
 #include <velmohelp/unicode.h>
 #include <velmohelp/velmohelp.h>
@@ -41,12 +41,12 @@ const EntryPoint kClient[] = {
     {"SearchHelp in the viewer", {1}, SearchText, WithViewer},
     {"SearchHelp in the browser", {1}, SearchText, Initialised},
     {"SearchHelp online", {1}, SearchText, Online},
-    // The search goes on from what the initialisation has answered.
+    // The search goes on from what the initialisation has returned.
     {"SearchHelp that initialises", {1, 4}, SearchText, AtLoad},
     {"Search", {1}, SearchByNames, WithViewer},
 };
 
-/// -2 where it has written and says that it has not.
+/// -2 when it reports a failure and has written all the same.
 long Encode() {
   static char room[64];
   std::memset(room, '#', sizeof room);

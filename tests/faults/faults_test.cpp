@@ -1,5 +1,5 @@
-// Memory runs out at each question that a request asks the machine, one run a
-// question: no exception reaches the host, and the code is a defined one.
+// Memory runs out at each question that a request asks the machine, one run
+// per question: no exception reaches the host, and the code is a defined one.
 #include <gtest/gtest.h>
 #include <velmohelp/velmohelp.h>
 
@@ -110,7 +110,7 @@ TEST(MemoryRanOut, LeavesAnInitialisationUndone) {
   EXPECT_EQ(sInitStatus, 6);
 }
 
-/// The search goes on from what the initialisation has answered.
+/// The search goes on from what the initialisation has returned.
 TEST(MemoryRanOut, InTheInitialisationOfASearchIsAMissingConfiguration) {
   ExhaustedMachine machine;
   ExportedWorld world(machine);

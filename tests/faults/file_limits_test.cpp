@@ -1,5 +1,5 @@
 // Files of exactly the longest length that is read, and one byte longer; and
-// what lies in a file's place.
+// what is in a file's place.
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
@@ -78,7 +78,7 @@ std::ptrdiff_t OpenDescriptors() {
 }
 
 struct InPlaceOf : ::testing::TestWithParam<ReaderRow> {
-  /// Reads what lies in the place of the file.
+  /// Reads what is in the place of the file.
   void ExpectNothing() {
     const std::ptrdiff_t before = OpenDescriptors();
     EXPECT_EQ(GetParam().read(folder), Keys());

@@ -1,6 +1,6 @@
 // Memory runs out at each allocation of each question to this system, one run
-// an allocation: the machine says so or cannot answer, loses no descriptor and
-// no child, and answers the next time.
+// per allocation: the machine throws or reports a failure, leaks no descriptor
+// and no child, and works the next time.
 #include <gtest/gtest.h>
 #include <unistd.h>
 
@@ -16,7 +16,7 @@ namespace {
 
 /// Puts what is asked for on the machine, and returns its path or name.
 using Prepare = std::string (*)(World& world);
-/// The answer is the right one.
+/// Whether the machine returns the right result.
 using Ask = bool (*)(Machine& machine, const std::string& asked);
 
 struct Question {

@@ -1,4 +1,4 @@
-// Entry points, and what they answer when memory runs out.
+// Entry points, and what they return when out of memory.
 #ifndef TESTS_FAULTS_MEMORY_RUNS_OUT_H_
 #define TESTS_FAULTS_MEMORY_RUNS_OUT_H_
 
@@ -13,7 +13,7 @@
 
 namespace velmohelp::testing {
 
-/// Where the client stands before a call: as at load, or initialised on a
+/// The client before a call: as at load, or initialised on a
 /// machine with a browser alone, with a viewer too, or with a network too.
 void AtLoad(ClientWorld& world);
 void Initialised(ClientWorld& world);
@@ -22,12 +22,12 @@ void Online(ClientWorld& world);
 
 struct EntryPoint {
   const char* sentence;
-  /// Each answer that the call has when memory runs out; none where it takes
-  /// no memory.
+  /// Each code that the call returns when out of memory; none where it
+  /// allocates nothing.
   std::set<long> codes_of_exhaustion;
   long (*call)();
   void (*prepare)(ClientWorld&) = AtLoad;
-  /// What it answers with memory enough.
+  /// What it returns when there is enough memory.
   long code = 0;
 };
 

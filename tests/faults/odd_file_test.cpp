@@ -1,4 +1,4 @@
-// Files that break while they are read, and files whose size lies.
+// Files that break while they are read, and files that report a wrong size.
 #include <gtest/gtest.h>
 #include <sys/prctl.h>
 #include <velmohelp/config.h>

@@ -20,7 +20,7 @@ using testing::ExportedWorld;
 using testing::Outcome;
 
 /// Something happens to a file at the first question that ends with a word; the
-/// machine answers as if nothing had.
+/// machine returns what it would have without that.
 class InterruptedMachine : public ScriptedMachine {
  public:
   void At(const std::string& word, void (*happen)(const std::string& path),
@@ -105,8 +105,8 @@ const Outcome kUnexpected = {11, {}};
 
 void StayAsItIs(const std::string& /*path*/) {}
 
-// The installed configuration stands in for a downloaded one, preferences that
-// are gone refuse nothing, and the last resort takes an unknown page.
+// The installed configuration replaces a downloaded one, preferences that are
+// gone refuse nothing, and the last resort shows an unknown page.
 const Interruption kInterruptions[] = {
     {"a help map stays", Map, StayAsItIs, kPageInBrowser},
     {"a download stays", Download, StayAsItIs, kIdInViewer},

@@ -1,5 +1,5 @@
-// A base URL file: its lines, their fields and its URL are the slow rules', the
-// mistake in these included.
+// A base URL file: its lines, their fields and its URL are the oracle's, the
+// mistake in the rule included.
 #include <velmohelp/resolve.h>
 
 #include "tests/fuzz/input.h"

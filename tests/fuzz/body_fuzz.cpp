@@ -1,5 +1,5 @@
 // A Content-Type in the first line, a body in the rest: it is text or not as
-// the slow rule says, wherever it is cut, and is not given up too early.
+// the oracle says, wherever it is cut, and is not given up too early.
 #include "platform/linux/helpers/text_check.h"
 #include "tests/fuzz/input.h"
 #include "tests/support/answer_oracle.h"

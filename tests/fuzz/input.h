@@ -30,10 +30,10 @@ class Input {
   std::string rest_;
 };
 
-/// A file that no disk is worn by.
+/// A file in memory: the fuzzer writes no disk.
 class FileInMemory {
  public:
-  /// The path at which the bytes then lie.
+  /// Replaces the bytes; returns the path of the file.
   std::string Write(const std::string& bytes) {
     if (ftruncate(file_, 0) != 0 ||
         pwrite(file_, bytes.data(), bytes.size(), 0) < 0) {
@@ -46,7 +46,7 @@ class FileInMemory {
   int file_ = memfd_create("fuzz", MFD_CLOEXEC);
 };
 
-/// Tells both values and ends the program when they differ: a finding.
+/// Prints both values and ends the program when they differ: a finding.
 template <typename Got, typename Expected>
 void Same(const Got& got, const Expected& expected) {
   if (got == expected) return;

@@ -1,5 +1,5 @@
 // A key in the first line, a configuration file in the rest. What a parser
-// finds is what the slow one finds; a scan without end is not entered.
+// finds is what the oracle finds; a scan without end is not entered.
 #include <velmohelp/config.h>
 
 #include "tests/fuzz/input.h"

@@ -1,4 +1,4 @@
-// A key in the first line, a help map in the rest: the slow rules' entries are
+// A key in the first line, a help map in the rest: the oracle's entries are
 // found, and loaded over another map's, across a file's pieces too.
 #include <velmohelp/resolve.h>
 

@@ -1,5 +1,5 @@
-// A folder in the first line, a page id in the rest: both are what the slow
-// rules make of them, joined and apart.
+// A folder in the first line, a page id in the rest: each alone and both joined
+// give what the oracle gives.
 #include <velmohelp/resolve.h>
 #include <velmohelp/text.h>
 

@@ -1,5 +1,5 @@
 // What another program writes: as the tool's output it names the viewer, as a
-// helper's answer it is a command line; each is what the oracles see.
+// helper's answer it is a command line; each is what its oracle gives.
 #include "platform/help_tool.h"
 #include "platform/linux/browser_command.h"
 #include "platform/scripted/scripted_machine.h"

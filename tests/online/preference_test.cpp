@@ -119,9 +119,9 @@ const Row kValues[] = {
     {"one is on", "1", true},
     {"an empty text is on", "", true},
     {"two zeros are on", "00", true},
-    {"a blank before zero is on", " 0", true},
-    {"a blank behind zero is on", "0 ", true},
-    {"a line feed behind zero is on", "0\n", true},
+    {"a space before zero is on", " 0", true},
+    {"a space after zero is on", "0 ", true},
+    {"a line feed after zero is on", "0\n", true},
     {"yes is on", "yes", true},
     {"no is on", "no", true},
     {"false is on", "false", true},
@@ -131,7 +131,7 @@ const Row kValues[] = {
 INSTANTIATE_TEST_SUITE_P(Values, OnlineValue, ::testing::ValuesIn(kValues),
                          SentenceOf());
 
-/// A machine whose preferences cannot even be told to be missing.
+/// A machine that throws when it is asked for a preference.
 class ThrowingMachine : public ScriptedMachine {
  public:
   std::optional<std::string> Preference(const std::string&, const std::string&,

@@ -1,4 +1,4 @@
-// scripts/install-packages among stand-ins for the programs that it runs.
+// scripts/install-packages with fakes of the programs that it runs.
 #include <gtest/gtest.h>
 
 #include <cstdlib>
@@ -36,7 +36,7 @@ struct Row {
 
 void PrintTo(const Row& row, std::ostream* out) { *out << row.sentence; }
 
-// The stand-ins. They append what root is asked to do to a file.
+// The fakes. They append what root is asked to do to a file.
 constexpr char kDpkgQuery[] = R"(sed -n "s/^$4 //p" "$FOLDER/packages")";
 constexpr char kSudo[] = R"(
   [ -e "$FOLDER/sudo-refuses" ] && exit 1

@@ -10,7 +10,7 @@
 namespace velmohelp::testing {
 namespace {
 
-/// The pieces between separators; what stands behind the last one is a piece.
+/// The pieces between separators; the text after the last one is a piece.
 std::vector<std::string> Pieces(const std::string& text, char separator) {
   std::vector<std::string> pieces(1);
   for (const char byte : text) {
@@ -23,11 +23,11 @@ std::vector<std::string> Pieces(const std::string& text, char separator) {
   return pieces;
 }
 
-std::string Trimmed(std::string text, const std::string& blanks) {
-  while (!text.empty() && blanks.find(text.front()) != std::string::npos) {
+std::string Trimmed(std::string text, const std::string& spaces) {
+  while (!text.empty() && spaces.find(text.front()) != std::string::npos) {
     text.erase(0, 1);
   }
-  while (!text.empty() && blanks.find(text.back()) != std::string::npos) {
+  while (!text.empty() && spaces.find(text.back()) != std::string::npos) {
     text.pop_back();
   }
   return text;
@@ -58,20 +58,20 @@ bool BeginsWith(const std::string& start, const std::string& text) {
 
 std::optional<std::string> OraclePreference(const std::string& file,
                                             const std::string& key) {
-  const std::string blanks = " \t\r\v\f";
+  const std::string spaces = " \t\r\v\f";
   const bool is_marked = BeginsWith("\xEF\xBB\xBF", file);
   std::string group;
   std::optional<std::string> value;
   for (const std::string& piece :
        Pieces(file.substr(is_marked ? 3 : 0), '\n')) {
-    const std::string line = Trimmed(piece, blanks);
+    const std::string line = Trimmed(piece, spaces);
     const std::size_t sign = line.find('=');
     if (BeginsWith("[", line)) {
       group = line;
     } else if (sign != std::string::npos && !BeginsWith("#", line) &&
                group == "[Preferences]" &&
-               Trimmed(line.substr(0, sign), blanks) == key) {
-      value = Trimmed(line.substr(sign + 1), blanks);
+               Trimmed(line.substr(0, sign), spaces) == key) {
+      value = Trimmed(line.substr(sign + 1), spaces);
     }
   }
   const bool is_text =

@@ -1,4 +1,5 @@
-// What other programs and files say, read a second time, slow and obvious.
+// Oracles for what other programs and files say: second implementations, slow
+// and obvious.
 #ifndef TESTS_SUPPORT_ANSWER_ORACLE_H_
 #define TESTS_SUPPORT_ANSWER_ORACLE_H_
 

@@ -158,11 +158,11 @@ void ClientWorld::Initialise() {
 }
 
 std::vector<std::string> ClientWorld::Questions() const {
-  std::vector<std::string> told;
+  std::vector<std::string> questions;
   for (const std::string& question : machine_.Questions()) {
-    told.push_back(Told(question));
+    questions.push_back(Abbreviated(question));
   }
-  return told;
+  return questions;
 }
 
 std::vector<std::string> ClientWorld::Shown() const {
@@ -182,7 +182,7 @@ std::string ClientWorld::ViewerStore() const {
   return Preferences() + "/reader.VELMO.1/Local Store/";
 }
 
-std::string ClientWorld::Told(std::string text) const {
+std::string ClientWorld::Abbreviated(std::string text) const {
   text = Replaced(std::move(text), root_, "~");
   text = Replaced(std::move(text), kInstalledHelpDir, "/Help/");
   return Replaced(std::move(text), OwnName(""), "");

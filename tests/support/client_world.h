@@ -92,7 +92,7 @@ class ClientWorld {
   void GoOnline();
 
   /// Initialises the client for Foo in en_US; fails the test unless that
-  /// succeeds. Then forgets what the machine was asked for it.
+  /// succeeds. Then forgets the questions that it asked.
   void Initialise();
 
   /// What the machine was asked; and of that only what was put on the screen.
@@ -104,7 +104,7 @@ class ClientWorld {
   std::string Viewer() const;
   std::string Preferences() const { return root_ + "/Preferences"; }
   std::string ViewerStore() const;
-  std::string Told(std::string text) const;
+  std::string Abbreviated(std::string text) const;
   Client client() { return {*client_machine_, state_}; }
 
   ScriptedMachine own_machine_;

@@ -14,7 +14,7 @@
 
 namespace velmohelp::testing {
 
-/// What ValidateID answers, and what it leaves in its out string.
+/// What ValidateID returns, and what it leaves in its out string.
 struct Target {
   int code;
   std::string out;
@@ -52,7 +52,7 @@ class ContentFolders : public OnScriptedMachine {
   static std::string Installed(const std::string& name) {
     return kInstalledHelpDir + ("/" + Folder(name));
   }
-  /// The base URL of a folder, and what lies below it.
+  /// The URL of a page in a folder.
   static std::string Online(const std::string& name, const std::string& page) {
     return "http://localhost/base/" + Folder(name) + "/" + page;
   }

@@ -8,7 +8,7 @@
 namespace velmohelp::testing {
 
 /// A folder name that no other process uses, beginning with a word: installed
-/// content lies in a folder that all tests of a build tree share.
+/// content is in a folder that all tests of a build tree share.
 std::string OwnName(const std::string& word);
 
 /// A content folder's row.

@@ -38,8 +38,8 @@ class HttpServer {
 };
 
 /// A whole response: "200 OK", header lines each with its CR LF, and a body
-/// whose length is declared. Says that the connection is closed behind it: a
-/// client that asks again on one gives up after a few that were.
+/// whose length is declared. Says that the connection is closed after it:
+/// otherwise a client asks again on the closed one, and gives up after a few.
 std::string Response(const std::string& status, const std::string& headers,
                      const std::string& body);
 

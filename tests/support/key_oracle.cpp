@@ -5,8 +5,7 @@
 namespace velmohelp::testing {
 namespace {
 
-bool StandsAt(std::size_t at, const std::string& word,
-              const std::string& text) {
+bool IsAt(std::size_t at, const std::string& word, const std::string& text) {
   return text.compare(at, word.size(), word) == 0;
 }
 
@@ -14,21 +13,21 @@ std::vector<std::size_t> PlacesOf(const std::string& word,
                                   const std::string& text) {
   std::vector<std::size_t> places;
   for (std::size_t at = 0; at + word.size() <= text.size(); ++at) {
-    if (StandsAt(at, word, text)) places.push_back(at);
+    if (IsAt(at, word, text)) places.push_back(at);
   }
   return places;
 }
 
-/// Goes on to the next such byte; the end of the text when there is none.
+/// The position of the next such byte; the end of the text without one.
 std::size_t Next(char byte, std::size_t at, const std::string& text) {
   while (at < text.size() && text[at] != byte) ++at;
   return at;
 }
 
-/// The value begins two bytes behind the word, and ends at a quote which
-/// stands behind its first byte and not behind a backslash.
-std::optional<std::string> ValueBehind(std::size_t word_end,
-                                       const std::string& text) {
+/// The value begins two bytes after the word, and ends before the first quote
+/// that is not its first byte and has no backslash before it.
+std::optional<std::string> ValueAfter(std::size_t word_end,
+                                      const std::string& text) {
   std::string value;
   for (std::size_t at = word_end + 2; at < text.size(); ++at) {
     if (text[at] == '"' && !value.empty() && value.back() != '\\') return value;
@@ -43,7 +42,7 @@ int Fill(const std::string& word, std::size_t skipped, const std::string& text,
   int filled = 0;
   for (std::size_t i = skipped; i < places.size(); ++i) {
     if (static_cast<std::size_t>(filled) == column.size()) break;
-    const auto value = ValueBehind(places[i] + word.size(), text);
+    const auto value = ValueAfter(places[i] + word.size(), text);
     if (!value) break;
     column[static_cast<std::size_t>(filled++)] = *value;
   }

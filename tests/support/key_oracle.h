@@ -1,5 +1,5 @@
-// The key scanner's rules a second time, slow and obvious: one byte after the
-// other, as they are told.
+// The oracle of the key scanner: a second implementation, slow and obvious, one
+// byte after the other.
 #ifndef TESTS_SUPPORT_KEY_ORACLE_H_
 #define TESTS_SUPPORT_KEY_ORACLE_H_
 
@@ -8,8 +8,8 @@
 
 namespace velmohelp::testing {
 
-/// What a parser's buffer holds of a file: of each piece of 1023 bytes, what
-/// stands before its first zero byte.
+/// What a parser's buffer holds of a file: of each piece of 1023 bytes, the
+/// bytes before its first zero byte.
 std::string OracleBuffer(const std::string& file);
 
 /// See XMLParser::GetKey; nullopt when the scan never ends, which a caller of

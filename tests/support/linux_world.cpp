@@ -67,8 +67,8 @@ class LinuxWorld : public World {
 
  private:
   static std::string Escaped(std::string url) {
-    for (std::size_t blank = 0; (blank = url.find(' ')) != std::string::npos;) {
-      url.replace(blank, 1, "%20");
+    for (std::size_t space = 0; (space = url.find(' ')) != std::string::npos;) {
+      url.replace(space, 1, "%20");
     }
     return url;
   }

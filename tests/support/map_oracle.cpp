@@ -3,7 +3,7 @@
 namespace velmohelp::testing {
 namespace {
 
-/// Positions as the rule counts with them: -1 is none.
+/// A position as the rule calculates with it; -1 when the word is not found.
 long Find(const std::string& word, const std::string& text) {
   for (std::size_t at = 0; at + word.size() <= text.size(); ++at) {
     if (text.substr(at, word.size()) == word) return static_cast<long>(at);
@@ -11,7 +11,7 @@ long Find(const std::string& word, const std::string& text) {
   return -1;
 }
 
-/// The rule's three sentences on "%", one after the other.
+/// The three cases of the rule on "%", one after the other.
 bool IsZoneSeparatorReplaced(long bracket, long percent, long encoded) {
   const bool encoded_before_bracket = encoded <= bracket - 1;
   if (percent >= 0 && encoded < 0) return true;

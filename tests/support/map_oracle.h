@@ -1,5 +1,5 @@
-// The rules of help map files and base URL files a second time, slow and
-// obvious: line by line, field by field, entry by entry.
+// The oracle of help map files and base URL files: a second implementation,
+// slow and obvious, line by line, field by field, entry by entry.
 #ifndef TESTS_SUPPORT_MAP_ORACLE_H_
 #define TESTS_SUPPORT_MAP_ORACLE_H_
 
@@ -11,7 +11,7 @@
 
 namespace velmohelp::testing {
 
-/// See ITEMInternal::GetLine: what it delivers of a file until it says false.
+/// See ITEMInternal::GetLine: the lines of a file until it returns false.
 std::vector<std::string> OracleLines(const std::string& file);
 
 /// See ITEMInternal::DelimitedStringToDeque.

@@ -19,7 +19,7 @@ bool OracleIsHtmlPage(const std::string& name) {
   return EndsWith(".html", name) || EndsWith(".htm", name);
 }
 
-/// The rule as it is told: back to the start after each replacement.
+/// Starts again at the first byte after each replacement.
 std::string OraclePageId(std::string id) {
   const std::string allowed =
       "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ1234567890_-.";

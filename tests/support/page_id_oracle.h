@@ -1,4 +1,4 @@
-// The rules of page ids and paths a second time, slow and obvious.
+// The oracle of page ids and paths: a second implementation, slow and obvious.
 #ifndef TESTS_SUPPORT_PAGE_ID_ORACLE_H_
 #define TESTS_SUPPORT_PAGE_ID_ORACLE_H_
 

@@ -10,7 +10,7 @@ namespace velmohelp::testing {
 
 class RandomText {
  public:
-  /// Texts of bytes out of an alphabet; a byte that stands there twice comes
+  /// Texts of bytes out of an alphabet; a byte that is there twice comes
   /// twice as often.
   explicit RandomText(std::string alphabet) : alphabet_(std::move(alphabet)) {}
 

@@ -9,7 +9,7 @@
 
 namespace velmohelp::testing {
 
-/// "a blank page id is refused" -> "a_blank_page_id_is_refused"
+/// "an empty page id is refused" -> "an_empty_page_id_is_refused"
 inline std::string AsTestName(std::string sentence) {
   for (char& c : sentence) {
     if (std::isalnum(static_cast<unsigned char>(c)) == 0) c = '_';

@@ -19,7 +19,7 @@ std::string Printed(const char* format, char byte) {
   return text;
 }
 
-/// What stands before the first such byte: all of the text without one.
+/// The text before the first such byte; all of it without one.
 std::string Before(char byte, const std::string& text) {
   return text.substr(0, text.find(byte));
 }
@@ -112,8 +112,7 @@ std::string OracleEncodedTerm(const std::string& text) {
   return encoded;
 }
 
-/// Its bytes are legal and their characters are no surrogates: strict UTF-16
-/// takes them.
+/// Its sequences are legal and none is a surrogate: strict UTF-16 accepts it.
 bool OracleIsUtf8(const std::string& text) {
   const auto* bytes = reinterpret_cast<const ITEMUTF8*>(text.data());
   std::vector<ITEMUTF16> units(text.size() + 1);

@@ -1,5 +1,5 @@
-// The generic URI syntax (RFC 3986) and the encoders a second time, slow and
-// obvious: parts are taken off from the end, as its appendix B has them.
+// The generic URI syntax (RFC 3986) and the encoders: oracles, slow and
+// obvious. Parts are taken off from the end, as its appendix B has them.
 #ifndef TESTS_SUPPORT_URI_ORACLE_H_
 #define TESTS_SUPPORT_URI_ORACLE_H_
 

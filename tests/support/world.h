@@ -11,7 +11,7 @@
 namespace velmohelp::testing {
 
 /// A machine and the means to put things on it. Names are relative to its
-/// root, where nothing lies at first; functions return the whole path.
+/// root, which is empty at first; functions return the whole path.
 class World {
  public:
   virtual ~World() = default;

@@ -1,5 +1,5 @@
-// Programs that are not there, break or lie: the tool, the viewer, the browser
-// and the library's own helpers; and servers of that kind.
+// Programs that are missing, crash or report nonsense: the tool, the viewer,
+// the browser and the library's own helpers; and servers of that kind.
 #include <csignal>
 
 #include "tests/system/routes.h"
@@ -11,7 +11,7 @@ const Change kPage = File("{installed}/intro.html");
 const Words kInViewer = Viewer("HELP", "\"{url:installed}/intro.html\"");
 const Words kInBrowser = Browser("{url:installed}/intro.html");
 
-/// A tool whose answer to "where is the viewer" is in shell script.
+/// A tool that runs these shell commands when it is asked for the viewer.
 Change Location(const std::string& lines) {
   return [=](HelpWorld& world) {
     world.WriteTool("test $1 = -appLocation || exit 0\n" +
@@ -58,8 +58,9 @@ INSTANTIATE_TEST_SUITE_P(
                  Location("echo '{bin}/../Viewer.app' >/dev/null"))),
     SentenceOf());
 
-/// The person at the keyboard need not wait for a tool that has answered.
-TEST(AToolThatNeverEnds, HasAnsweredAllTheSame) {
+/// The person at the keyboard need not wait for a tool that has printed the
+/// path.
+TEST(AToolThatNeverEnds, IsNotWaitedForOnceItHasPrinted) {
   HelpWorld world;
   Location("echo '{bin}/../Viewer.app'; exec sleep 1000")(world);
   kPage(world);
@@ -160,7 +161,7 @@ INSTANTIATE_TEST_SUITE_P(
         WithServer("one that resets", HttpServer::kReset),
         WithServer("one that says nothing", ""),
         WithServer("one that speaks no HTTP", "hello"),
-        WithServer("one that redirects for ever", Redirect("intro.html")),
+        WithServer("one that redirects forever", Redirect("intro.html")),
         WithServer("one that redirects to a file",
                    Redirect("file:///etc/passwd")),
         WithServer("one that sends binary",

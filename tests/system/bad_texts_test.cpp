@@ -87,7 +87,7 @@ INSTANTIATE_TEST_SUITE_P(
              "2fpasswd",
              "../../../../../../etc/passwd"},
         Text{"a quote", "a\"b'c", "a%22b'c", "a%22b'c"},
-        Text{"a command behind quotes", "\"; : > made; '; : > made",
+        Text{"a command after quotes", "\"; : > made; '; : > made",
              "%22%3b%20%3a%20%3e%20made%3b%20'%3b%20%3a%20%3e%20made",
              "%22;%20:%20%3E%20made;%20';%20:%20%3E%20made"},
         Text{"a command to substitute", "$(:>made)`:>made`",

@@ -54,7 +54,7 @@ int DebuggingPort(const HelpWorld& world) {
   return text.find('\n') == std::string::npos ? 0 : std::stoi(text);
 }
 
-/// In each target's description the title stands before the URL.
+/// In each target's description the title comes before the URL.
 std::optional<std::string> TitleIn(const std::string& targets,
                                    const std::string& url) {
   const std::string title = "\"title\": \"";

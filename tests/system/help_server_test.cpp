@@ -1,4 +1,4 @@
-// The help server: what its answers make of a page, over http, https and
+// The help server: which of its responses show a page, over http, https and
 // through a proxy.
 #include <sys/resource.h>
 #include <sys/wait.h>
@@ -45,10 +45,10 @@ class AServer : public ::testing::Test {
   }
   int port() const { return http_.port(); }
 
-  /// What the server answers to a request for the page "intro".
+  /// What the server sends for a request for the page "intro".
   void Answer(const std::string& response) { response_ = response; }
 
-  /// Displays the page of the server at a URL; the answer.
+  /// Displays the page of the server at a URL; returns the code.
   std::string Display(const std::string& url) {
     world_.config().base_url = url;
     world_.Configure();

@@ -16,7 +16,7 @@ namespace fs = std::filesystem;
 constexpr char kFramework[] =
     "Frameworks/com.velmo.vxclientframework.framework/Versions/A/Resources/";
 
-/// Worlds have blanks in their paths, and nothing else that a URL escapes.
+/// Worlds have spaces in their paths, and nothing else that a URL escapes.
 std::string AsUrl(const std::string& path) {
   std::string url = "file://";
   for (const char c : path) {

@@ -57,13 +57,13 @@ class HelpWorld {
 
   /// What the tool does, in shell script, by its first argument $1.
   void WriteTool(const std::string& lines) const;
-  /// What the tool answers.
+  /// What the tool says of the runtime and the viewer.
   void AnswerTool(bool runtime, bool viewer) const;
 
   void SetUserPreference(const std::string& value) const;
   void InstallBrowser(const std::string& exec_line) const;
 
-  /// Bytes that the server answers for a path; 404 for all others.
+  /// Bytes that the server sends for a path; 404 for all others.
   void Serve(const std::string& path, const std::string& response);
 
   /// Called, on the server's thread, for every request that it gets. To be set

@@ -33,7 +33,7 @@ class HostProcess {
   HostProcess& operator=(const HostProcess&) = delete;
   ~HostProcess();
 
-  /// Makes a request; what was answered, or "dead".
+  /// Makes a request; returns its result, or "dead".
   std::string Ask(const Words& request) const;
 
   /// Ends the host as a person would, and waits for it; its exit status, -1

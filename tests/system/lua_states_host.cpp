@@ -1,5 +1,5 @@
 // A host with two script states: loads the client that its argument names into
-// both, and prints what each of them is answered.
+// both, and prints the result in each.
 #include <dlfcn.h>
 #include <velmohelp/script_host.h>
 

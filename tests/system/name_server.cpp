@@ -14,7 +14,7 @@ namespace {
 constexpr std::size_t kHeaderSize = 12;
 constexpr char kTypeOfAddress = 1;
 
-/// The record behind the question: its name is the one at byte 12.
+/// The record after the question: its name is the one at byte 12.
 constexpr unsigned char kRecord[] = {0xC0, kHeaderSize, 0, 1, 0,   1, 0, 0,
                                      0,    4,           0, 4, 127, 0, 0, 1};
 

@@ -4,7 +4,7 @@
 
 namespace velmohelp::testing {
 
-/// What it has to say to every question.
+/// Its answer to every question.
 enum class NameAnswer {
   kNothing,
   /// 127.0.0.1.
@@ -15,7 +15,7 @@ enum class NameAnswer {
 };
 
 /// Starts one at 127.0.0.1, as a child of this process that ends with it. False
-/// when there is no place for it.
+/// when it cannot listen there.
 bool StartNameServer(NameAnswer answer);
 
 }  // namespace velmohelp::testing

@@ -13,12 +13,12 @@ struct Place {
   const char* sentence;
   Changes changes;
   /// Where what was found goes, and what a display, an opening and a search
-  /// then answer.
+  /// then return.
   Goes goes;
   const char* display;
   const char* open;
   const char* search;
-  /// What a display answers where neither the page nor a home page is: the
+  /// What a display returns where neither the page nor a home page is: the
   /// viewer gets the page id, with "0", where it can be started at all.
   const char* last_resort;
   bool names_viewer = true;
@@ -74,7 +74,7 @@ std::vector<Place> Places() {
        "0",
        "0",
        "0"},
-      {"a viewer that is no program",
+      {"a viewer that is not a program",
        {Program("{viewer}", "no program")},
        nowhere,
        "1",
@@ -167,7 +167,7 @@ std::vector<Content> Contents() {
        "{url:installed}/home.html",
        "{server}/page",
        2},
-      {"a map with a URL that does not answer",
+      {"a map with a URL that cannot be fetched",
        {File("{installed}/helpmap.txt", kMapWithAUrl)},
        "{url:installed}/home.html",
        "{server}/{folder}/home.html",

@@ -85,13 +85,13 @@ void TlsFront::Talk(int connection) const {
   BlockBrokenPipes();
   SSL_set_fd(secret.get(), connection);
   if (SSL_accept(secret.get()) != 1) return;
-  const int behind = ConnectToLoopback(port_);
-  if (Join(Secret(secret.get()), Plain(behind)) < 0) {
+  const int server = ConnectToLoopback(port_);
+  if (Join(Secret(secret.get()), Plain(server)) < 0) {
     MakeCloseReset(connection);
   } else {
     SSL_shutdown(secret.get());
   }
-  close(behind);
+  close(server);
 }
 
 LoopbackServer::Talk TunnelTo(int port) {
@@ -101,9 +101,9 @@ LoopbackServer::Talk TunnelTo(int port) {
       return;
     }
     SendAll(connection, "HTTP/1.1 200 OK\r\n\r\n");
-    const int behind = ConnectToLoopback(port);
-    Join(Plain(connection), Plain(behind));
-    close(behind);
+    const int server = ConnectToLoopback(port);
+    Join(Plain(connection), Plain(server));
+    close(server);
   };
 }
 

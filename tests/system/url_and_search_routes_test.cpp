@@ -47,12 +47,12 @@ INSTANTIATE_TEST_SUITE_P(
                             Open("http://localhost/"),
                             "0",
                             Browser("http://localhost/")},
-                      Route{"without the runtime there is no viewer",
+                      Route{"a missing runtime means the browser",
                             {Tool(false, true)},
                             Open("http://localhost/"),
                             "0",
                             Browser("http://localhost/")},
-                      Route{"a viewer that is no program",
+                      Route{"a viewer that is not a program",
                             {Program("{viewer}", "no program")},
                             Open("http://localhost/"),
                             "2",
@@ -62,8 +62,7 @@ INSTANTIATE_TEST_SUITE_P(
                             Open("http://localhost/"),
                             "1",
                             Nothing()},
-                      Route{
-                          "what is no URL", {}, Open("intro"), "3", Nothing()},
+                      Route{"a page id", {}, Open("intro"), "3", Nothing()},
                       Route{"an empty URL", {}, Open(""), "3", Nothing()}),
     SentenceOf());
 
@@ -104,7 +103,7 @@ INSTANTIATE_TEST_SUITE_P(
               Search("x"),
               "0",
               Browser("{url:installed}/search.html?q=x")},
-        Route{"a viewer that is no program",
+        Route{"a viewer that is not a program",
               {Program("{viewer}", "no program")},
               Search("x"),
               "1",
@@ -120,7 +119,7 @@ INSTANTIATE_TEST_SUITE_P(
               Search("x"),
               "7",
               Nothing()},
-        Route{"a blank text", {}, Search("  "), "3", Nothing()}),
+        Route{"a text of spaces", {}, Search("  "), "3", Nothing()}),
     SentenceOf());
 
 /// The host's own name for its configuration, set by the administrator.

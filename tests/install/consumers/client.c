@@ -1,5 +1,5 @@
 /* A pure C program over the C interface. It never initialises the client, so
- * that no answer depends on the machine it runs on. */
+ * that no result depends on the machine that it runs on. */
 #include <stdio.h>
 #include <velmohelp/velmohelp.h>
 
@@ -14,7 +14,7 @@ static void Expect(const char* what, long wanted, long got) {
 int main(void) {
   char encoded[16];
   Expect("the version", 0x10500, GetVelmoHelpClientVersion());
-  Expect("a blank product id", kInitInvalidArgument,
+  Expect("a product id of one space", kInitInvalidArgument,
          InitializeVelmoHelpClient(" ", "en_US", 0));
   Expect("the status before an initialisation", 2,
          GetVelmoHelpClientOnlineStatus());
@@ -22,7 +22,7 @@ int main(void) {
          DisplayVelmoHelpClientPage("intro"));
   Expect("a URL before an initialisation", kDisplayInvalidInitialization,
          OpenURL("https://example.com/"));
-  Expect("a search for blanks", kDisplayInvalidArgument,
+  Expect("a search for a space", kDisplayInvalidArgument,
          SearchHelp("Sketch", "en_US", " "));
   Expect("a search for a product without a name", 8,
          Search("", "", "en_US", "lines"));

@@ -4,7 +4,7 @@ function(velmo_install)
     COMMAND_ERROR_IS_FATAL ANY)
 endfunction()
 
-# velmo_installed_files(VARIABLE): what lies below STAGE.
+# velmo_installed_files(VARIABLE): the files below STAGE.
 function(velmo_installed_files out)
   file(GLOB_RECURSE files "${STAGE}/*")
   set(${out} "${files}" PARENT_SCOPE)

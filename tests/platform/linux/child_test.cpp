@@ -302,7 +302,8 @@ INSTANTIATE_TEST_SUITE_P(
     Rows, LoaderPath,
     ::testing::Values(
         LoaderPathRow{"a saved path comes back", "/bundle", "/own", "/own"},
-        LoaderPathRow{"an empty saved path means none", "/bundle", "", nullptr},
+        LoaderPathRow{"an empty saved path means no path", "/bundle", "",
+                      nullptr},
         LoaderPathRow{"a path that nobody saved stays", "/own", nullptr,
                       "/own"},
         LoaderPathRow{"a saved path comes back where there is none", nullptr,

@@ -413,7 +413,7 @@ INSTANTIATE_TEST_SUITE_P(
                 "/x/a"},
         MapsRow{"of a file that was replaced",
                 "1000-3000 r--p 00000000 08:01 7 /x/a (deleted)\n", "/x/a"},
-        MapsRow{"behind the end of a mapping",
+        MapsRow{"after the end of a mapping",
                 "1000-2000 r--p 00000000 08:01 7 /x/a\n",
                 {}},
         MapsRow{

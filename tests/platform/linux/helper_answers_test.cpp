@@ -1,4 +1,4 @@
-// What is made of what a helper does.
+// What the library makes of a helper's answer, and of none.
 #include "platform/linux/helper_answers.h"
 
 #include <gtest/gtest.h>

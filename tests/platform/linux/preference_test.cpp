@@ -27,10 +27,10 @@ INSTANTIATE_TEST_SUITE_P(
     Rows, PreferenceText,
     ::testing::Values(
         TextRow{"a plain line", "[Preferences]\nKey=0\n", "0"},
-        TextRow{"blanks around the sign", "[Preferences]\nKey = 0\n", "0"},
-        TextRow{"blanks at both ends of a line",
+        TextRow{"spaces around the sign", "[Preferences]\nKey = 0\n", "0"},
+        TextRow{"spaces at both ends of a line",
                 " [Preferences]\t\n\t Key=0 \t\n", "0"},
-        TextRow{"blanks within a value", "[Preferences]\nKey=a  b\n", "a  b"},
+        TextRow{"spaces within a value", "[Preferences]\nKey=a  b\n", "a  b"},
         TextRow{"lines that end in CR LF", "[Preferences]\r\nKey=0\r\n", "0"},
         TextRow{"no line end at the end", "[Preferences]\nKey=0", "0"},
         TextRow{"a byte order mark", "\xEF\xBB\xBF[Preferences]\nKey=0\n", "0"},
@@ -46,9 +46,9 @@ INSTANTIATE_TEST_SUITE_P(
         TextRow{"the group again after another",
                 "[Preferences]\nKey=1\n[Other]\nKey=2\n[Preferences]\nKey=0\n",
                 "0"},
-        TextRow{"a comment that is no UTF-8",
+        TextRow{"a comment that is not valid UTF-8",
                 "[Preferences]\n# B\xE4r\nKey=0\n", "0"},
-        TextRow{"another value that is no UTF-8",
+        TextRow{"another value that is not valid UTF-8",
                 "[Preferences]\nOther=\xE4\nKey=0\n", "0"},
         TextRow{"lines that say nothing",
                 "\n\n[Preferences]\n\nnothing\n=\n=x\nKey=0\n", "0"},
@@ -59,11 +59,12 @@ INSTANTIATE_TEST_SUITE_P(
         TextRow{"a longer key", "[Preferences]\nKey2=0\nKey[de]=0\n", {}},
         TextRow{"a comment", "[Preferences]\n#Key=0\n # Key=0\n", {}},
         TextRow{"no sign", "[Preferences]\nKey 0\n", {}},
-        TextRow{"a value that is no UTF-8", "[Preferences]\nKey=\xE4\n", {}},
+        TextRow{
+            "a value that is not valid UTF-8", "[Preferences]\nKey=\xE4\n", {}},
         TextRow{"a value that is half a character",
                 "[Preferences]\nKey=\xC3\n",
                 {}},
-        TextRow{"a last value that is no UTF-8",
+        TextRow{"a last value that is not valid UTF-8",
                 "[Preferences]\nKey=0\nKey=\xE4\n",
                 {}},
         TextRow{"a value with a NUL", "[Preferences]\nKey=0\0x\n"s, {}},
@@ -86,7 +87,7 @@ INSTANTIATE_TEST_SUITE_P(
     Rows, PreferenceName,
     ::testing::Values(
         NameRow{"a plain domain", "com.velmo.x", "com.velmo.x.conf"},
-        NameRow{"blanks and more stay", "a b\xC3\xA4", "a b\xC3\xA4.conf"},
+        NameRow{"spaces and more stay", "a b\xC3\xA4", "a b\xC3\xA4.conf"},
         NameRow{"a slash", "a/../b", "a%2F..%2Fb.conf"},
         NameRow{"two points", "..", "%2E..conf"},
         NameRow{"a point in front", ".x", "%2Ex.conf"},
@@ -107,7 +108,7 @@ class PreferenceStore : public ::testing::Test {
   testing::TemporaryDirectory directory_;
 };
 
-TEST_F(PreferenceStore, IsReadAfresh) {
+TEST_F(PreferenceStore, IsReadAgainAtEachCall) {
   EXPECT_FALSE(Read());
   Write("[Preferences]\nKey=1\n");
   EXPECT_EQ(Read(), "1");

@@ -80,8 +80,8 @@ TEST_F(Running, LeavesAViewerRunning) {
   EXPECT_EQ(testing::Children().size(), 1U);
 }
 
-/// A host that is no child subreaper: here its programs become children of the
-/// test, elsewhere of init.
+/// A host that is not a child subreaper: here its programs become children of
+/// the test, elsewhere of init.
 TEST_F(Running, GivesTheHostNoChild) {
   const std::string tool = directory().WriteScript("tool", "echo x; exit 0");
   EXPECT_TRUE(testing::InACopy([&] {
@@ -201,7 +201,8 @@ TEST_F(Running, ReadsInAHostWithoutStandardStreams) {
   }));
 }
 
-// What such a host prints meanwhile must not end in the tool's answer.
+// What such a host prints meanwhile must not reach the pipe of a helper's
+// answer.
 TEST(PipeOfAHostWithoutStandardStreams, IsNoneOfThem) {
   EXPECT_TRUE(testing::InACopy([] {
     close(0);
@@ -273,7 +274,7 @@ INSTANTIATE_TEST_SUITE_P(
                      return !HelperAnswers(directory / "x")
                                  .FetchText("a", std::chrono::seconds(10));
                    }},
-        RefusalRow{"a helper that is no program",
+        RefusalRow{"a helper that is not a program",
                    [](const Directory& directory) {
                      directory.Write("velmohelp-fetch", "text");
                      return !HelperAnswers(directory.path())

@@ -48,7 +48,7 @@ TEST(AFetch, GivesUpAServerThatSendsTooLittle) {
   EXPECT_TRUE(WIFEXITED(StatusOf(Start("velmohelp-fetch", server.Url("/")))));
 }
 
-/// Sends just enough, for ever.
+/// Sends just enough, forever.
 void Trickle(int connection) {
   testing::ReadRequest(connection);
   testing::SendAll(connection, "HTTP/1.1 200 OK\r\n\r\n");

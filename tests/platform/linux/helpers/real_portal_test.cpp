@@ -156,7 +156,7 @@ class RealPortal : public ::testing::TestWithParam<PortalRow> {
                      "[Desktop Entry]\nType=Application\nName=" + name +
                          "\nExec=\"" + program + "\" %u\n");
   }
-  /// With pages on the network, and whatever type a local page is taken for.
+  /// For pages on the network, and for every type that a local page may have.
   void Associate(int applications) {
     const bool one = applications == 1;
     std::string list =
