@@ -93,18 +93,18 @@ DisplayPageReturnCode ShowLocalTarget(const Client& client, const char* page_id,
   return ShowTarget(client, page_id, JoinPath("file://", encoded));
 }
 
-bool FindTargetOf(const Client& client, FetchBudget& budget,
-                  const std::string& id, std::string& target) {
+bool FindPage(const Client& client, FetchBudget& budget, const std::string& id,
+              std::string& target) {
   return FindPageTarget(client.machine, budget, ContentView(client.state), id,
                         client.state.is_online, client.state.help_map, target);
 }
 
-/// The page, or once the home page in its place.
-bool FindTarget(const Client& client, const std::string& id,
-                std::string& target) {
+/// The page, or the home page in its place.
+bool FindPageOrHome(const Client& client, const std::string& id,
+                    std::string& target) {
   FetchBudget budget;
-  if (FindTargetOf(client, budget, id, target)) return true;
-  return id != kHomePage && FindTargetOf(client, budget, kHomePage, target);
+  if (FindPage(client, budget, id, target)) return true;
+  return id != kHomePage && FindPage(client, budget, kHomePage, target);
 }
 
 /// Refreshes what the choice between viewer and browser depends on.
@@ -117,9 +117,9 @@ void ChooseViewer(const Client& client) {
 }
 
 DisplayPageReturnCode ShowPage(const Client& client, const char* page_id,
-                               const std::string& id) {
+                               const std::string& normalised_id) {
   std::string target;
-  if (!FindTarget(client, id, target)) {
+  if (!FindPageOrHome(client, normalised_id, target)) {
     return ShowInViewerIfInstalled(client, page_id);
   }
   return client.state.is_online ? ShowTarget(client, page_id, target)
@@ -134,14 +134,14 @@ DisplayPageReturnCode DisplayPage(const Client& client, const char* page_id) {
   }
   if (!HasText(page_id)) return kDisplayInvalidArgument;
   if (IsUrl(page_id)) return CodeOf(OpenUrl(client, page_id));
-  std::string id = page_id;
-  NormalizePageId(id);
+  std::string normalised_id = page_id;
+  NormalizePageId(normalised_id);
   RereadConfiguration(client, client.state.locale);
   SetDefaultViewerIfNoneIsNamed(client.state);
   const DisplayPageReturnCode code = CodeOf(ConfigurationOf(client.state));
   if (code != kDisplaySuccess) return code;
   ChooseViewer(client);
-  return ShowPage(client, page_id, id);
+  return ShowPage(client, page_id, normalised_id);
 }
 
 }  // namespace velmohelp

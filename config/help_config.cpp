@@ -55,6 +55,7 @@ HelpConfigStatus UpdateHelpConfig(Machine& machine,
   if (!FileExists(machine, downloaded)) return ReadHelpConfig(state, installed);
   const HelpConfigStatus status = ReadHelpConfig(state, downloaded);
   if (status == HelpConfigStatus::kAccepted) return status;
+  // The machine is asked for the path again: the order of questions is fixed.
   return ReadHelpConfig(
       state, InstalledConfigPath(machine, state.product_id, asked_locale));
 }
