@@ -34,7 +34,7 @@ double MedianNanoseconds(int times, Work work) {
   return Median(std::move(readings));
 }
 
-/// Nanoseconds of one run, as the mean of so many.
+/// Nanoseconds of one run, as the mean of this many.
 template <typename Work>
 double MeanNanoseconds(int times, Work work) {
   const double all = Nanoseconds([&] {

@@ -29,7 +29,7 @@ class FileText {
   /// Drops all but the first size bytes.
   void KeepFirst(std::size_t size) { size_ = size; }
 
-  /// Makes room for so many bytes in all; keeps those that are there.
+  /// Makes room for this many bytes in all; keeps those that are there.
   void Reserve(std::size_t size);
 
   /// Appends the file's next piece; false when the file ends with it, or has

@@ -32,9 +32,10 @@ constexpr std::size_t kSignalSetSize = (NSIG - 1) / 8;
 
 VELMO_CHILD void Close(int fd) { syscall(SYS_close, fd); }
 
-/// exec leaves ignored signals ignored: a browser would never hear of its own
-/// children, or survive a logout. All zeros mean the default action in every
-/// layout of the kernel's structure. This process has its own table.
+/// exec leaves ignored signals ignored: a browser would never learn that its
+/// own children have ended, or would outlive a logout. All zeros mean the
+/// default action in every layout of the kernel's structure. This process has
+/// its own table.
 VELMO_CHILD void ResetSignals() {
   constexpr unsigned long kDefaultAction[8] = {};
   for (int signal = 1; signal < NSIG; ++signal) {

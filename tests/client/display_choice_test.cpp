@@ -86,7 +86,7 @@ INSTANTIATE_TEST_SUITE_P(
         Choice{"a tool that knows another viewer alone",
                [](ClientWorld& world) { world.InstallWorkingViewer("x", "y"); },
                2, 0},
-        Choice{"a viewer that the tool knows but is gone",
+        Choice{"a viewer that the tool knows but is missing",
                [](ClientWorld& world) {
                  world.InstallWorkingViewer();
                  world.RemoveViewer();
@@ -145,7 +145,7 @@ INSTANTIATE_TEST_SUITE_P(
                      world.GoOnline();
                    },
                    kPageIdInViewer},
-        LastResort{"for a target that is no URL in accessible mode",
+        LastResort{"for a target that is not a URL in accessible mode",
                    [](ClientWorld& world) {
                      world.Install({.base_url = "help/"});
                      world.AddFile(
@@ -156,7 +156,7 @@ INSTANTIATE_TEST_SUITE_P(
                      world.GoOnline();
                    },
                    kPageIdInViewer},
-        LastResort{"for a target that is no URL with the viewer chosen",
+        LastResort{"for a target that is not a URL with the viewer chosen",
                    [](ClientWorld& world) {
                      world.Install({.base_url = "help/"});
                      world.AddFile(

@@ -71,7 +71,7 @@ INSTANTIATE_TEST_SUITE_P(
               Nothing,
               "http://x/y",
               {0, {"OpenInBrowser http://x/y"}}},
-        Story{"a page that nobody knows in the viewer",
+        Story{"an unknown page in the viewer",
               [](ClientWorld& world) { world.InstallWorkingViewer(); },
               Nothing,
               "my page",
@@ -190,7 +190,7 @@ INSTANTIATE_TEST_SUITE_P(
               Nothing,
               "page",
               {7, {}}},
-        Story{"a target that is no URL for the browser",
+        Story{"a target that is not a URL for the browser",
               [](ClientWorld& world) {
                 world.Install({.base_url = "help/"});
                 world.AddFile(ClientWorld::InstalledManual() + "/helpmap.txt",

@@ -41,7 +41,7 @@ INSTANTIATE_TEST_SUITE_P(
     ::testing::Values(
         Network{"a server that can be reached",
                 [](ClientWorld& world) { world.GoOnline(); }, 0},
-        Network{"a user who did not say no",
+        Network{"a user who did not switch it off",
                 [](ClientWorld& world) {
                   world.GoOnline();
                   SetPreference(world, PreferenceScope::kCurrentUserAnyHost,

@@ -123,7 +123,7 @@ INSTANTIATE_TEST_SUITE_P(
                             Nothing,
                             "http://x/y",
                             {1, {"OpenInBrowser http://x/y"}}},
-                      Story{"a text that is no UTF 8 gives one",
+                      Story{"a text that is not valid UTF-8 gives one",
                             [](ClientWorld& world) { world.StartBrowsers(); },
                             Nothing,
                             "http://x/\xFF",

@@ -1,4 +1,4 @@
-// A machine that keeps what it is handed byte for byte.
+// A machine that records what it gets byte for byte.
 #ifndef TESTS_CLIENT_RECORDING_MACHINE_H_
 #define TESTS_CLIENT_RECORDING_MACHINE_H_
 

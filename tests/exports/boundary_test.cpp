@@ -27,7 +27,7 @@ constexpr std::size_t kMegabyte = 1024UL * 1024UL;
 struct OddText {
   const char* sentence;
   std::string text;
-  /// After "http://x/", as the browser is handed it; "" where it is not.
+  /// After "http://x/", as the browser gets it; "" where it is not.
   std::string escaped;
 };
 
@@ -94,7 +94,7 @@ INSTANTIATE_TEST_SUITE_P(
         OddText{"an option", "--help", "--help"},
         OddText{"line ends", "a\nb\r\n", "a%0Ab%0D%0A"},
         OddText{"formatting characters", "%s%n%25", "%25s%25n%25"},
-        OddText{"bytes that are no UTF 8", "\xFF\xFE\xC0\x80", ""},
+        OddText{"bytes that are not valid UTF-8", "\xFF\xFE\xC0\x80", ""},
         OddText{"a truncated character", "a\xE2\x82", ""},
         OddText{"a surrogate in UTF 8", "\xED\xA0\x80", ""},
         OddText{"control characters", "\x01\x1B[31m\x7F", "%01%1B[31m%7F"}),
@@ -175,7 +175,7 @@ INSTANTIATE_TEST_SUITE_P(
                       Room{"more than that", 9, 5, "a%20b\0hed"sv},
                       Room{"no room for the end", 5, -1, "untouched"},
                       Room{"none", 0, -1, "untouched"},
-                      Room{"less than none", -1, -1, "untouched"}),
+                      Room{"a negative size", -1, -1, "untouched"}),
     testing::SentenceOf());
 
 TEST(Encoder, RefusesNullPointers) {

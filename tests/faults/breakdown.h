@@ -17,7 +17,7 @@ namespace velmohelp::testing {
 struct Result {
   std::uint32_t code;
   Steps shown;
-  /// What the state has afterwards that it has not when nothing fails.
+  /// How the state afterwards differs from the one when nothing fails.
   Steps state;
 
   bool operator==(const Result&) const = default;
@@ -55,7 +55,7 @@ class OneQuestionFails : public ::testing::TestWithParam<DisturbedRequest> {
 /// Product Foo with a configuration, a page and a search page that were
 /// installed, and newer ones that were downloaded.
 void PutContent(ClientWorld& world);
-/// A viewer besides, and a network; the user wants no online help.
+/// A viewer too, and a network; the user wants no online help.
 void PutViewer(ClientWorld& world);
 /// The content, and the help server with the newer pages.
 void PutServer(ClientWorld& world);

@@ -13,7 +13,7 @@ using BeforeRead = std::function<int(int number)>;
 /// The read gives as many bytes as it was asked for, all of them zero.
 inline constexpr int kZeroBytes = -1;
 
-/// While it exists, what it was made with hears of every read. One at a time.
+/// While it exists, its function is called before every read. One at a time.
 class Reads {
  public:
   explicit Reads(BeforeRead before);

@@ -1,4 +1,4 @@
-// A URL: tested, taken apart and encoded as the oracle does it.
+// A URL: tested, parsed and encoded as the oracle does it.
 #include <velmohelp/text.h>
 #include <velmohelp/velmohelp.h>
 

@@ -1,4 +1,4 @@
-// What every machine that can do something has to do alike.
+// The contract of Machine, for every machine that can do something.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <unistd.h>

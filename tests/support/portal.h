@@ -29,7 +29,7 @@ class PrivateBus {
 /// A connection to that bus; null where there is none.
 ObjectPtr<GDBusConnection> ConnectToBus();
 
-/// True when the name was nobody's.
+/// True when the name was free.
 bool OwnName(GDBusConnection* bus, const char* name);
 
 /// Serves the objects of a connection on a thread of its own.

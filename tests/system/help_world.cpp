@@ -25,7 +25,7 @@ std::string AsUrl(const std::string& path) {
   return url;
 }
 
-/// The tool's shell has its own opinion of a working directory that is gone.
+/// The tool's shell complains about a working directory that is gone.
 std::string WithoutShell(const std::string& errors) {
   std::string rest;
   std::istringstream lines(errors);

@@ -18,7 +18,7 @@ namespace velmohelp::testing {
 /// At first: product Foo in en_US with one content folder and no content, a
 /// viewer and a browser, both installed, and a user who wants no online help.
 ///
-/// Texts handed in may name places:
+/// Texts passed in may name places:
 ///   {bin}         the host's folder
 ///   {config}      Foo's installed configuration
 ///   {downloaded}  the content folder where the viewer downloads it

@@ -151,14 +151,14 @@ std::string StartChild(Client&, const Words&) {
   return "started";
 }
 
-/// That child's exit status, when nobody has taken it.
+/// That child's exit status, when nobody has collected it.
 std::string TakeChild(Client&, const Words&) {
   int status = 0;
   if (waitpid(own_child, &status, 0) != own_child) return "taken";
   return std::to_string(WEXITSTATUS(status));
 }
 
-/// What Linux would give without killing anybody, in KiB.
+/// What Linux can give without killing a process, in KiB.
 long AvailableMemory() {
   std::ifstream facts("/proc/meminfo");
   std::string word;
@@ -169,7 +169,7 @@ long AvailableMemory() {
   return available;
 }
 
-/// Has that many MiB resident for good, where there is room for twice as much.
+/// Keeps that many MiB resident, where there is room for twice as much.
 std::string TakeMemory(Client&, const Words& words) {
   const std::size_t size = std::stoul(words.at(1)) << 20U;
   if (AvailableMemory() < static_cast<long>(size >> 9U)) return "no room";

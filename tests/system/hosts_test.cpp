@@ -85,8 +85,8 @@ TEST_P(AHost, LearnsThatTheServerCanBeReached) {
   EXPECT_EQ(world_.Ask({"status"}), "0");
 }
 
-/// The person's programs end at logout, hear of their own children, hold no
-/// lock file of the host's, and print into none of its files.
+/// The person's programs end at logout, are told when their children end, hold
+/// no lock file of the host's, and print into none of its files.
 TEST_P(AHost, PassesNothingOfItsOwnOn) {
   ASSERT_TRUE(world_.Initialise());
   for (const char* program : {"{viewer}", "{browser}"}) {

@@ -67,7 +67,7 @@ std::vector<Place> Places() {
        "0",
        "0",
        "0"},
-      {"a viewer and a word about local help",
+      {"a viewer and the setting for local help",
        {Preferring("<a localHelp=\"true\"/>")},
        viewer,
        "0",

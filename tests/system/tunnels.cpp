@@ -40,7 +40,8 @@ End Secret(SSL* secret) {
           }};
 }
 
-/// What there was to read, as read has it; 0 when nobody took it.
+/// What there was to read, as read has it; 0 when the other side did not accept
+/// it.
 long PassOn(const End& from, const End& to) {
   std::string piece(kPieceSize, '\0');
   const long got = from.read(piece.data(), static_cast<int>(piece.size()));
@@ -61,7 +62,7 @@ long Join(const End& one, const End& other) {
   return passed;
 }
 
-/// The thread of a connection hears nothing of a client that has gone.
+/// The thread of a connection gets no signal from a client that has gone.
 void BlockBrokenPipes() {
   sigset_t broken_pipe;
   sigemptyset(&broken_pipe);

@@ -5,9 +5,10 @@
 #include <sys/time.h>
 #include <unistd.h>
 
-/* SIGALRM ends this process after so many seconds, whatever it waits for then:
- * a name service and a network file system can hang for minutes, long after
- * whoever asked has gone. A timer that was set before and ends sooner stays. */
+/* SIGALRM ends this process after this many seconds, whatever it waits for
+ * then: a name service and a network file system can hang for minutes, long
+ * after the host has gone. A timer that was set before and ends sooner stays.
+ */
 static inline void velmo_limit_time(unsigned seconds) {
   struct itimerval set = {{0, 0}, {0, 0}};
   getitimer(ITIMER_REAL, &set);

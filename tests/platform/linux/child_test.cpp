@@ -306,7 +306,7 @@ INSTANTIATE_TEST_SUITE_P(
                       nullptr},
         LoaderPathRow{"a path that nobody saved stays", "/own", nullptr,
                       "/own"},
-        LoaderPathRow{"a saved path comes back where there is none", nullptr,
+        LoaderPathRow{"a saved path comes back where no path is set", nullptr,
                       "/own", "/own"},
         LoaderPathRow{"no path stays no path", nullptr, nullptr, nullptr}),
     testing::SentenceOf());

@@ -34,7 +34,7 @@ std::string Redirect(const std::string& location) {
   return Response("302 Found", "Location: " + location + "\r\n", kPicture);
 }
 
-/// Header lines of so many KiB in all.
+/// Header lines of this many KiB in all.
 std::string Headers(int size) {
   std::string headers;
   for (int i = 0; i < size; ++i) {

@@ -59,10 +59,10 @@ INSTANTIATE_TEST_SUITE_P(
         LineRow{"a percent sign at the end", "b %u %", {"b", kUrl, "%"}},
         LineRow{
             "quotes", "\"/a b/c\" \"x \\$ y\" %u", {"/a b/c", "x $ y", kUrl}},
-        LineRow{"an escaped quote opens none",
+        LineRow{"an escaped quote opens no quotation",
                 "b \\\" %u \\\"",
                 {"b", "\"", kUrl, "\""}},
-        LineRow{"a quote inside other quotes opens none",
+        LineRow{"a quote inside other quotes opens no quotation",
                 "b \"it's\" %u '\"'",
                 {"b", "it's", kUrl, "\""}},
         LineRow{"a backslash in single quotes escapes nothing",

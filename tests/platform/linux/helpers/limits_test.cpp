@@ -20,7 +20,7 @@ namespace {
 
 using testing::HttpServer;
 
-/// Starts a helper of this build as nobody but a test does: with no timer.
+/// Starts a helper of this build without a timer, as only a test does.
 pid_t Start(const std::string& name, const std::string& question) {
   const std::string program = VELMO_TEST_HELPERS "/" + name;
   const pid_t process = fork();
