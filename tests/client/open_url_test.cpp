@@ -159,7 +159,7 @@ INSTANTIATE_TEST_SUITE_P(
               {5, {}}}),
     testing::SentenceOf());
 
-TEST(OpenUrlSix, IsAnsweredBeforeAnyInitialisation) {
+TEST(OpenUrlSix, IsReturnedBeforeAnyInitialisation) {
   ClientWorld world;
   world.Install();
   EXPECT_EQ(world.OpenUrl("http://x"), 6U);

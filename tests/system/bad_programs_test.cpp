@@ -30,7 +30,7 @@ Route WithTool(const char* sentence, const Change& tool,
 
 class ABadTool : public ::testing::TestWithParam<Route> {};
 
-TEST_P(ABadTool, IsAnswered) { Follow(GetParam()); }
+TEST_P(ABadTool, ShowsThePageAllTheSame) { Follow(GetParam()); }
 
 const std::string kViewerFolder = "'{viewer}/../..'";
 

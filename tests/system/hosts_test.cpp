@@ -119,7 +119,7 @@ INSTANTIATE_TEST_SUITE_P(
     SentenceOf());
 
 /// Nothing can be read, and nothing breaks.
-TEST(AHostWithAFullDescriptorTable, IsAnswered) {
+TEST(AHostWithAFullDescriptorTable, IsServed) {
   HelpWorld world;
   ASSERT_TRUE(world.Initialise());
   ASSERT_EQ(world.Ask({"fill descriptors", "0"}), "filled");
@@ -191,7 +191,7 @@ TEST(AHostWithSmallStacks, GetsEveryAnswer) {
 
 /// A copy of such a host's memory, made for every start, would take seconds and
 /// might not fit.
-TEST(AHostWithFourGigabytes, IsAnsweredAtOnce) {
+TEST(AHostWithFourGigabytes, IsServedAtOnce) {
   HelpWorld world;
   world.Write("{installed}/intro.html", "<p>");
   ASSERT_TRUE(world.Initialise());
