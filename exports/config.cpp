@@ -4,12 +4,15 @@
 #include "config/key_file.h"
 #include "config/key_scanner.h"
 #include "config/viewer_preferences.h"
+#include "exports/guarded.h"
 #include "exports/this_client.h"
 
 using velmohelp::ConfigView;
 using velmohelp::HelpConfigStatus;
 using velmohelp::ThisMachine;
 using velmohelp::ThisState;
+using velmohelp::Uncancelled;
+using velmohelp::WithState;
 
 namespace {
 
@@ -28,53 +31,67 @@ static_assert(ResultOf(HelpConfigStatus::kInvalid) == kConfigInvalid);
 XMLParser::XMLParser() = default;
 
 bool XMLParser::ReadFileToBuffer(std::string path) {
-  return velmohelp::ReadKeyFile(path, buffer_);
+  return Uncancelled([&] { return velmohelp::ReadKeyFile(path, buffer_); });
 }
 
 std::string XMLParser::GetKey(std::string key) const {
-  return velmohelp::ScanValue(buffer_, key);
+  return Uncancelled([&] { return velmohelp::ScanValue(buffer_, key); });
 }
 
 std::string XMLParser::StringToUpper(std::string text) {
-  return velmohelp::ToUpper(text);
+  return Uncancelled([&] { return velmohelp::ToUpper(text); });
 }
 
 void XMLParser::PopulatePathArray(std::string (*table)[2], int& count) const {
-  velmohelp::ScanContentFolders(buffer_, table, count);
+  return Uncancelled(
+      [&] { velmohelp::ScanContentFolders(buffer_, table, count); });
 }
 
-std::string StringToUpper(std::string text) { return velmohelp::ToUpper(text); }
+std::string StringToUpper(std::string text) {
+  return Uncancelled([&] { return velmohelp::ToUpper(text); });
+}
 
 std::uint32_t ReadHelpcfg(std::string path) {
-  return ResultOf(velmohelp::ReadHelpConfig(ConfigView(ThisState()), path));
+  return WithState(kConfigUnreadable, [&] {
+    return ResultOf(velmohelp::ReadHelpConfig(ConfigView(ThisState()), path));
+  });
 }
 
 std::uint32_t UpdateHelpConfigInfo(std::string locale) {
-  return ResultOf(velmohelp::UpdateHelpConfig(ThisMachine(),
-                                              ConfigView(ThisState()), locale));
+  return WithState(kConfigUnreadable, [&] {
+    return ResultOf(velmohelp::UpdateHelpConfig(
+        ThisMachine(), ConfigView(ThisState()), locale));
+  });
 }
 
 int GetKLHFilePreferenceForHelpApp(std::string path) {
-  return velmohelp::IsViewerAllowed(path) ? kViewerAllowed : kViewerRefused;
+  return Uncancelled([&] {
+    return velmohelp::IsViewerAllowed(path) ? kViewerAllowed : kViewerRefused;
+  });
 }
 
 bool GetPreferenceSettingsForNetwork(std::string path) {
-  return velmohelp::IsNetworkHelpAllowed(path);
+  return Uncancelled([&] { return velmohelp::IsNetworkHelpAllowed(path); });
 }
 
 namespace ITEMInternal {
 
 std::string GetHelpConfigPath(std::string product, std::string locale) {
-  return velmohelp::InstalledConfigPath(ThisMachine(), product, locale);
+  return WithState("", [&] {
+    return velmohelp::InstalledConfigPath(ThisMachine(), product, locale);
+  });
 }
 
 std::string GetDownloadedHelpConfigPath(std::string first, std::string second) {
-  return velmohelp::DownloadedConfigPath(
-      ThisMachine(), ThisState().downloaded_config, first, second);
+  return WithState("", [&] {
+    return velmohelp::DownloadedConfigPath(
+        ThisMachine(), ThisState().downloaded_config, first, second);
+  });
 }
 
 std::string GetHelpConfigName(std::string a, std::string b) {
-  return velmohelp::PreferredConfigName(ThisMachine(), a, b);
+  return WithState(
+      "", [&] { return velmohelp::PreferredConfigName(ThisMachine(), a, b); });
 }
 
 }  // namespace ITEMInternal

@@ -1,33 +1,45 @@
 #include <velmohelp/online.h>
 
+#include "exports/guarded.h"
 #include "exports/this_client.h"
 #include "online/network_status.h"
 
 using velmohelp::ThisClient;
 using velmohelp::ThisMachine;
+using velmohelp::WithState;
 
-void GetNetworkStatus() { velmohelp::RefreshOnlineStatus(ThisClient()); }
+void GetNetworkStatus() {
+  return WithState([&] { velmohelp::RefreshOnlineStatus(ThisClient()); });
+}
 
 namespace ITEMInternal {
 
 bool GetOnlineDefault() {
-  return velmohelp::IsOnlineHelpAllowed(ThisMachine());
+  return WithState(
+      false, [&] { return velmohelp::IsOnlineHelpAllowed(ThisMachine()); });
 }
 
 bool GetAdminOnlinePref() {
-  return velmohelp::IsOnlineHelpAllowed(ThisMachine(), kAdminPreference);
+  return WithState(false, [&] {
+    return velmohelp::IsOnlineHelpAllowed(ThisMachine(), kAdminPreference);
+  });
 }
 
 bool GetUserOnlinePref() {
-  return velmohelp::IsOnlineHelpAllowed(ThisMachine(), kUserPreference);
+  return WithState(false, [&] {
+    return velmohelp::IsOnlineHelpAllowed(ThisMachine(), kUserPreference);
+  });
 }
 
 bool GetOnlineStatus(const std::string& url) {
-  return velmohelp::IsReachable(ThisMachine(), url);
+  return WithState(false,
+                   [&] { return velmohelp::IsReachable(ThisMachine(), url); });
 }
 
 std::string GetNexletPreference(NexletPreference which) {
-  return velmohelp::OnlinePreferenceText(ThisMachine(), which);
+  return WithState("", [&] {
+    return velmohelp::OnlinePreferenceText(ThisMachine(), which);
+  });
 }
 
 }  // namespace ITEMInternal

@@ -3,28 +3,26 @@
 // after this one. Both are documented, so neither order may change.
 #include "exports/state.h"
 
-namespace velmohelp {
+#include "exports/exported_variable.h"
 
-std::string sConfigID;
-std::string sLocale;
-std::string sHelpAppPath;
+namespace velmohelp {
+namespace own {
+
+String sConfigID;
+String sLocale;
+String sHelpAppPath;
 /// No operation uses this one. It keeps the documented order.
-std::string sUnused;
-std::string sBaseUrl;
-std::string sProductID;
-std::string sHelpPaths[kHelpPathCapacity][2];
+String sUnused;
+String sBaseUrl;
+String sProductID;
+StateVariable<ContentTable> sHelpPaths;
+String sAppID;
+String sPublisherID;
+StateVariable<HelpMap> sHelpMap;
+String sDefaultAppID("klh");
+String sDefaultPublisherID("9C3A51F07B26D48E15A0C7F3B9D2E6418A75C0D2.1");
 
-}  // namespace velmohelp
-
-std::string sAppID;
-std::string sPublisherID;
-std::map<std::string, std::string> sHelpMap;
-std::string sDefaultAppID = "klh";
-std::string sDefaultPublisherID = "9C3A51F07B26D48E15A0C7F3B9D2E6418A75C0D2.1";
-const char* kTrue = "TRUE";
-const char* kFalse = "FALSE";
-
-namespace velmohelp {
+}  // namespace own
 
 std::int32_t sInitStatus = 1;
 std::int32_t sHelpPathCount = kHelpPathCapacity;
@@ -34,3 +32,15 @@ bool sIsOnline = false;
 bool sQueryIsRaw = false;
 
 }  // namespace velmohelp
+
+VELMO_EXPORT_OWN(sAppID);
+VELMO_EXPORT_OWN(sPublisherID);
+VELMO_EXPORT_OWN(sHelpMap);
+VELMO_EXPORT_OWN(sDefaultAppID);
+VELMO_EXPORT_OWN(sDefaultPublisherID);
+
+// The library does not use these two: other modules do.
+const char* kTrue = "TRUE";
+const char* kFalse = "FALSE";
+VELMO_PROTECT(kTrue);
+VELMO_PROTECT(kFalse);

@@ -14,19 +14,19 @@ ClientState& ThisState() {
       .base_url = sBaseUrl,
       .help_paths = sHelpPaths,
       .help_path_count = sHelpPathCount,
-      .app_id = sAppID,
-      .publisher_id = sPublisherID,
-      .default_app_id = sDefaultAppID,
-      .default_publisher_id = sDefaultPublisherID,
+      .app_id = own::sAppID.value,
+      .publisher_id = own::sPublisherID.value,
+      .default_app_id = own::sDefaultAppID.value,
+      .default_publisher_id = own::sDefaultPublisherID.value,
       .app_id_is_null = sAppIDIsNull,
-      .preference_file = kKLHPreferenceFile,
-      .downloaded_content = kDownloadedOfflineContent,
-      .downloaded_config = kDownloadedHelpcfg,
+      .preference_file = own::kKLHPreferenceFile.value,
+      .downloaded_content = own::kDownloadedOfflineContent.value,
+      .downloaded_config = own::kDownloadedHelpcfg.value,
       .help_app_path = sHelpAppPath,
       .viewer_choice = sViewerChoice,
       .is_online = sIsOnline,
       .query_is_raw = sQueryIsRaw,
-      .help_map = sHelpMap};
+      .help_map = own::sHelpMap.value};
   return state;
 }
 

@@ -6,10 +6,26 @@
 #include "exports/this_client.h"
 #include "util/percent_encoding.h"
 
+using velmohelp::FailureCodes;
 using velmohelp::Guarded;
+using velmohelp::GuardedWithState;
 using velmohelp::ThisClient;
+using velmohelp::Uncancelled;
+using velmohelp::WithState;
 
 namespace {
+
+constexpr FailureCodes<SearchReturnCode> kSearchFailures = {
+    .state_has_ended = kSearchMissingConfig, .exception = kSearchLaunchFailure};
+constexpr FailureCodes<DisplayPageReturnCode> kDisplayFailures = {
+    .state_has_ended = kDisplayInvalidInitialization,
+    .exception = kDisplayUnexpectedResult};
+constexpr FailureCodes<OpenUrlReturnCode> kOpenUrlFailures = {
+    .state_has_ended = kOpenUrlInvalidInitialization,
+    .exception = kOpenUrlUnexpectedResult};
+constexpr FailureCodes<OnlineStatusReturnCode> kOnlineStatusFailures = {
+    .state_has_ended = kOnlineStatusNotInitialized,
+    .exception = kOnlineStatusOffline};
 
 /// The text and a NUL into room bytes at out. Returns the text's length, or -1
 /// when they do not fit.
@@ -24,44 +40,50 @@ long Copy(const std::string& text, char* out, long room) {
 
 uint32_t InitializeVelmoHelpClient(const char* productId, const char* locale,
                                    unsigned int cleanProductId) {
-  return velmohelp::Initialise(ThisClient(), productId, locale,
-                               cleanProductId != 0);
+  return WithState(kInitMissingConfig, [&] {
+    return velmohelp::Initialise(ThisClient(), productId, locale,
+                                 cleanProductId != 0);
+  });
 }
 
 uint32_t GetVelmoHelpClientVersion(void) { return 0x10500; }
 
 uint32_t GetVelmoHelpClientOnlineStatus(void) {
-  return Guarded(kOnlineStatusOffline,
-                 [] { return velmohelp::OnlineStatusOf(ThisClient()); });
+  return GuardedWithState(kOnlineStatusFailures, [] {
+    return velmohelp::OnlineStatusOf(ThisClient());
+  });
 }
 
 uint32_t DisplayVelmoHelpClientPage(const char* pageId) {
-  return Guarded(kDisplayUnexpectedResult,
-                 [&] { return velmohelp::DisplayPage(ThisClient(), pageId); });
+  return GuardedWithState(kDisplayFailures, [&] {
+    return velmohelp::DisplayPage(ThisClient(), pageId);
+  });
 }
 
 uint32_t OpenURL(const char* url) {
-  return Guarded(kOpenUrlUnexpectedResult,
-                 [&] { return velmohelp::OpenUrl(ThisClient(), url); });
+  return GuardedWithState(
+      kOpenUrlFailures, [&] { return velmohelp::OpenUrl(ThisClient(), url); });
 }
 
 uint32_t SearchHelp(const char* productId, const char* locale,
                     const char* searchText) {
-  return Guarded(kSearchLaunchFailure, [&] {
+  return GuardedWithState(kSearchFailures, [&] {
     return velmohelp::SearchHelp(ThisClient(), productId, locale, searchText);
   });
 }
 
 uint32_t Search(const char* a, const char* b, const char* locale,
                 const char* searchText) {
-  return Guarded(kSearchLaunchFailure, [&] {
+  return GuardedWithState(kSearchFailures, [&] {
     return velmohelp::SearchByNames(ThisClient(), a, b, locale, searchText);
   });
 }
 
 long VelmoHelpEncodeURIComponent(const char* in, char* out, long outSize) {
   if (in == nullptr || out == nullptr) return -1;
-  return Guarded(-1L, [&] {
-    return Copy(velmohelp::EncodeUriComponent(in), out, outSize);
+  return Uncancelled([&] {
+    return Guarded(-1L, [&] {
+      return Copy(velmohelp::EncodeUriComponent(in), out, outSize);
+    });
   });
 }

@@ -1,6 +1,8 @@
 // Help configuration files (".helpcfg") and the viewer's preferences.
 // Strings are byte strings. These functions throw what the standard library
 // throws (std::bad_alloc); they are not part of the C interface.
+// After the end of the state (velmohelp.h, convention 8) the functions that use
+// it return kConfigUnreadable or "".
 #ifndef VELMOHELP_CONFIG_H_
 #define VELMOHELP_CONFIG_H_
 

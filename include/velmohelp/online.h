@@ -1,4 +1,6 @@
 // Whether online help may be used: policy, then reachability.
+// After the end of the state (velmohelp.h, convention 8) they do nothing and
+// return false or "".
 #ifndef VELMOHELP_ONLINE_H_
 #define VELMOHELP_ONLINE_H_
 

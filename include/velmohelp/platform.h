@@ -1,5 +1,9 @@
 // The machine as the client uses it: files, folders, the help viewer and the
 // browser, and text in the platform's own form.
+//
+// After the end of the state (velmohelp.h, convention 8) the functions that ask
+// the machine fail: they return false, "", the code of a failed launch, or -43,
+// and leave their out parameter untouched.
 #ifndef VELMOHELP_PLATFORM_H_
 #define VELMOHELP_PLATFORM_H_
 

@@ -1,5 +1,7 @@
 // From a page id to the page: normalisation, help maps, validation, search
 // page. Strings are byte strings; no character set is assumed.
+// After the end of the state (velmohelp.h, convention 8) ValidateID returns 3,
+// GetSearchPage and ValidateURL false; what they would write is untouched.
 #ifndef VELMOHELP_RESOLVE_H_
 #define VELMOHELP_RESOLVE_H_
 

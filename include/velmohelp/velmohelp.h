@@ -10,7 +10,14 @@
  *  5. No C++ exception leaves a function. When it is out of memory or a help
  *     map cannot be read to its end, it returns the code that it names below.
  *  6. Nothing is logged or shown; the returned code is the only report.
- *  7. No function writes a file, starts a thread, or changes the process's
+ *  7. A thread that is cancelled in a call ends when the call does.
+ *  8. The state ends when the library is unloaded and when the process ends,
+ *     before the exit handlers that were registered before the library was
+ *     loaded. From then on the client is not initialised and stays so: an
+ *     initialisation returns 6, a display and OpenURL 6, a search 4, the
+ *     online status 2, whatever the arguments. A call that is running then is
+ *     not waited for, and finds the state whole.
+ *  9. No function writes a file, starts a thread, or changes the process's
  *     signals, locale, environment, working directory or umask.
  */
 #ifndef VELMOHELP_VELMOHELP_H_

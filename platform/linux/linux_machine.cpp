@@ -1,5 +1,7 @@
 #include "platform/linux/linux_machine.h"
 
+#include <utility>
+
 #include "platform/linux/bundles.h"
 #include "platform/linux/files.h"
 #include "platform/linux/folders.h"
@@ -18,10 +20,13 @@ std::string HelperFolder() {
 
 }  // namespace
 
-LinuxMachine::LinuxMachine() : LinuxMachine(HelperFolder()) {}
+LinuxMachine::LinuxMachine(std::string helper_folder, Timeouts timeouts)
+    : helper_folder_(std::move(helper_folder)), timeouts_(timeouts) {}
 
-LinuxMachine::LinuxMachine(const std::string& helper_folder, Timeouts timeouts)
-    : helpers_(helper_folder, timeouts) {}
+HelperAnswers LinuxMachine::Helpers() const {
+  return HelperAnswers(helper_folder_.empty() ? HelperFolder() : helper_folder_,
+                       timeouts_);
+}
 
 std::optional<FileEntry> LinuxMachine::FindFile(const std::string& path) {
   return FindEntry(path);
@@ -62,12 +67,12 @@ bool LinuxMachine::StartProgram(const std::string& program,
 }
 
 bool LinuxMachine::OpenInBrowser(const std::string& url) {
-  return helpers_.OpenInBrowser(url);
+  return Helpers().OpenInBrowser(url);
 }
 
 std::optional<Reachability> LinuxMachine::HostReachability(
     const std::optional<std::string>& host) {
-  return helpers_.HostReachability(host);
+  return Helpers().HostReachability(host);
 }
 
 std::optional<std::string> LinuxMachine::Preference(const std::string& domain,
@@ -78,7 +83,7 @@ std::optional<std::string> LinuxMachine::Preference(const std::string& domain,
 
 bool LinuxMachine::FetchText(const std::string& url,
                              std::chrono::milliseconds timeout) {
-  return helpers_.FetchText(url, timeout);
+  return Helpers().FetchText(url, timeout);
 }
 
 std::chrono::milliseconds LinuxMachine::MonotonicTime() {

@@ -13,18 +13,21 @@ namespace velmohelp {
 
 class LinuxMachine : public Machine {
  public:
-  /// With the helpers beside the library.
-  LinuxMachine();
+  /// With the helpers beside the library. Owns no memory then.
+  LinuxMachine() = default;
   /// With helpers from another folder.
-  explicit LinuxMachine(const std::string& helper_folder,
-                        Timeouts timeouts = {});
+  explicit LinuxMachine(std::string helper_folder, Timeouts timeouts = {});
   LinuxMachine(const LinuxMachine&) = delete;
   LinuxMachine& operator=(const LinuxMachine&) = delete;
 
 #include "platform/machine_overrides.inc"
 
  private:
-  HelperAnswers helpers_;
+  HelperAnswers Helpers() const;
+
+  /// Empty for the one beside the library.
+  std::string helper_folder_;
+  Timeouts timeouts_;
 };
 
 }  // namespace velmohelp

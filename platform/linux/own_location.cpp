@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <climits>
 #include <cstdint>
 #include <cstdlib>
 #include <memory>
@@ -83,6 +84,23 @@ std::optional<std::string> FindOwnFolder() {
   return file ? std::optional(Dirname(*file)) : std::nullopt;
 }
 
+/// A path in place: no destructor frees it while a thread of an ending process
+/// reads it, and an unloaded library does not leak it.
+class FixedPath {
+ public:
+  explicit FixedPath(const std::optional<std::string>& path) {
+    if (path && path->size() <= sizeof text_)
+      size_ = path->copy(text_, sizeof text_);
+  }
+  std::optional<std::string> path() const {
+    return size_ > 0 ? std::optional(std::string(text_, size_)) : std::nullopt;
+  }
+
+ private:
+  char text_[PATH_MAX] = {};
+  std::size_t size_ = 0;
+};
+
 }  // namespace
 
 std::optional<std::string> MappedFile(std::string_view maps,
@@ -101,8 +119,8 @@ std::optional<std::string> MappedFile(std::string_view maps,
 std::optional<std::string> OwnFolder() {
   // The file stays where it is while it is loaded. Following the links to it
   // costs more than all other questions about bundles.
-  static const std::optional<std::string> folder = FindOwnFolder();
-  return folder;
+  static const FixedPath folder(FindOwnFolder());
+  return folder.path();
 }
 
 std::optional<std::string> HostExecutable() {

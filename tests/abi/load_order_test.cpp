@@ -19,17 +19,17 @@ using ::testing::ElementsAreArray;
 using testing::Recording;
 
 constexpr char kExported[] = "sAppID";
-constexpr char kTable[] = "velmohelp::sHelpPaths";
+constexpr char kTable[] = "velmohelp::own::sHelpPaths";
 constexpr std::size_t kTableStrings = 200;
 
 /// In the order of construction.
 const std::vector<std::string> kState = {
-    "velmohelp::sConfigID",
-    "velmohelp::sLocale",
-    "velmohelp::sHelpAppPath",
-    "velmohelp::sUnused",
-    "velmohelp::sBaseUrl",
-    "velmohelp::sProductID",
+    "velmohelp::own::sConfigID",
+    "velmohelp::own::sLocale",
+    "velmohelp::own::sHelpAppPath",
+    "velmohelp::own::sUnused",
+    "velmohelp::own::sBaseUrl",
+    "velmohelp::own::sProductID",
     kTable,
     "sAppID",
     "sPublisherID",
@@ -69,12 +69,11 @@ class LoadOrder : public ::testing::Test {
     return reinterpret_cast<T*>(exported + distance);
   }
 
-  /// As a recording has them.
   std::vector<const void*> State() const {
     std::vector<const void*> state;
     state.reserve(kState.size());
     for (const std::string& name : kState) {
-      state.push_back(name == kTable ? nullptr : Object<const void>(name));
+      state.push_back(Object<const void>(name));
     }
     return state;
   }

@@ -11,8 +11,7 @@
 
 namespace velmohelp::testing {
 
-/// Addresses in the order of events since StartRecording. An array is a null
-/// pointer in the first two.
+/// Addresses in the order of events since StartRecording.
 struct Recording {
   std::vector<const void*> made;
   std::vector<const void*> destroyed;

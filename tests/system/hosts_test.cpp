@@ -216,6 +216,20 @@ TEST(AHostWithAChild, KeepsItsExitStatus) {
   EXPECT_EQ(world.Ask({"take child"}), "7");
 }
 
+class AHostWithNames : public ::testing::TestWithParam<const char*> {};
+
+TEST_P(AHostWithNames, OfOurVariablesKeepsItsOwn) {
+  HelpWorld world;
+  world.Write("{installed}/intro.html", "<p>");
+  std::filesystem::remove(world.Expanded("{bin}/host"));
+  std::filesystem::copy_file(GetParam(), world.Expanded("{bin}/host"));
+  EXPECT_EQ(HostProcess(world.start()).End(), 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(Each, AHostWithNames,
+                         ::testing::Values(VELMO_TEST_NAMES_HOST,
+                                           VELMO_TEST_NAMES_PLUG_IN_HOST));
+
 std::string InProc(HelpWorld& world, const char* name) {
   return "/proc/" + std::to_string(world.Host().pid()) + "/" + name;
 }
