@@ -125,7 +125,7 @@ TEST_F(Helpers, SayThatThereIsAText) {
 TEST_F(Helpers, AreNotWaitedForAfterTheirEnd) {
   using std::chrono::hours;
   Write("reach", "exit 1");
-  const Timeouts endless{hours(1), hours(1), hours(1)};
+  const Timeouts endless{hours(1), hours(1)};
   EXPECT_FALSE(Answers(endless).HostReachability("localhost"));
 }
 
