@@ -14,31 +14,43 @@ namespace {
 
 using Words = std::vector<std::string>;
 
-/// Follows a line's quoting, by the rules of g_shell_parse_argv.
+bool IsOneOf(std::string_view characters, char c) {
+  return characters.find(c) != std::string_view::npos;
+}
+
+/// Follows a line's words and their quoting, by the rules of
+/// g_shell_parse_argv.
 class Quoting {
  public:
-  /// Steps over the next character; true when it is quoted: by the quotes
-  /// around it, or by the backslash before it.
-  bool Step(char c) {
-    if (std::exchange(escaped_, false)) return true;
-    if (c == '\\' && open_ != '\'') {
-      escaped_ = true;
+  /// Steps over the next character.
+  void Step(char c) {
+    if (std::exchange(escaped_, false)) return;
+    if (open_ == '\0' && IsOneOf(" \t\n", c)) {
+      word_is_quoted_ = word_has_code_ = false;
+    } else if (c == '\\' && open_ != '\'') {
+      word_is_quoted_ = escaped_ = true;
     } else if (c == open_) {
       open_ = '\0';
-    } else if (open_ == '\0' && (c == '"' || c == '\'')) {
+    } else if (open_ == '\0' && IsOneOf("\"'", c)) {
+      word_is_quoted_ = true;
       open_ = c;
     }
-    return open_ != '\0';
   }
+
+  void StepOverCode() { word_has_code_ = true; }
+
+  /// A part of the word is quoted, and a part of it is a field code: with
+  /// sh -c 'browser '%u the address would become part of a program.
+  bool HasCodeInQuotedWord() const { return word_is_quoted_ && word_has_code_; }
 
  private:
   char open_ = '\0';
   bool escaped_ = false;
+  bool word_is_quoted_ = false;
+  bool word_has_code_ = false;
 };
 
-bool IsUrlCode(char code) {
-  return std::string_view("uUfF").find(code) != std::string_view::npos;
-}
+bool IsUrlCode(char code) { return IsOneOf("uUfF", code); }
 
 std::string Quoted(const std::string& value) {
   return Text(TextPtr(g_shell_quote(value.c_str())));
@@ -79,20 +91,21 @@ class FieldCodes {
   bool url_given_ = false;
 };
 
-/// The line with its codes replaced; nullopt when one of them is quoted.
+/// The line with its codes replaced; nullopt when one is in a quoted word.
 std::optional<std::string> Expanded(const std::string& line,
                                     FieldCodes& codes) {
   std::string expanded;
   Quoting quoting;
   for (std::size_t i = 0; i < line.size(); ++i) {
-    const bool quoted = quoting.Step(line[i]);
+    quoting.Step(line[i]);
     if (line[i] != '%' || i + 1 == line.size()) {
       expanded += line[i];
-      continue;
+    } else {
+      const char code = line[++i];
+      if (code != '%') quoting.StepOverCode();
+      expanded += codes.Expand(code);
     }
-    const char code = line[++i];
-    if (quoted && code != '%') return std::nullopt;
-    expanded += codes.Expand(code);
+    if (quoting.HasCodeInQuotedWord()) return std::nullopt;
   }
   return expanded;
 }
