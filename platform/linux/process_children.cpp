@@ -91,15 +91,40 @@ VELMO_CHILD void NormaliseScheduling() {
   syscall(SYS_sched_setaffinity, 0, sizeof all_processors, all_processors);
 }
 
+/// The three ids of a process that exec hands on.
+template <typename Id>
+struct Ids {
+  Id real = 0;
+  Id effective = 0;
+  Id saved = 0;
+};
+
+/// A sandbox may refuse to set even the ids that the process has.
+template <typename Id>
+VELMO_CHILD bool AreAll(Id wanted, const Ids<Id>& ids) {
+  return ids.real == wanted && ids.effective == wanted && ids.saved == wanted;
+}
+
+VELMO_CHILD bool DropGroup() {
+  Ids<gid_t> ids;
+  getresgid(&ids.real, &ids.effective, &ids.saved);
+  const bool is_roots = getuid() == 0 && ids.real == 0;
+  const gid_t group = is_roots ? ids.effective : ids.real;
+  return AreAll(group, ids) ||
+         syscall(VELMO_SETRESGID, group, group, group) == 0;
+}
+
+VELMO_CHILD bool DropUser() {
+  Ids<uid_t> ids;
+  getresuid(&ids.real, &ids.effective, &ids.saved);
+  const uid_t user = ids.real == 0 ? ids.effective : ids.real;
+  return AreAll(user, ids) || syscall(VELMO_SETRESUID, user, user, user) == 0;
+}
+
 /// A set-user-ID host must not give away what it was given. A host of root's
 /// that works as another user hands that user's ids on, not root's. Not by the
 /// C library, which would change the ids of all threads of the host.
-VELMO_CHILD bool DropPrivileges() {
-  const gid_t group = getgid() == 0 ? getegid() : getgid();
-  const uid_t user = getuid() == 0 ? geteuid() : getuid();
-  return syscall(VELMO_SETRESGID, group, group, group) == 0 &&
-         syscall(VELMO_SETRESUID, user, user, user) == 0;
-}
+VELMO_CHILD bool DropPrivileges() { return DropGroup() && DropUser(); }
 
 /// The timer survives exec, and ends a late helper even when the host is gone.
 VELMO_CHILD void LimitTime(long milliseconds) {

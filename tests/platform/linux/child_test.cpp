@@ -248,6 +248,29 @@ INSTANTIATE_TEST_SUITE_P(
                             .expected = "\t0\t0\t0\t0"}),
     testing::SentenceOf());
 
+/// A user's primary group may be root's, as in containers that choose the user
+/// at random. The group of a set-group-ID host is not that user's.
+TEST(GroupId, OfASetGroupIdHostIsNotGivenAwayToAUserOfRootsGroup) {
+  if (geteuid() != 0) GTEST_SKIP() << "only root changes its ids freely";
+  EXPECT_TRUE(testing::InACopy([] {
+    setresgid(0, 8, 8);
+    setresuid(7, 7, 7);
+    return FirstOutput("/bin/grep", {"^Gid:", "/proc/self/status"}) ==
+           "Gid:\t0\t0\t0\t0\n";
+  }));
+}
+
+/// In a user namespace without a map, and in sandboxes, a process may set no
+/// ids, not even those that it has.
+TEST(Ids, ThatAreTheUsersAlreadyNeedNotBeSet) {
+  const auto enter = [] { return unshare(CLONE_NEWUSER) == 0; };
+  if (!testing::InACopy(enter)) {
+    GTEST_SKIP() << "this system lets the test make no user namespace";
+  }
+  EXPECT_TRUE(testing::InACopy(
+      [&] { return enter() && RunToEnd("/bin/true", {}) == 0; }));
+}
+
 TEST_F(StartedProgram, HasStandardStreamsWhereItsHostHasNone) {
   EXPECT_TRUE(testing::InACopy([&] {
     close(0);
