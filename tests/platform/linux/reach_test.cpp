@@ -63,7 +63,7 @@ class ReachInItsOwnNetwork : public Reach {
 
 TEST_F(ReachInItsOwnNetwork, CannotTellForWhatIsNotAName) {
   for (const std::string& name :
-       {std::string(), std::string("a b"), std::string("-h"),
+       {std::string(), std::string("a b"), std::string("-h"), std::string("*"),
         std::string("host.invalid"), std::string(254, 'a')}) {
     EXPECT_TRUE(testing::InACopy([&] {
       return EnterEmptyNetwork() && !Ask(name).has_value();
