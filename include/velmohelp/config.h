@@ -56,12 +56,20 @@ class VELMOHELP_API XMLParser {
 /// A copy with each byte passed through the C library's toupper.
 VELMOHELP_API std::string StringToUpper(std::string text);
 
-/// Reads one configuration file into the client's state. kConfigInvalid leaves
-/// in the state what was assigned before the value that was rejected.
+/// Reads one configuration file into the client's state: "id", of which the
+/// first five bytes become the locale, "baseUrl" and the content folders.
+/// kConfigUnreadable changes nothing. Nothing is rolled back on kConfigInvalid:
+/// the id stays in the state; once it has been accepted, so do its five bytes
+/// as the locale and an empty base URL.
 VELMOHELP_API std::uint32_t ReadHelpcfg(std::string path);
 
 /// Finds and reads the configuration of the client's product in a locale: the
 /// downloaded file when there is a valid one, else the installed one.
+///
+/// Sets the number of content folders to 100 before it reads anything. Sets the
+/// viewer's ids, and whether there is a viewer, when the installed file has a
+/// "path". Everything else is as ReadHelpcfg leaves it, for the downloaded file
+/// and then for the installed one: a locale from a rejected download stays.
 VELMOHELP_API std::uint32_t UpdateHelpConfigInfo(std::string locale);
 
 /// Whether the viewer's preference file allows the viewer: 2 (no) when its
@@ -83,7 +91,9 @@ VELMOHELP_API std::string GetDownloadedHelpConfigPath(std::string first,
                                                       std::string second);
 
 /// The host preference "HelpcfgName" (any user, this host) of the domain
-/// "com.velmo.<a>.<b>", UTF-8; "" when a or b is empty or nothing is set.
+/// "com.velmo.<a>.<b>". a and b are Mac Roman, the value is UTF-8. "" when a or
+/// b is empty, when nothing is set, and for a value of which
+/// GetCharFromCFStringRef of <velmohelp/platform.h> makes no C string.
 VELMOHELP_API std::string GetHelpConfigName(std::string a, std::string b);
 
 }  // namespace ITEMInternal

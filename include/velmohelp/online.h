@@ -8,8 +8,10 @@
 
 #include <string>
 
-/// Reads both preferences, probes the network when neither is "0", and keeps
-/// the result in the client's state, which the requests read.
+/// Keeps in the client's state, which the requests read, whether online help
+/// may be used: neither preference is "0", as GetOnlineDefault has it, and the
+/// help server can be reached. The network is not probed when the preferences
+/// forbid its use. The flag is false when this throws std::bad_alloc.
 VELMOHELP_API void GetNetworkStatus();
 
 namespace ITEMInternal {
@@ -29,8 +31,10 @@ VELMOHELP_API bool GetAdminOnlinePref();
 VELMOHELP_API bool GetUserOnlinePref();
 
 /// True when the URL's host can be reached without first establishing a
-/// connection. No packet is sent to the host. False also when url is not a URI,
-/// has no host, or has a host of more than 254 bytes.
+/// connection. No packet is sent to the host. False also when url is not a URI
+/// (a space, a double quote, a byte beyond ASCII, a "%" without two hexadecimal
+/// digits), has no host, or has a host that, unescaped, is not valid UTF-8, has
+/// a zero byte, or has more than 254 bytes.
 VELMOHELP_API bool GetOnlineStatus(const std::string& url);
 
 /// The preference's text, UTF-8; "" when nothing is set, it cannot be read, or

@@ -41,8 +41,9 @@ enum TextEncoding : std::uint32_t {
   kTextEncodingUtf8 = 0x08000100,
 };
 
-/// True when a file or a directory exists at path. False for a path that is not
-/// valid UTF-8, whatever exists there.
+/// True when a file or a directory exists at path, whether or not it may be
+/// read. False for a link to nothing, below a directory that may not be
+/// searched, and for a path that is not valid UTF-8, whatever exists there.
 VELMOHELP_API bool FileExists(std::string path);
 
 /// True when the QTV tool says that the viewer's runtime is installed.
@@ -53,7 +54,8 @@ VELMOHELP_API bool IsZAMRuntimePresent();
 VELMOHELP_API std::string GetHelpApplicationPath();
 
 /// Starts an executable with four arguments and does not wait for it. 0: it was
-/// running right after its start; 1: it was not, or nothing exists at path.
+/// running right after its start; 1: it was not, nothing exists at path, or it
+/// may not be executed.
 VELMOHELP_API int LaunchApplication(const std::string& path,
                                     const std::string& mode,
                                     const std::string& product,
@@ -61,8 +63,10 @@ VELMOHELP_API int LaunchApplication(const std::string& path,
                                     const std::string& request);
 
 /// Opens a URL, unchanged, in the user's default browser. 0: opened; 2: not
-/// opened, or url is not a URI (it has a space, a quote or a byte beyond
-/// ASCII).
+/// opened, or url is not a URI: it is empty, or has a character that is neither
+/// reserved nor unreserved in RFC 3986 (a space, a double quote, a backslash, a
+/// byte beyond ASCII), or a "%" without two hexadecimal digits. url ends at its
+/// first zero byte.
 VELMOHELP_API int LaunchPlatformBrowser(const std::string& url);
 
 /// Finds a standard folder. domain: -32763, the user's; type: 'pref'
@@ -82,12 +86,15 @@ VELMOHELP_API std::string GetHelpContentDirectory(std::string first,
                                                   std::string second);
 
 /// The reference of the file at a path, which may be percent-encoded once or
-/// twice, or at the path of a URL; what follows "?" or "#" is ignored. Returns
-/// 0; -1403 when path is empty, is not valid UTF-8 before or after unescaping,
-/// or has a colon before its first "/" without being a URL with a path, as
-/// "mailto:x" and the relative path "a:b/c" have; -43 when the file does not
-/// exist or its path has more than 1023 bytes; -1302 when it is a directory.
-/// out is written only on 0.
+/// twice, or at the path of a URL; what follows "?", "#" or a zero byte is
+/// ignored. A "%" without two hexadecimal digits is an ordinary character.
+///
+/// Returns 0; -1403 when path is empty, is not valid UTF-8 as given or when it
+/// is unescaped once, or has a colon before its first "/" and is not a URL with
+/// a path, as "mailto:x" and the relative path "a:b/c"; -43 when the file does
+/// not exist, or its path has more than 1023 bytes or is not valid UTF-8 when
+/// it is unescaped twice; -1302 when it is a directory. out is written only on
+/// 0.
 VELMOHELP_API std::int16_t GetFSRefFromPath(std::string path,
                                             FileReference& out);
 

@@ -26,8 +26,10 @@ VELMOHELP_API void NormalizePageID(std::string& id);
 
 /// Finds the target of a normalised page id in the client's content folders:
 /// downloaded before installed, then in table order. A page that a folder's
-/// help map names is not checked, a URL that it names is; a folder with a help
-/// map has no other pages.
+/// help map names is not checked. A URL that it names is: by a fetch when the
+/// client's state is online, else as a path, at which there is nothing. A
+/// folder with a help map has no other pages. All fetches together take 20
+/// seconds at most; further pages count as missing.
 ///
 /// online chooses between URLs below the base URL (true) and local paths.
 /// Returns 0 with the target in out (a path or a URL), or 3 with the page id
@@ -49,25 +51,27 @@ VELMOHELP_API bool isUrl(std::string text);
 
 /// fetch false: something exists at the path target. fetch true: target is a
 /// URI, and the whole resource could be loaded from it and is text. Blocks
-/// until it is loaded.
+/// until it is loaded, 10 seconds at most.
 VELMOHELP_API bool ValidateURL(std::string target, bool fetch);
 
 /// Reads a help map: one entry per line, key and value separated by tabs. The
 /// first entry of a key wins; lines without two fields are skipped. Empties map
 /// first. True when the file was read and map has "VX_HOME"; false with the
 /// entries in map when it has not, and with an empty map when path names
-/// nothing, a pipe, a device or a file longer than 256 MiB. Throws
+/// nothing, a pipe, a device, a file that may not be read or one longer than
+/// 256 MiB. Quotes and backslashes are ordinary characters. Throws
 /// std::ios_base::failure on a read error, with the entries of the lines before
 /// it in map; every read of a directory is one.
 VELMOHELP_API bool LoadMapFile(const std::string& path,
                                std::map<std::string, std::string>& map);
 
 /// The first line of a base URL file; "" when path names nothing, a pipe, a
-/// device or a file longer than 16 MiB. In a line with "://[" (an IPv6 host,
-/// whose zone follows a "%") the first "%", wherever it is, becomes "%25",
-/// unless there is a "%25" before the first "]". Throws std::out_of_range for a
-/// line with "://[" but neither "]" nor "%", and std::ios_base::failure as
-/// LoadMapFile does.
+/// device, a file that may not be read or one longer than 16 MiB. In a line
+/// with
+/// "://[" (an IPv6 host, whose zone follows a "%") the first "%", wherever it
+/// is, becomes "%25", unless there is a "%25" before the first "]". Throws
+/// std::out_of_range for a line with "://[" but neither "]" nor "%", and
+/// std::ios_base::failure as LoadMapFile does.
 VELMOHELP_API std::string GetHelpMapBaseUrl(const std::string& path);
 
 /// AppendToPath of folder and "helpmap.txt" or "helpmapBaseUrl.txt".

@@ -1,10 +1,13 @@
 /* velmohelp: shows the help page that belongs to a place in an application.
  *
- * Conventions of this interface, for C11 and C++20 callers alike:
+ * Conventions of this interface, for callers in C11 and C++17 alike:
  *
- *  1. Text is a NUL-terminated byte string, UTF-8. Paths are POSIX paths.
+ *  1. Text is a NUL-terminated byte string, UTF-8, except for the two names
+ * that Search takes. Paths are POSIX paths.
  *  2. No function keeps a pointer that it is given; the caller owns its texts.
- *  3. A null text gives the function's code for a bad argument.
+ *  3. A null text gives the function's code for a bad argument. Two codes come
+ *     first: 6 of a page display that is not initialised, and 8 of Search, also
+ *     when one of its names is null.
  *  4. The client's state is process-wide and has no lock: never call two
  *     functions at once. A call blocks until its work is done.
  *  5. No C++ exception leaves a function. When it is out of memory or a help
@@ -18,7 +21,8 @@
  *     online status 2, whatever the arguments. A call that is running then is
  *     not waited for, and finds the state whole.
  *  9. No function writes a file, starts a thread, or changes the process's
- *     signals, locale, environment, working directory or umask.
+ *     signals, locale, environment, working directory or umask. The one thing
+ *     that may be made is the user's settings folder, when it is missing.
  */
 #ifndef VELMOHELP_VELMOHELP_H_
 #define VELMOHELP_VELMOHELP_H_
@@ -82,11 +86,13 @@ enum SearchReturnCode {
   kSearchSuccess = 0,         /* viewer or browser was started */
   kSearchLaunchFailure = 1,   /* neither was, or out of memory */
   kSearchInvalidArgument = 3, /* null or empty, or a text of only spaces */
-  kSearchMissingConfig = 4,   /* the configuration cannot be read */
+  kSearchMissingConfig = 4,   /* the configuration cannot be read, or out of
+                                 memory while the client is initialised */
   kSearchInvalidConfig = 5,   /* invalid, or without content folders */
   kSearchNoLocalPage = 6,     /* offline, and no search page found */
   kSearchNoOnlinePage = 7,    /* online, and no search page found */
-  kSearchNoConfigName = 8     /* Search only: no configuration name is set */
+  kSearchNoConfigName = 8     /* Search only: no configuration name is set,
+                                 or one of the two names is null or empty */
 };
 
 /* What the query of the online status returns. */
@@ -102,10 +108,16 @@ enum OnlineStatusReturnCode {
  * holds it. Both are stored as given, spaces included. cleanProductId: when it
  * is not 0, every "/" and "\" of the product id is stored as "_".
  *
+ * A configuration that is accepted replaces the locale by the first five bytes
+ * of its "id" and is then looked for again, under that locale. A locale should
+ * therefore have five bytes: "en" becomes "en_Fo" for the product "Foo", and a
+ * configuration for "en" alone gives 6.
+ *
  * Returns 0, 1, 6 or 7 of InitReturnCode. A client that is already initialised
  * with the same two values returns 0 and reads nothing again. On 1 nothing has
- * changed; on 6 and 7 the two values are stored and the client refuses
- * requests. Out of memory: 6. */
+ * changed. On 6 and 7 the client refuses requests other than searches; the two
+ * values stay stored, and so does what UpdateHelpConfigInfo of
+ * <velmohelp/config.h> leaves. Out of memory: 6. */
 VELMOHELP_API uint32_t InitializeVelmoHelpClient(const char* productId,
                                                  const char* locale,
                                                  unsigned int cleanProductId);
@@ -135,16 +147,23 @@ VELMOHELP_API uint32_t OpenURL(const char* url);
  * Initialises the client when it is not initialised; later displays use this
  * product and locale.
  *
- * Returns a SearchReturnCode other than 8; out of memory: 1. */
+ * Returns a SearchReturnCode other than 8; out of memory: 1, or 4 while the
+ * client is initialised. */
 VELMOHELP_API uint32_t SearchHelp(const char* productId, const char* locale,
                                   const char* searchText);
 
 /* SearchHelp for the product that the host preference "HelpcfgName" of the
  * domain "com.velmo.<a>.<b>" names, with the text passed on unencoded.
  *
+ * a and b are Mac Roman. A caller with UTF-8 text converts it first: otherwise
+ * each byte of a letter beyond ASCII becomes a character of its own in the name
+ * of the administrator's file.
+ *
  * Returns a SearchReturnCode: 8 when no such name is set and when a or b is
- * null or empty (the next SearchHelp then passes its text on unencoded), else
- * what SearchHelp returns. */
+ * null or empty, else what SearchHelp returns. The mark for an unencoded text
+ * is cleared by a search that uses its text: after 3, 4, 5 and 8 of Search or
+ * SearchHelp, and perhaps out of memory, it is still set for the next
+ * SearchHelp. */
 VELMOHELP_API uint32_t Search(const char* a, const char* b, const char* locale,
                               const char* searchText);
 

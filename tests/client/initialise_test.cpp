@@ -123,6 +123,18 @@ TEST(Initialisation, LeavesTheProductAloneUnlessAsked) {
   EXPECT_EQ(world.state().product_id, "a/b");
 }
 
+TEST(Initialisation, KeepsTheFirstFiveBytesOfTheIdAsLocale) {
+  ClientWorld world;
+  world.AddFile(world.InstalledConfig("en", "Foo"),
+                testing::HelpConfig{.id = "en_Foo"}.Text());
+  EXPECT_EQ(world.Initialise("Foo", "en"), kInitMissingConfig);
+  EXPECT_EQ(world.state().locale, "en_Fo");
+  world.AddFile(world.InstalledConfig("en_Fo", "Foo"),
+                testing::HelpConfig{.id = "en_Fo_Foo"}.Text());
+  EXPECT_EQ(world.Initialise("Foo", "en"), kInitSuccess);
+  EXPECT_EQ(world.state().locale, "en_Fo");
+}
+
 TEST(Initialisation, TakesTheStatesOwnTextsForItsArguments) {
   ClientWorld world;
   world.Install();

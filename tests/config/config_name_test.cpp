@@ -81,6 +81,16 @@ TEST_F(ConfigName, IsLookedUpInMacRomanUpToTheFirstZeroByte) {
                           "Preference admin com.velmo. HelpcfgName"));
 }
 
+/// An administrator finds these names in the documents.
+TEST_F(ConfigName, OfOneLetterDependsOnTheCallersEncoding) {
+  SetName("com.velmo.ü.b", "Mac Roman");
+  SetName("com.velmo.√º.b", "UTF-8");
+  SetName("com.velmo.¸.b", "Latin 1");
+  EXPECT_EQ(GetHelpConfigName("\x9F", "b"), "Mac Roman");
+  EXPECT_EQ(GetHelpConfigName("ü", "b"), "UTF-8");
+  EXPECT_EQ(GetHelpConfigName("\xFC", "b"), "Latin 1");
+}
+
 TEST_F(ConfigName, OfMegabytesIsLookedUpToo) {
   const std::string word(4'000'000, 'a');
   EXPECT_EQ(GetHelpConfigName(word, word), "");
