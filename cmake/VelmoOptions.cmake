@@ -3,6 +3,8 @@
 option(VELMO_BUILD_TESTS "Build the tests" ${PROJECT_IS_TOP_LEVEL})
 option(VELMO_BUILD_HOST "Build the script host over Lua 5.4"
   ${PROJECT_IS_TOP_LEVEL})
+option(VELMO_BUILD_TOOLS "Build the command-line tool"
+  ${PROJECT_IS_TOP_LEVEL})
 option(VELMO_BUILD_EXAMPLES "Build the example programs"
   ${PROJECT_IS_TOP_LEVEL})
 # The presets set it: elsewhere a newer compiler's new warning must not break a
