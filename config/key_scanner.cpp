@@ -43,45 +43,75 @@ std::optional<std::string_view> ValueAt(std::string_view text,
   return text.substr(start, quote - start);
 }
 
+/// Calls visit(FolderKey) for the occurrences of key from a position on, until
+/// it returns false; the first one without a closing quote is the last.
+template <typename Visit>
+void ForEachKey(std::string_view text, std::string_view key, std::size_t from,
+                Visit visit) {
+  std::size_t occurrence = text.find(key, from);
+  while (occurrence != kNone) {
+    const auto value = ValueAt(text, occurrence, key);
+    if (!visit(FolderKey{occurrence, value}) || !value) return;
+    occurrence = text.find(key, occurrence + 1);
+  }
+}
+
 /// The first "path" is the configuration's own key, not a content folder's.
+/// text has one.
+std::size_t AfterOwnPath(std::string_view text) {
+  return text.find(kPathKey) + 1;
+}
+
 void FillFolders(std::string_view text, ContentFolderRow* rows,
                  std::int32_t count) {
-  std::size_t occurrence = text.find(kPathKey);
-  for (std::int32_t row = 0; row < count; ++row) {
-    occurrence = text.find(kPathKey, occurrence + 1);
-    if (occurrence == kNone) return;
-    const auto value = ValueAt(text, occurrence, kPathKey);
-    if (!value) return;
-    rows[row][0] = *value;
-  }
+  std::int32_t row = 0;
+  ForEachKey(text, kPathKey, AfterOwnPath(text), [&](const FolderKey& folder) {
+    if (row >= count || !folder.value) return false;
+    rows[row++][0] = *folder.value;
+    return true;
+  });
 }
 
 std::int32_t FillFlags(std::string_view text, ContentFolderRow* rows,
                        std::int32_t count) {
-  std::size_t occurrence = text.find(kFlagKey);
   std::int32_t row = 0;
-  for (; row < count && occurrence != kNone; ++row) {
-    const auto value = ValueAt(text, occurrence, kFlagKey);
-    if (!value) break;
-    rows[row][1] = ToUpper(*value);
-    occurrence = text.find(kFlagKey, occurrence + 1);
-  }
+  ForEachKey(text, kFlagKey, 0, [&](const FolderKey& flag) {
+    if (row >= count || !flag.value) return false;
+    rows[row++][1] = ToUpper(*flag.value);
+    return true;
+  });
   return row;
+}
+
+std::vector<FolderKey> KeysFrom(std::string_view text, std::string_view key,
+                                std::size_t from, std::size_t rows) {
+  std::vector<FolderKey> keys;
+  ForEachKey(text, key, from, [&](const FolderKey& found) {
+    if (keys.size() < rows) keys.push_back(found);
+    return keys.size() < rows;
+  });
+  return keys;
 }
 
 }  // namespace
 
+KeyPlace LocateKey(std::string_view text, std::string_view key) {
+  KeyPlace place;
+  place.key = text.find(key);
+  if (place.key == kNone) return place;
+  const std::size_t equals = text.find('=', place.key + key.size());
+  if (equals == kNone) return place;
+  place.opening = text.find('"', equals + 1);
+  if (place.opening == kNone) return place;
+  place.closing = text.find('"', place.opening + 1);
+  return place;
+}
+
 std::string_view ScanKey(std::string_view text, std::string_view key) {
-  const std::size_t occurrence = text.find(key);
-  if (occurrence == kNone) return {};
-  const std::size_t equals = text.find('=', occurrence + key.size());
-  if (equals == kNone) return {};
-  const std::size_t opening = text.find('"', equals + 1);
-  if (opening == kNone) return {};
-  const std::size_t closing = text.find('"', opening + 1);
-  if (closing == kNone) return {};
-  if (text[closing - 1] == '\\') ScanForever(closing);
-  return text.substr(opening + 1, closing - opening - 1);
+  const KeyPlace place = LocateKey(text, key);
+  if (place.closing == kNone) return {};
+  if (text[place.closing - 1] == '\\') ScanForever(place.closing);
+  return text.substr(place.opening + 1, place.closing - place.opening - 1);
 }
 
 std::string ScanValue(std::string_view text, std::string_view key) {
@@ -95,6 +125,15 @@ void ScanContentFolders(std::string_view text, ContentFolderRow* rows,
   if (text.find(kPathKey) == kNone) return;
   FillFolders(text, rows, count);
   count = FillFlags(text, rows, count);
+}
+
+std::vector<FolderKey> LocateFolders(std::string_view text, std::size_t rows) {
+  if (text.find(kPathKey) == kNone) return {};
+  return KeysFrom(text, kPathKey, AfterOwnPath(text), rows);
+}
+
+std::vector<FolderKey> LocateFlags(std::string_view text, std::size_t rows) {
+  return KeysFrom(text, kFlagKey, 0, rows);
 }
 
 std::string ToUpper(std::string_view text) {

@@ -3,11 +3,25 @@
 #ifndef CONFIG_KEY_SCANNER_H_
 #define CONFIG_KEY_SCANNER_H_
 
+#include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace velmohelp {
+
+/// Where ScanKey looks: positions in the text, npos for what is missing and
+/// for all that would follow it.
+struct KeyPlace {
+  std::size_t key = std::string_view::npos;
+  std::size_t opening = std::string_view::npos;
+  std::size_t closing = std::string_view::npos;
+};
+
+/// Always returns. ScanKey does not when closing follows a backslash.
+KeyPlace LocateKey(std::string_view text, std::string_view key);
 
 /// The text between the first two double quotes after the first "=" after the
 /// first occurrence of key in text; "" when one of these is missing. Never
@@ -26,6 +40,19 @@ using ContentFolderRow = std::string[2];
 /// has no "path". See XMLParser::PopulatePathArray.
 void ScanContentFolders(std::string_view text, ContentFolderRow* rows,
                         std::int32_t& count);
+
+/// A content folder's key: its position, and its value, which is nullopt
+/// without a closing quote.
+struct FolderKey {
+  std::size_t key;
+  std::optional<std::string_view> value;
+};
+
+/// The keys whose values ScanContentFolders takes for folders, and those that
+/// it takes for flags, with that many rows. The last one may lack a closing
+/// quote: the scan ends there.
+std::vector<FolderKey> LocateFolders(std::string_view text, std::size_t rows);
+std::vector<FolderKey> LocateFlags(std::string_view text, std::size_t rows);
 
 /// text with each byte passed through toupper() of the C library, and so of
 /// the locale that the host has set.

@@ -39,4 +39,11 @@ void NormalizePageId(std::string& id) {
   id += kPageSuffix;
 }
 
+std::string_view HelpMapKey(std::string_view page_id) {
+  if (page_id.size() >= kPageSuffix.size()) {
+    page_id.remove_suffix(kPageSuffix.size());
+  }
+  return page_id;
+}
+
 }  // namespace velmohelp

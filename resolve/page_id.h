@@ -18,6 +18,10 @@ bool IsHtmlPage(std::string_view name);
 /// and names of HTML files stay as they are.
 void NormalizePageId(std::string& id);
 
+/// The key of a normalised page id in a help map: the id without the ".html"
+/// that normalisation appended. Five bytes are cut whatever they are.
+std::string_view HelpMapKey(std::string_view page_id);
+
 }  // namespace velmohelp
 
 #endif  // RESOLVE_PAGE_ID_H_

@@ -27,14 +27,6 @@ struct Folder {
   std::string path;
 };
 
-/// The key of a page id: the id without the ".html" that normalisation
-/// appended. Five bytes are cut whatever they are.
-std::string_view KeyOf(std::string_view page_id) {
-  constexpr std::size_t kSuffixLength = 5;
-  if (page_id.size() >= kSuffixLength) page_id.remove_suffix(kSuffixLength);
-  return page_id;
-}
-
 std::string OnlineTarget(const Search& search, const Folder& folder,
                          std::string_view page) {
   return StrCat({search.content.base_url, folder.name, "/", page});
@@ -77,7 +69,7 @@ bool AcceptMapped(const Search& search, const Folder& folder,
 bool AcceptFromMap(const Search& search, const Folder& folder,
                    const std::string& map_path) {
   search.help_map.Read(map_path);
-  if (const auto value = search.help_map.Find(KeyOf(search.page_id))) {
+  if (const auto value = search.help_map.Find(HelpMapKey(search.page_id))) {
     return AcceptMapped(search, folder, *value);
   }
   if (!search.online) search.out = LocalTarget(folder, search.page_id);

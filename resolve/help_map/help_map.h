@@ -15,6 +15,8 @@
 namespace velmohelp {
 
 inline constexpr std::string_view kHelpMapName = "helpmap.txt";
+/// The key of the home page's entry.
+inline constexpr char kHomePageKey[] = "VX_HOME";
 inline constexpr std::string_view kHelpMapBaseUrlName = "helpmapBaseUrl.txt";
 
 /// Makes map hold the entries of the file at path, and no others; of several

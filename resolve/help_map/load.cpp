@@ -8,8 +8,6 @@
 namespace velmohelp {
 namespace {
 
-constexpr char kHomePageKey[] = "VX_HOME";
-
 void BuildFromFile(const std::string& path, HelpMap& map) {
   HelpMapBuilder builder(map);
   const auto file = OpenInputFile(path, kHelpMapLimit);
