@@ -1,6 +1,7 @@
 # What an installation holds, in components as distributions split them:
 # "runtime" is what a program that uses the library needs to run, "development"
-# what it needs to be built; "host" and "lua" are for scripts.
+# what it needs to be built; "host" and "lua" are for scripts, "tools" is for
+# whoever writes help.
 include(CMakePackageConfigHelpers)
 
 install(TARGETS velmohelp EXPORT velmohelp
@@ -50,4 +51,8 @@ install(FILES "${PROJECT_BINARY_DIR}/package/velmohelp.pc"
 if(VELMO_BUILD_HOST)
   install(FILES host/lxhost.1 DESTINATION "${CMAKE_INSTALL_MANDIR}/man1"
     COMPONENT host)
+endif()
+if(TARGET velmo-help)
+  install(FILES tools/velmo-help.1 DESTINATION "${CMAKE_INSTALL_MANDIR}/man1"
+    COMPONENT tools)
 endif()

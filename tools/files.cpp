@@ -1,49 +1,64 @@
 #include "tools/files.h"
 
 #include <cerrno>
-#include <fstream>
-#include <stdexcept>
+#include <cstdio>
+#include <ios>
 #include <system_error>
+
+#include "platform/open_file.h"
+#include "util/file_text.h"
 
 namespace velmohelp::tool {
 namespace {
 
 [[noreturn]] void Fail(const std::filesystem::path& file,
                        const std::string& why) {
-  throw std::runtime_error(file.string() + ": " + why);
+  throw FileError(file.string() + ": " + why);
 }
 
 std::string LastError() { return std::generic_category().message(errno); }
 
 }  // namespace
 
-std::string ReadWholeFile(const std::filesystem::path& file) {
+std::string ReadWholeFile(const std::filesystem::path& file,
+                          std::size_t limit) {
   std::error_code error;
   const auto status = std::filesystem::status(file, error);
   if (!std::filesystem::exists(status)) Fail(file, "no such file");
   if (!std::filesystem::is_regular_file(status)) Fail(file, "not a file");
-  if (std::filesystem::file_size(file, error) > kLargestFile) {
-    Fail(file, "larger than 256 MiB");
+  const auto input = OpenInputFile(file.string(), limit);
+  if (!input && std::filesystem::file_size(file, error) > limit) {
+    Fail(file, "longer than " + std::to_string(limit >> 20U) + " MiB");
   }
-  std::ifstream stream(file, std::ios::binary);
-  if (!stream) Fail(file, LastError());
-  std::string text(std::istreambuf_iterator<char>(stream), {});
-  if (stream.bad()) Fail(file, LastError());
-  return text;
+  if (!input) Fail(file, LastError());
+  FileText text;
+  try {
+    if (!text.AppendRest(*input)) Fail(file, "grows while it is read");
+  } catch (const std::ios_base::failure&) {
+    Fail(file, LastError());
+  }
+  return std::string(text.bytes());
+}
+
+void ExpectWritable(const std::filesystem::path& file, bool overwrite) {
+  const auto status = std::filesystem::symlink_status(file);
+  if (!std::filesystem::exists(status)) return;
+  if (!overwrite) Fail(file, "exists already; --force overwrites it");
+  if (std::filesystem::is_directory(status)) Fail(file, "is a folder");
 }
 
 void WriteWholeFile(const std::filesystem::path& file, std::string_view text,
                     bool overwrite) {
-  if (!overwrite && std::filesystem::exists(file)) {
-    Fail(file, "exists already; --force overwrites it");
-  }
+  ExpectWritable(file, overwrite);
   if (file.has_parent_path()) {
     std::filesystem::create_directories(file.parent_path());
   }
-  std::ofstream stream(file, std::ios::binary | std::ios::trunc);
-  stream.write(text.data(), static_cast<std::streamsize>(text.size()));
-  stream.close();
-  if (!stream) Fail(file, LastError());
+  std::filesystem::remove(file);
+  std::FILE* stream = std::fopen(file.c_str(), "wbx");
+  if (stream == nullptr) Fail(file, LastError());
+  const bool written =
+      std::fwrite(text.data(), 1, text.size(), stream) == text.size();
+  if (std::fclose(stream) != 0 || !written) Fail(file, LastError());
 }
 
 }  // namespace velmohelp::tool

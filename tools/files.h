@@ -2,24 +2,34 @@
 #ifndef TOOLS_FILES_H_
 #define TOOLS_FILES_H_
 
-#include <cstdint>
 #include <filesystem>
+#include <stdexcept>
 #include <string>
 #include <string_view>
 
+#include "util/input_file.h"
+
 namespace velmohelp::tool {
 
-/// As much as the client reads of a help map.
-inline constexpr std::uintmax_t kLargestFile = std::uintmax_t{256} << 20;
+/// A file cannot be read or written. what() names it and says why.
+class FileError : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
 
-/// The bytes of a regular file. Throws std::runtime_error with a text for the
-/// person when it cannot be read, is not a regular file or is larger than
-/// kLargestFile.
-std::string ReadWholeFile(const std::filesystem::path& file);
+/// The bytes of a regular file. Throws FileError when it cannot be read, is not
+/// a regular file or is longer than limit, by default as much as the client
+/// reads of a help map.
+std::string ReadWholeFile(const std::filesystem::path& file,
+                          std::size_t limit = kHelpMapLimit);
 
-/// Writes a new file, with the folders above it. Throws std::runtime_error when
-/// that fails; a file that is there already is left as it is then, unless
-/// overwrite is set.
+/// Throws FileError when something is at file already, unless overwrite is set.
+void ExpectWritable(const std::filesystem::path& file, bool overwrite);
+
+/// Writes a new file, with the folders above it. Throws FileError when that
+/// fails; what is there already is left as it is then, unless overwrite is set.
+/// A symbolic link is replaced, not followed: its target is not the file that
+/// the person named.
 void WriteWholeFile(const std::filesystem::path& file, std::string_view text,
                     bool overwrite);
 

@@ -1,15 +1,14 @@
 #include "tools/import/help_map_text.h"
 
-#include <velmohelp/resolve.h>
-
 #include <unordered_map>
 
+#include "resolve/help_map/help_map.h"
+#include "resolve/page_id.h"
 #include "tools/page_key.h"
+#include "tools/printable.h"
 
 namespace velmohelp::tool {
 namespace {
-
-constexpr char kHomeKey[] = "VX_HOME";
 
 /// A map has no way to write a tab or a line end inside a field.
 bool FitsField(const std::string& text) {
@@ -24,11 +23,11 @@ class Writer {
     if (!FitsField(options_.home)) {
       throw ImportError("the home page's name is empty or has a tab in it");
     }
-    Append(kHomeKey, options_.prefix + options_.home);
+    Append(kHomePageKey, options_.prefix + options_.home);
   }
 
   void Write(const IdRow& row) {
-    if (isUrl(row.id))
+    if (IsUrl(row.id))
       return Remark(row, "is a URL, which no map is asked for");
     const std::string key = PageKey(row.id);
     const std::string page = PageOf(row.target);
@@ -46,27 +45,28 @@ class Writer {
 
  private:
   std::string PageOf(const std::string& target) const {
-    return isUrl(target) ? target : options_.prefix + target;
+    return IsUrl(target) ? target : options_.prefix + target;
   }
 
   static tool::Remark Renamed(const IdRow& row, const std::string& key) {
-    return {row.line, "\"" + row.id + "\" is looked up as \"" + key + "\""};
+    return {row.line, Quoted(row.id) + " is looked up as " + Quoted(key), true};
   }
 
   void Remark(const IdRow& row, const std::string& why) {
     result_.remarks.push_back(
-        {row.line, "\"" + row.id + "\" " + why + "; left out"});
+        {row.line, Quoted(row.id) + " " + why + "; left out"});
   }
 
   /// Two ids of one page are the same entry, and no collision.
   void Collide(const IdRow& row, const std::string& key,
                const std::string& first, const std::string& second) {
     if (first == second) return;
-    const std::string why = "has the key \"" + key + "\", which leads to \"" +
-                            first + "\" already, not to \"" + second + "\"";
+    const std::string why = "has the key " + Quoted(key) + ", which leads to " +
+                            Quoted(first) + " already, not to " +
+                            Quoted(second);
     if (options_.on_collision == OnCollision::kError) {
-      throw ImportError("line " + std::to_string(row.line) + ": \"" + row.id +
-                        "\" " + why);
+      throw ImportError("line " + std::to_string(row.line) + ": " +
+                        Quoted(row.id) + " " + why);
     }
     Remark(row, why);
   }

@@ -16,7 +16,7 @@ struct HelpMapOptions {
   /// The page of the entry VX_HOME, relative to the content folder.
   std::string home;
   /// Stands before each target that is not a URL: "html/".
-  std::string prefix;
+  std::string prefix = {};
   OnCollision on_collision = OnCollision::kFirst;
 };
 

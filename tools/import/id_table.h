@@ -21,7 +21,10 @@ struct IdRow {
 /// Something that the person who imports should know.
 struct Remark {
   std::size_t line = 0;
+  /// Printable.
   std::string text;
+  /// The id is in the map, written in another way: nothing is lost.
+  bool is_renaming = false;
 };
 
 struct IdTable {

@@ -36,8 +36,20 @@ class PairScanner {
   }
 
   bool SkipToQuote() {
-    while (!rest_.empty() && !AtQuote()) Pop();
+    while (!rest_.empty() && !AtQuote()) {
+      if (rest_.starts_with("//")) {
+        SkipTo("\n");
+      } else if (rest_.starts_with("/*")) {
+        SkipTo("*/");
+      } else {
+        Pop();
+      }
+    }
     return !rest_.empty();
+  }
+
+  void SkipTo(std::string_view end) {
+    while (!rest_.empty() && !rest_.starts_with(end)) Pop();
   }
 
   void SkipSpace() {

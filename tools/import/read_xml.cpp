@@ -46,8 +46,11 @@ class RowsOfElements : public pugi::xml_tree_walker {
   IdTable Take() { return std::move(table_); }
 
  private:
-  /// Elements come in the order of the text, so each line end counts once.
+  /// Elements come in the order of the text, so each line end counts once. The
+  /// parser converts UTF-16 first, which may make its text longer than this
+  /// one.
   void AdvanceTo(std::ptrdiff_t offset) {
+    offset = std::min(offset, std::ssize(xml_));
     if (offset < at_) return;
     const auto begin = xml_.begin();
     line_ +=
