@@ -25,7 +25,7 @@ InitReturnCode Initialise(const Client& client, const char* product,
 /// See ::GetVelmoHelpClientOnlineStatus.
 OnlineStatusReturnCode OnlineStatusOf(const Client& client);
 
-/// Probes the network, and whether its use is allowed, for the state's flag.
+/// Sets is_online: online help is allowed, and its server can be reached.
 void RefreshOnlineStatus(const Client& client);
 
 /// See ::DisplayVelmoHelpClientPage.

@@ -24,7 +24,7 @@ std::string WithoutZeroes(std::string_view bytes) {
   return text;
 }
 
-/// Half a file says nothing, and neither does one that grows beyond its limit.
+/// False for a read error, and for a file that grows beyond its limit.
 bool ReadWhole(InputFile& file, FileText& text) {
   try {
     return text.AppendRest(file);

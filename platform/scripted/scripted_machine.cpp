@@ -13,7 +13,7 @@ std::string Quoted(const std::string& word) {
   return plain ? word : '"' + word + '"';
 }
 
-Arguments Sentence(const char* verb, const std::string& program,
+Arguments Question(const char* verb, const std::string& program,
                    const Arguments& arguments) {
   Arguments words = {verb, program};
   words.insert(words.end(), arguments.begin(), arguments.end());
@@ -116,19 +116,19 @@ std::optional<std::string> ScriptedMachine::ApplicationExecutable(
 
 std::optional<int> ScriptedMachine::RunToEnd(const std::string& program,
                                              const Arguments& arguments) {
-  Record(Sentence("RunToEnd", program, arguments));
+  Record(Question("RunToEnd", program, arguments));
   return Lookup(exit_statuses_, {WithSingleSlashes(program), arguments});
 }
 
 std::optional<std::string> ScriptedMachine::FirstOutput(
     const std::string& program, const Arguments& arguments) {
-  Record(Sentence("FirstOutput", program, arguments));
+  Record(Question("FirstOutput", program, arguments));
   return Lookup(outputs_, {WithSingleSlashes(program), arguments});
 }
 
 bool ScriptedMachine::StartProgram(const std::string& program,
                                    const Arguments& arguments) {
-  Record(Sentence("StartProgram", program, arguments));
+  Record(Question("StartProgram", program, arguments));
   return startable_.contains(WithSingleSlashes(program));
 }
 
