@@ -9,9 +9,9 @@
 
 namespace velmohelp {
 
-/// The time that one request has for all of its fetches. The person who waits
-/// for help gives up on a slow server sooner than the folders run out, each of
-/// which would cost another timeout.
+/// The time that one request has for all of its fetches. Without it every
+/// content folder would cost another timeout, and the person at the keyboard
+/// would wait for minutes for a slow server.
 class FetchBudget {
  public:
   /// Machine::FetchText, with a page's timeout or with the time that is left.

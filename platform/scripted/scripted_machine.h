@@ -50,8 +50,8 @@ class ScriptedMachine : public Machine {
                      PreferenceScope scope, const std::string& value);
   /// A URL at which there is a text.
   void AddText(const std::string& url) { texts_.insert(url); }
-  /// How far a fetch of the URL advances the clock, which otherwise stands
-  /// still. One that takes longer than its timeout fails when that has passed.
+  /// How far a fetch of the URL advances the clock, which otherwise does
+  /// not move. One that takes longer than its timeout fails at its timeout.
   void SetFetchTime(const std::string& url, std::chrono::milliseconds time) {
     fetch_times_[url] = time;
   }

@@ -1,5 +1,4 @@
-// One request has twenty seconds for all the pages that it loads, and each
-// request has them anew.
+// Each request has twenty seconds of its own for all the pages that it loads.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -10,10 +9,10 @@ namespace {
 
 using namespace std::chrono_literals;
 using testing::ClientWorld;
-using testing::ContentFolder;
-using testing::OwnName;
 using ::testing::Contains;
+using testing::ContentFolder;
 using ::testing::Not;
+using testing::OwnName;
 
 std::string Url(const std::string& folder, const std::string& page) {
   return "http://localhost/help/" + OwnName(folder) + "/" + page;

@@ -1,4 +1,4 @@
-// Files that are no configuration, no preferences and no help map.
+// Broken configurations, preferences and help maps.
 #include <linux/securebits.h>
 #include <sys/prctl.h>
 #include <sys/stat.h>
@@ -11,12 +11,12 @@ namespace {
 
 using std::string_literals::operator""s;
 
-/// The longest file that is read: any but a help map.
+/// The longest file that is read, except for help maps.
 constexpr std::size_t kLongest = 16U << 20U;
-/// A help map, which may be longer.
+/// For help maps, which may be longer.
 constexpr std::size_t kHuge = 100U << 20U;
 
-/// The beginning of a program: no key is in it, and no text.
+/// The beginning of a program: without keys, and not text.
 const std::string kBinary = "\x7F\x45LF\x02\x01\x01\x00\xFF\xFE\xC3\x28\t\r"s;
 
 Change Directory(const std::string& name) {
@@ -45,12 +45,12 @@ Change Unreadable(const std::string& name) {
   };
 }
 
-/// So many bytes, the last of which are a text.
+/// This many bytes, with a text at their end.
 std::string Ending(const std::string& text, std::size_t size) {
   return std::string(size - text.size(), 'x') + text;
 }
 
-/// A file of so many bytes that begins or ends with a text.
+/// A file of this many bytes that begins or ends with a text.
 Change FileThatBegins(const std::string& name, const std::string& text,
                       std::size_t size) {
   return [=](HelpWorld& world) {
@@ -65,18 +65,18 @@ Change FileThatEnds(const std::string& name, const std::string& text,
 struct BadConfig {
   const char* sentence;
   Change change;
-  const char* answer;
+  const char* code;
 };
 
 void PrintTo(const BadConfig& row, std::ostream* out) { *out << row.sentence; }
 
 class ABadConfiguration : public ::testing::TestWithParam<BadConfig> {};
 
-TEST_P(ABadConfiguration, IsAnsweredAndForgotten) {
+TEST_P(ABadConfiguration, GivesACodeAndIsForgotten) {
   HelpWorld world;
   GetParam().change(world);
-  EXPECT_EQ(world.Ask({"initialise", "Foo", "en_US"}), GetParam().answer);
-  EXPECT_EQ(world.Ask(Search("x")), GetParam().answer == "6"s ? "4" : "5");
+  EXPECT_EQ(world.Ask({"initialise", "Foo", "en_US"}), GetParam().code);
+  EXPECT_EQ(world.Ask(Search("x")), GetParam().code == "6"s ? "4" : "5");
   world.Remove("{config}");
   world.Configure();
   EXPECT_TRUE(world.Initialise());
@@ -93,17 +93,17 @@ INSTANTIATE_TEST_SUITE_P(
         BadConfig{"a binary file", File("{config}", kBinary), "7"},
         BadConfig{"a file full of zero bytes",
                   File("{config}", std::string(1U << 20U, '\0')), "7"},
-        BadConfig{"as many bytes of nothing as are read",
+        BadConfig{"a file of the longest length without keys",
                   FileThatEnds("{config}", "", kLongest), "7"},
-        BadConfig{"a byte more than is read",
+        BadConfig{"a file that is one byte too long",
                   FileThatEnds("{config}", "", kLongest + 1), "6"},
         BadConfig{"no closing quote",
                   File("{config}", "<help path=\"Cfg id=en_US_Foo"), "7"},
-        BadConfig{"no closing quote behind the path",
+        BadConfig{"no closing quote after the path",
                   File("{config}", "<help path=\"Cfg\" id=\"en_US_Foo"), "7"}),
     SentenceOf());
 
-/// A hundred folders are looked at, and what comes behind them is not.
+/// The first hundred folders are looked at, and no further one.
 TEST(AConfigurationWithTooManyFolders, HasTheFirstHundred) {
   HelpWorld world;
   const ContentFolder own = world.config().folders.front();
@@ -156,7 +156,7 @@ INSTANTIATE_TEST_SUITE_P(
                         File(kPreferences, std::string(4096, '\0'))),
         WithPreferences("no closing quote",
                         File(kPreferences, "accessibleMode=\"TRUE")),
-        WithPreferences("a byte more than is read",
+        WithPreferences("a file that is one byte too long",
                         FileThatEnds(kPreferences, kAccessible, kLongest + 1))),
     SentenceOf());
 
@@ -168,13 +168,13 @@ TEST(LongViewerPreferences, AreReadToTheirEnd) {
 constexpr char kMap[] = "{installed}/helpmap.txt";
 
 Route WithMap(const char* sentence, const Change& change,
-              const std::string& answer, const Words& started) {
-  return {sentence, {change, kPage}, Display("intro"), answer, started};
+              const std::string& code, const Words& started) {
+  return {sentence, {change, kPage}, Display("intro"), code, started};
 }
 
 class ABadHelpMap : public ::testing::TestWithParam<Route> {};
 
-TEST_P(ABadHelpMap, IsAnswered) { Follow(GetParam()); }
+TEST_P(ABadHelpMap, GivesACode) { Follow(GetParam()); }
 
 INSTANTIATE_TEST_SUITE_P(
     Rows, ABadHelpMap,
@@ -196,7 +196,7 @@ INSTANTIATE_TEST_SUITE_P(
                 "0", kInViewer)),
     SentenceOf());
 
-/// Online help is on where nobody has legibly switched it off.
+/// Online help is on unless a file that can be read switches it off.
 constexpr char kOff[] = "[Preferences]\nVelmoOnlineDefault=0\n";
 constexpr char kUserFile[] = "{settings}/velmo/com.velmo.VelmoOnlineHelp.conf";
 
@@ -219,10 +219,10 @@ INSTANTIATE_TEST_SUITE_P(
         WithUserFile("a binary file", File(kUserFile, kBinary)),
         WithUserFile("a file full of zero bytes",
                      File(kUserFile, std::string(4096, '\0'))),
-        WithUserFile("a value that is no text",
+        WithUserFile("a value that is not valid UTF-8",
                      File(kUserFile,
                           "[Preferences]\nVelmoOnlineDefault=\xFF\n")),
-        WithUserFile("a byte more than is read",
+        WithUserFile("a file that is one byte too long",
                      FileThatBegins(kUserFile, kOff, kLongest + 1))),
     SentenceOf());
 

@@ -1,4 +1,4 @@
-// A request from end to end: what is answered, and what is started with exactly
+// A request from end to end: what it returns, and what is started with exactly
 // which arguments.
 #ifndef TESTS_SYSTEM_ROUTES_H_
 #define TESTS_SYSTEM_ROUTES_H_
@@ -16,7 +16,7 @@ struct Route {
   const char* sentence;
   Changes changes;
   Words request;
-  std::string answer;
+  std::string code;
   /// The argument vector of what is started; empty for nothing.
   Words started;
 };
@@ -42,7 +42,7 @@ inline void Follow(const Route& route) {
   HelpWorld world;
   Apply(route.changes, world);
   ASSERT_TRUE(world.Initialise());
-  EXPECT_EQ(world.Ask(route.request), route.answer);
+  EXPECT_EQ(world.Ask(route.request), route.code);
   EXPECT_EQ(world.Started(), world.Expanded(route.started));
 }
 
