@@ -107,7 +107,6 @@ class PortalDouble {
   void Respond(GDBusConnection* from, unsigned response);
 
   PortalBehaviour behaviour_;
-  ServiceThread thread_;
   ObjectPtr<GDBusConnection> bus_;
   ObjectPtr<GDBusConnection> other_client_;
   std::string method_;
@@ -115,6 +114,8 @@ class PortalDouble {
   std::string caller_;
   std::string handle_;
   std::promise<void> called_;
+  /// Ends first: it may still be in a call, after it has responded.
+  ServiceThread thread_;
 };
 
 }  // namespace velmohelp::testing
