@@ -2,9 +2,10 @@
  *
  * Conventions of this interface, for C11 and C++20 callers alike:
  *
- *  1. A converter takes the address of the source cursor, the end of the source,
- *     the address of the target cursor and the end of the target. It moves both
- *     cursors past what it has converted. An end points one unit past the last.
+ *  1. A converter takes the address of the source cursor, the end of the
+ *     source, the address of the target cursor and the end of the target. It
+ *     moves both cursors past what it has converted. An end points one unit
+ *     past the last.
  *  2. A converter always stops between two characters: the source cursor is at
  *     the first unit of the character that was not converted, the target cursor
  *     after the last unit written. On return the target is unchanged from there
