@@ -42,6 +42,7 @@ HelpConfigStatus UpdateHelpConfig(Machine& machine,
                                   const std::string& locale) {
   state.help_path_count = kHelpPathCapacity;
   // Each read may replace the state's locale, and the argument with it.
+  // NOLINTNEXTLINE(performance-unnecessary-copy-initialization)
   const std::string asked_locale = locale;
   const std::string installed =
       InstalledConfigPath(machine, state.product_id, asked_locale);

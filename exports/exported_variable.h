@@ -9,9 +9,12 @@
 
 /// Makes an exported name another name of the variable in velmohelp::own, which
 /// the same file defines.
+// NOLINTBEGIN(bugprone-macro-parentheses): the name of a declaration takes
+// none.
 #define VELMO_EXPORT_OWN(name)                        \
   extern "C" decltype(::name) name                    \
       __attribute__((alias(VELMO_OWN_SYMBOL(name)))); \
   VELMO_PROTECT(name)
+// NOLINTEND(bugprone-macro-parentheses)
 
 #endif  // EXPORTS_EXPORTED_VARIABLE_H_

@@ -11,7 +11,8 @@ bool IsScheme(std::string_view text) {
   constexpr std::string_view kMarks = "+-.";
   return IsAsciiAlpha(text.front()) &&
          std::ranges::all_of(text, [&](char byte) {
-           return IsAsciiAlnum(byte) || kMarks.find(byte) != kMarks.npos;
+           return IsAsciiAlnum(byte) ||
+                  kMarks.find(byte) != std::string_view::npos;
          });
 }
 

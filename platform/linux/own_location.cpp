@@ -89,8 +89,9 @@ std::optional<std::string> FindOwnFolder() {
 class FixedPath {
  public:
   explicit FixedPath(const std::optional<std::string>& path) {
-    if (path && path->size() <= sizeof text_)
+    if (path && path->size() <= sizeof text_) {
       size_ = path->copy(text_, sizeof text_);
+    }
   }
   std::optional<std::string> path() const {
     return size_ > 0 ? std::optional(std::string(text_, size_)) : std::nullopt;

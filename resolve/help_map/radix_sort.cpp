@@ -65,8 +65,9 @@ class Sorter {
         entry.bytes = BytesAt(entry.start + depth, end_);
       }
     }
-    if (entries.size() <= kSmallGroup || depth >= kGreatestDepth)
+    if (entries.size() <= kSmallGroup || depth >= kGreatestDepth) {
       return SortByComparison(entries);
+    }
     GroupByByte(entries, depth);
     for (std::size_t end = 0; end < entries.size();) {
       const std::size_t start = end;

@@ -51,6 +51,9 @@ using velmohelp::testing::AllocateAligned;
 using velmohelp::testing::OrThrow;
 
 // All of them: a sanitizer brings its own for each that is not replaced.
+// The C++ library has to find all of these. Clang declares the sized ones
+// nowhere, so they would be hidden from it.
+#pragma GCC visibility push(default)
 void* operator new(std::size_t size) { return OrThrow(Allocate(size)); }
 void* operator new[](std::size_t size) { return OrThrow(Allocate(size)); }
 void* operator new(std::size_t size, const std::nothrow_t&) noexcept {
@@ -89,3 +92,4 @@ void operator delete(void* memory, std::size_t, std::align_val_t) noexcept {
 void operator delete[](void* memory, std::size_t, std::align_val_t) noexcept {
   std::free(memory);
 }
+#pragma GCC visibility pop

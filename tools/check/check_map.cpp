@@ -79,7 +79,7 @@ class Check {
     const std::string_view value = line.value;
     if (IsUrl(value)) {
       const bool has_host =
-          value.starts_with("file:") || HostOfUri(value).value_or("") != "";
+          value.starts_with("file:") || !HostOfUri(value).value_or("").empty();
       if (IsUri(value) && has_host) return;
       Add(rules::kNotAUrl, line.PositionOf(value),
           Quoted(value) + " is not a valid URL; the client finds no page");

@@ -11,6 +11,7 @@
 #include "tools/lines.h"
 #include "tools/page_key.h"
 #include "tools/printable.h"
+#include "util/str_cat.h"
 
 namespace velmohelp::tool {
 namespace {
@@ -80,8 +81,8 @@ void CompareNames(const Translations& maps, const std::string& kind,
       findings.push_back({&rules::kMissingInLocale,
                           map->path().string(),
                           {},
-                          locale + " lacks the " + kind + " " + Quoted(name) +
-                              ", which " + owner + " has"});
+                          StrCat({locale, " lacks the ", kind, " ",
+                                  Quoted(name), ", which ", owner, " has"})});
     }
   }
 }

@@ -91,8 +91,7 @@ void AddInputsOf(const fs::path& path, Inputs& inputs) {
 
 void SortUnique(std::vector<fs::path>& paths) {
   std::ranges::sort(paths);
-  const auto rest = std::ranges::unique(paths);
-  paths.erase(rest.begin(), rest.end());
+  paths.erase(std::unique(paths.begin(), paths.end()), paths.end());
 }
 
 }  // namespace

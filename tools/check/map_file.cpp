@@ -11,7 +11,7 @@ namespace {
 
 /// Removes the first line and its end from text and returns it.
 std::string_view PopLine(std::string_view& text) {
-  const auto end = std::ranges::find_if(text, EndsLine);
+  const auto* end = std::ranges::find_if(text, EndsLine);
   const std::string_view line(text.begin(), end);
   text.remove_prefix(line.size());
   if (text.starts_with("\r\n")) {

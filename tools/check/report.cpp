@@ -54,7 +54,7 @@ Json SarifRules() {
 }
 
 Json SarifResult(const Finding& finding) {
-  const auto rule = std::ranges::find(rules::kAll, finding.rule);
+  const auto* rule = std::ranges::find(rules::kAll, finding.rule);
   const Json location = {
       {"physicalLocation",
        {{"artifactLocation", {{"uri", UriOfPath(finding.file)}}},

@@ -27,8 +27,9 @@ class Writer {
   }
 
   void Write(const IdRow& row) {
-    if (IsUrl(row.id))
+    if (IsUrl(row.id)) {
       return Remark(row, "is a URL, which no map is asked for");
+    }
     const std::string key = PageKey(row.id);
     const std::string page = PageOf(row.target);
     if (!FitsField(key) || !FitsField(page)) {

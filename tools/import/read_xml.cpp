@@ -7,7 +7,7 @@ namespace velmohelp::tool {
 namespace {
 
 std::size_t LineAt(std::string_view text, std::ptrdiff_t offset) {
-  const auto end =
+  const auto* end =
       text.begin() + std::min<std::ptrdiff_t>(offset, std::ssize(text));
   return 1 + static_cast<std::size_t>(std::count(text.begin(), end, '\n'));
 }
@@ -52,7 +52,7 @@ class RowsOfElements : public pugi::xml_tree_walker {
   void AdvanceTo(std::ptrdiff_t offset) {
     offset = std::min(offset, std::ssize(xml_));
     if (offset < at_) return;
-    const auto begin = xml_.begin();
+    const auto* begin = xml_.begin();
     line_ +=
         static_cast<std::size_t>(std::count(begin + at_, begin + offset, '\n'));
     at_ = offset;
