@@ -120,6 +120,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 /// Nothing can be read, and nothing breaks.
 TEST(AHostWithAFullDescriptorTable, IsServed) {
+  if (VELMO_TEST_SANITIZED) GTEST_SKIP() << "the sanitizer needs descriptors";
   HelpWorld world;
   ASSERT_TRUE(world.Initialise());
   ASSERT_EQ(world.Ask({"fill descriptors", "0"}), "filled");
@@ -143,6 +144,7 @@ TEST(AHostWithOneDescriptorLeft, ShowsHelpInTheViewer) {
 
 /// No helper can be asked for the browser.
 TEST(AHostWithOneDescriptorLeft, OpensNoBrowser) {
+  if (VELMO_TEST_SANITIZED) GTEST_SKIP() << "the sanitizer needs descriptors";
   HelpWorld world;
   Apply({NoViewer(), File("{installed}/intro.html")}, world);
   ASSERT_TRUE(world.Initialise());
