@@ -1,5 +1,6 @@
 #include "tools/printable.h"
 
+#include "util/str_cat.h"
 #include "util/utf8.h"
 
 namespace velmohelp::tool {
@@ -50,7 +51,7 @@ std::string Printable(std::string_view text) {
 }
 
 std::string Quoted(std::string_view text) {
-  return "\"" + Printable(text) + "\"";
+  return StrCat({"\"", Printable(text), "\""});
 }
 
 }  // namespace velmohelp::tool
