@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
+#include <thread>
+
 #include "platform/linux/helpers/browser_portal.h"
 #include "tests/support/sentence.h"
 #include "tests/support/temporary_directory.h"
@@ -93,6 +95,7 @@ INSTANTIATE_TEST_SUITE_P(
                     .behaviour = {.response = {}, .own_handle = true}}),
     testing::SentenceOf());
 
+/// The bus learns of it a moment later; one that stays makes this wait forever.
 TEST(PortalRequest, LeavesTheBusAtItsEnd) {
   const testing::PrivateBus bus;
   PortalDouble portal({.response = {}});
@@ -100,7 +103,7 @@ TEST(PortalRequest, LeavesTheBusAtItsEnd) {
     PortalRequest request(kUrl);
     portal.AwaitCall();
   }
-  EXPECT_FALSE(portal.caller_is_on_the_bus());
+  while (portal.caller_is_on_the_bus()) std::this_thread::yield();
 }
 
 TEST(PortalRequest, EndsWithTheBus) {
