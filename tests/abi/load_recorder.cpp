@@ -50,6 +50,9 @@ void Free(void* memory) {
 
 // The name is the C++ runtime's, and reserved for it: taking its place is the
 // point.
+#ifdef __clang__
+#pragma clang diagnostic ignored "-Wreserved-identifier"
+#endif
 // NOLINTNEXTLINE(bugprone-reserved-identifier)
 extern "C" __attribute__((visibility("default"))) int __cxa_atexit(
     Destructor destroy, void* object, void* library) {

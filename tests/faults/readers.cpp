@@ -1,5 +1,6 @@
 #include "tests/faults/readers.h"
 
+#include <gtest/gtest.h>
 #include <velmohelp/config.h>
 #include <velmohelp/resolve.h>
 

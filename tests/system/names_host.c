@@ -6,12 +6,14 @@
 #include <string.h>
 #include <velmohelp/velmohelp.h>
 
+/* NOLINTBEGIN(bugprone-macro-parentheses): a declared name takes none. */
 #define HOST_VARIABLE(name)                                      \
   __attribute__((visibility("default"))) char name[256] = #name; \
   static int Keeps_##name(void) {                                \
     char pattern[256] = #name;                                   \
     return memcmp(name, pattern, sizeof pattern) == 0;           \
   }
+/* NOLINTEND(bugprone-macro-parentheses) */
 
 HOST_VARIABLE(sAppID)
 HOST_VARIABLE(sPublisherID)
