@@ -1,12 +1,13 @@
 #include "tests/support/children.h"
 
 #include <sys/prctl.h>
+#include <sys/socket.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <array>
 #include <csignal>
 #include <fstream>
-#include <string>
 
 namespace velmohelp::testing {
 namespace {
@@ -45,6 +46,40 @@ bool InACopy(const std::function<bool()>& steps) {
   int status = -1;
   waitpid(copy, &status, 0);
   return status == 0;
+}
+
+CopyBeforeThreads::CopyBeforeThreads(
+    const std::function<bool(const std::string&)>& steps) {
+  std::array<int, 2> ends = {-1, -1};
+  socketpair(AF_UNIX, SOCK_SEQPACKET | SOCK_CLOEXEC, 0, ends.data());
+  connection_ = ends[0];
+  copy_ = fork();
+  if (copy_ != 0) {
+    close(ends[1]);
+    return;
+  }
+  std::array<char, 4096> argument = {};
+  for (ssize_t size = 0;
+       (size = recv(ends[1], argument.data(), argument.size(), 0)) > 0;) {
+    const std::string text(argument.data(), static_cast<std::size_t>(size));
+    const char result = InACopy([&] { return steps(text); }) ? 1 : 0;
+    send(ends[1], &result, sizeof result, 0);
+  }
+  _exit(0);
+}
+
+CopyBeforeThreads::~CopyBeforeThreads() {
+  kill(copy_, SIGKILL);
+  waitpid(copy_, nullptr, 0);
+  close(connection_);
+}
+
+bool CopyBeforeThreads::Run(const std::string& argument) const {
+  char result = 0;
+  return send(connection_, argument.data(), argument.size(), MSG_NOSIGNAL) >
+             0 &&
+         recv(connection_, &result, sizeof result, 0) == sizeof result &&
+         result != 0;
 }
 
 }  // namespace velmohelp::testing

@@ -7,6 +7,7 @@
 #include <sys/types.h>
 
 #include <functional>
+#include <string>
 #include <vector>
 
 namespace velmohelp::testing {
@@ -25,6 +26,24 @@ void AwaitEndOfChildren();
 /// Runs a test's steps in a copy of this process, which they may change as
 /// they like; true when they return true.
 bool InACopy(const std::function<bool()>& steps);
+
+/// The same for a test that starts threads: made before them, since a copy of a
+/// process with threads inherits the locks that they hold at that moment.
+class CopyBeforeThreads {
+ public:
+  explicit CopyBeforeThreads(
+      const std::function<bool(const std::string&)>& steps);
+  CopyBeforeThreads(const CopyBeforeThreads&) = delete;
+  CopyBeforeThreads& operator=(const CopyBeforeThreads&) = delete;
+  ~CopyBeforeThreads();
+
+  /// Runs the steps in a copy of the copy, with a text of this process.
+  bool Run(const std::string& argument) const;
+
+ private:
+  pid_t copy_;
+  int connection_;
+};
 
 }  // namespace velmohelp::testing
 

@@ -27,28 +27,40 @@ class Sandbox : public ::testing::Test {
     directory_.Write("resolv.conf", "");
   }
   void SetUp() override {
+    directory_.Write("info", info_);
     if (!testing::InACopy([&] { return Enter(); })) {
       GTEST_SKIP() << "this system lets the test make no file system";
     }
   }
 
   bool Opens(const std::string& url) {
-    return testing::InACopy([&] {
-      return Enter() && LinuxMachine(VELMO_TEST_HELPERS).OpenInBrowser(url);
-    });
+    directory_.Write("info", info_);
+    return copy_.Run(std::string(getenv(kBusAddress)) + '\n' + url);
   }
 
  private:
+  static constexpr char kBusAddress[] = "DBUS_SESSION_BUS_ADDRESS";
+
   /// The machine's own browsers are out of sight.
   bool Enter() {
     for (const char* name : {"XDG_DATA_DIRS", "XDG_DATA_HOME"}) {
       setenv(name, directory_.path().c_str(), 1);
     }
     return testing::EnterOwnFiles(directory_.path()) &&
-           (std::ofstream("/.flatpak-info") << info_ << std::flush).good();
+           std::filesystem::copy_file(directory_.path() + "/info",
+                                      "/.flatpak-info");
+  }
+  bool OpenInside(const std::string& bus_and_url) {
+    const std::size_t end = bus_and_url.find('\n');
+    setenv(kBusAddress, bus_and_url.substr(0, end).c_str(), 1);
+    return Enter() && LinuxMachine(VELMO_TEST_HELPERS)
+                          .OpenInBrowser(bus_and_url.substr(end + 1));
   }
 
   testing::TemporaryDirectory directory_;
+  /// The bus and the portal have threads.
+  testing::CopyBeforeThreads copy_{
+      [this](const std::string& text) { return OpenInside(text); }};
   testing::PrivateBus bus_;
 
  protected:
