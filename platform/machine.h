@@ -53,6 +53,11 @@ class Machine {
   /// it is missing.
   virtual std::optional<std::string> PreferencesFolder(bool create) = 0;
 
+  /// From now on another executable is the host program: resources and bundles
+  /// are looked up from it. nullopt: this process's own again. False, and no
+  /// change, when no file can have the path.
+  virtual bool SetHost(const std::optional<std::string>& executable) = 0;
+
   /// The directory of the host program's own resources.
   virtual std::optional<std::string> ResourcesDirectory() = 0;
 
@@ -81,6 +86,11 @@ class Machine {
 
   /// Opens a URL, unchanged, with the user's default browser.
   virtual bool OpenInBrowser(const std::string& url) = 0;
+
+  /// What OpenInBrowser would use now, without starting or asking anything to
+  /// open: the words of a command line, or none when the desktop would open the
+  /// URL itself, as it does for a sandbox. nullopt when nothing opens it.
+  virtual std::optional<Arguments> FindBrowser(const std::string& url) = 0;
 
   /// Whether there is a route to a host; nullopt when that is unknown, and
   /// always without a host. Bounded in time.

@@ -10,8 +10,8 @@
 namespace velmohelp {
 
 /// The argument vector that an answer asks to start; its program is an absolute
-/// path. Empty when the desktop opened the URL itself. nullopt when nothing
-/// opens the URL, or the answer is not complete.
+/// path. Empty when the desktop opened the URL itself, or would. nullopt when
+/// nothing opens the URL, or the answer is not complete.
 std::optional<Arguments> ParseBrowserAnswer(std::string_view answer);
 
 }  // namespace velmohelp

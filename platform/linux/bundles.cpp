@@ -15,12 +15,10 @@ std::string ApplicationName(const std::string& directory) {
   return name;
 }
 
-std::vector<std::string> BundleFolders() {
+std::vector<std::string> BundleFolders(const std::optional<std::string>& host) {
   std::vector<std::string> folders;
   if (const auto own = OwnFolder()) folders.push_back(*own);
-  if (const auto host = HostExecutable()) {
-    folders.push_back(Dirname(*host) + "/../Frameworks");
-  }
+  if (host) folders.push_back(Dirname(*host) + "/../Frameworks");
   folders.emplace_back(kFrameworksDir);
   return folders;
 }
@@ -33,10 +31,11 @@ std::optional<std::string> ResourcesOf(const std::string& executable) {
   return FirstDirectory({folder + "/" + name, folder + "/../share/" + name});
 }
 
-std::optional<std::string> FindBundle(const std::string& identifier) {
+std::optional<std::string> FindBundle(const std::string& identifier,
+                                      const std::optional<std::string>& host) {
   // A bundle is named, never a path to it.
   if (identifier.find('/') != std::string::npos) return std::nullopt;
-  std::vector<std::string> paths = BundleFolders();
+  std::vector<std::string> paths = BundleFolders(host);
   for (std::string& path : paths) path += "/" + identifier + ".framework";
   return FirstDirectory(paths);
 }

@@ -13,7 +13,9 @@ std::optional<std::string> ResourcesOf(const std::string& executable);
 
 /// The first directory <identifier>.framework in: the folder of this library's
 /// file, ../Frameworks of the host program's folder, VELMO_FRAMEWORKS_DIR.
-std::optional<std::string> FindBundle(const std::string& identifier);
+/// host: the host's executable, when it is known.
+std::optional<std::string> FindBundle(const std::string& identifier,
+                                      const std::optional<std::string>& host);
 
 /// The executable of an application directory <app>: <app>/bin/<name>, else
 /// <app>/AppRun, else <app>/<name>, where <name> is the directory's own name

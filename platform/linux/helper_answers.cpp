@@ -1,5 +1,6 @@
 #include "platform/linux/helper_answers.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "platform/linux/browser_command.h"
@@ -16,25 +17,32 @@ using std::chrono::milliseconds;
 constexpr std::size_t kWordLimit = 64;
 constexpr std::size_t kCommandLimit = 1U << 20U;
 
+bool HasZeroByte(const std::string& word) {
+  return word.find('\0') != std::string::npos;
+}
+
+/// nullopt when there is no answer.
+std::optional<Arguments> CommandIn(const std::optional<std::string>& answer) {
+  return answer ? ParseBrowserAnswer(*answer) : std::nullopt;
+}
+
 }  // namespace
 
 HelperAnswers::HelperAnswers(std::string folder, Timeouts timeouts)
     : folder_(std::move(folder)), timeouts_(timeouts) {}
 
 std::optional<std::string> HelperAnswers::Ask(const char* helper,
-                                              const std::string& question,
+                                              const Arguments& question,
                                               milliseconds timeout,
                                               std::size_t limit) const {
   // The helper would see the part before the NUL alone.
-  if (question.find('\0') != std::string::npos) return std::nullopt;
+  if (std::ranges::any_of(question, HasZeroByte)) return std::nullopt;
   return AskHelper(folder_ + "/" + helper, question, timeout, limit);
 }
 
 bool HelperAnswers::OpenInBrowser(const std::string& url) const {
-  const auto answer =
-      Ask("velmohelp-browser", url, timeouts_.browser, kCommandLimit);
-  if (!answer) return false;
-  const auto command = ParseBrowserAnswer(*answer);
+  const auto command = CommandIn(
+      Ask("velmohelp-browser", {url}, timeouts_.browser, kCommandLimit));
   if (!command) return false;
   if (command->empty()) return true;
   return StartDetached(command->front(),
@@ -42,11 +50,17 @@ bool HelperAnswers::OpenInBrowser(const std::string& url) const {
          StartResult::kFailed;
 }
 
+std::optional<Arguments> HelperAnswers::FindBrowser(
+    const std::string& url) const {
+  return CommandIn(Ask("velmohelp-browser", {VELMO_BROWSER_FIND, url},
+                       timeouts_.browser, kCommandLimit));
+}
+
 std::optional<Reachability> HelperAnswers::HostReachability(
     const std::optional<std::string>& host) const {
   if (!host) return std::nullopt;
   const auto answer =
-      Ask("velmohelp-reach", *host, timeouts_.reach, kWordLimit);
+      Ask("velmohelp-reach", {*host}, timeouts_.reach, kWordLimit);
   if (answer == VELMO_REACHABLE) return Reachability{true, false};
   if (answer == VELMO_REACHABLE_ON_CONNECTION) return Reachability{true, true};
   if (answer == VELMO_UNREACHABLE) return Reachability{false, false};
@@ -55,7 +69,7 @@ std::optional<Reachability> HelperAnswers::HostReachability(
 
 bool HelperAnswers::FetchText(const std::string& url,
                               milliseconds timeout) const {
-  return Ask("velmohelp-fetch", url, timeout, kWordLimit) == VELMO_IS_TEXT;
+  return Ask("velmohelp-fetch", {url}, timeout, kWordLimit) == VELMO_IS_TEXT;
 }
 
 }  // namespace velmohelp

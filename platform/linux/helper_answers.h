@@ -21,16 +21,16 @@ class HelperAnswers {
   /// folder: an absolute path, where the helpers are.
   explicit HelperAnswers(std::string folder, Timeouts timeouts = {});
 
-  /// See Machine for all three.
+  /// See Machine for all of them.
   bool OpenInBrowser(const std::string& url) const;
+  std::optional<Arguments> FindBrowser(const std::string& url) const;
   std::optional<Reachability> HostReachability(
       const std::optional<std::string>& host) const;
   bool FetchText(const std::string& url,
                  std::chrono::milliseconds timeout) const;
 
  private:
-  std::optional<std::string> Ask(const char* helper,
-                                 const std::string& question,
+  std::optional<std::string> Ask(const char* helper, const Arguments& question,
                                  std::chrono::milliseconds timeout,
                                  std::size_t limit) const;
 

@@ -28,6 +28,11 @@ HelperAnswers LinuxMachine::Helpers() const {
                        timeouts_);
 }
 
+std::optional<std::string> LinuxMachine::Host() const {
+  const auto host = host_.text();
+  return host ? host : HostExecutable();
+}
+
 std::optional<FileEntry> LinuxMachine::FindFile(const std::string& path) {
   return FindEntry(path);
 }
@@ -36,14 +41,22 @@ std::optional<std::string> LinuxMachine::PreferencesFolder(bool create) {
   return velmohelp::PreferencesFolder(create);
 }
 
+bool LinuxMachine::SetHost(const std::optional<std::string>& executable) {
+  if (!executable) {
+    host_.Clear();
+    return true;
+  }
+  return executable->find('\0') == std::string::npos && host_.Set(*executable);
+}
+
 std::optional<std::string> LinuxMachine::ResourcesDirectory() {
-  const auto executable = HostExecutable();
+  const auto executable = Host();
   return executable ? ResourcesOf(*executable) : std::nullopt;
 }
 
 std::optional<std::string> LinuxMachine::BundleDirectory(
     const std::string& identifier) {
-  return FindBundle(identifier);
+  return FindBundle(identifier, Host());
 }
 
 std::optional<std::string> LinuxMachine::ApplicationExecutable(
@@ -68,6 +81,10 @@ bool LinuxMachine::StartProgram(const std::string& program,
 
 bool LinuxMachine::OpenInBrowser(const std::string& url) {
   return Helpers().OpenInBrowser(url);
+}
+
+std::optional<Arguments> LinuxMachine::FindBrowser(const std::string& url) {
+  return Helpers().FindBrowser(url);
 }
 
 std::optional<Reachability> LinuxMachine::HostReachability(

@@ -3,9 +3,11 @@
 #ifndef PLATFORM_LINUX_LINUX_MACHINE_H_
 #define PLATFORM_LINUX_LINUX_MACHINE_H_
 
+#include <climits>
 #include <optional>
 #include <string>
 
+#include "platform/linux/fixed_text.h"
 #include "platform/linux/helper_answers.h"
 #include "platform/machine.h"
 
@@ -24,7 +26,10 @@ class LinuxMachine : public Machine {
 
  private:
   HelperAnswers Helpers() const;
+  std::optional<std::string> Host() const;
 
+  /// Empty for the program of this process.
+  FixedText<PATH_MAX> host_;
   /// Empty for the one beside the library.
   std::string helper_folder_;
   Timeouts timeouts_;

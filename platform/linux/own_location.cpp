@@ -11,6 +11,7 @@
 #include <memory>
 
 #include "platform/linux/files.h"
+#include "platform/linux/fixed_text.h"
 #include "platform/linux/open_file.h"
 
 namespace velmohelp {
@@ -84,23 +85,11 @@ std::optional<std::string> FindOwnFolder() {
   return file ? std::optional(Dirname(*file)) : std::nullopt;
 }
 
-/// A path in place: no destructor frees it while a thread of an ending process
-/// reads it, and an unloaded library does not leak it.
-class FixedPath {
- public:
-  explicit FixedPath(const std::optional<std::string>& path) {
-    if (path && path->size() <= sizeof text_) {
-      size_ = path->copy(text_, sizeof text_);
-    }
-  }
-  std::optional<std::string> path() const {
-    return size_ > 0 ? std::optional(std::string(text_, size_)) : std::nullopt;
-  }
-
- private:
-  char text_[PATH_MAX] = {};
-  std::size_t size_ = 0;
-};
+FixedText<PATH_MAX> OwnFolderInPlace() {
+  FixedText<PATH_MAX> folder;
+  if (const auto path = FindOwnFolder()) folder.Set(*path);
+  return folder;
+}
 
 }  // namespace
 
@@ -120,8 +109,8 @@ std::optional<std::string> MappedFile(std::string_view maps,
 std::optional<std::string> OwnFolder() {
   // The file stays where it is while it is loaded. Following the links to it
   // costs more than all other questions about bundles.
-  static const FixedPath folder(FindOwnFolder());
-  return folder.path();
+  static const FixedText<PATH_MAX> folder = OwnFolderInPlace();
+  return folder.text();
 }
 
 std::optional<std::string> HostExecutable() {

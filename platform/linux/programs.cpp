@@ -30,13 +30,13 @@ StartResult StartDetached(const std::string& program,
 }
 
 std::optional<std::string> AskHelper(const std::string& program,
-                                     const std::string& question,
+                                     const Arguments& question,
                                      std::chrono::milliseconds timeout,
                                      std::size_t limit) {
   auto pipe = MakePipe();
   if (!pipe) return std::nullopt;
   const auto report = StartProcess({.program = program,
-                                    .arguments = {question},
+                                    .arguments = question,
                                     .output = pipe->write_end.get(),
                                     .drop_errors = true,
                                     .time_limit = timeout});

@@ -24,10 +24,10 @@ enum class StartResult : std::uint8_t { kFailed, kEndedAtOnce, kRunning };
 StartResult StartDetached(const std::string& program,
                           const Arguments& arguments);
 
-/// Runs a helper with one argument and reads its answer, see ReadAnswer. The
+/// Runs a helper with its question and reads its answer, see ReadAnswer. The
 /// system ends a helper that is still running when the time is up.
 std::optional<std::string> AskHelper(const std::string& program,
-                                     const std::string& question,
+                                     const Arguments& question,
                                      std::chrono::milliseconds timeout,
                                      std::size_t limit);
 

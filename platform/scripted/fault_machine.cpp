@@ -12,6 +12,10 @@ std::optional<std::string> FaultMachine::PreferencesFolder(bool create) {
   return machine_.PreferencesFolder(create);
 }
 
+bool FaultMachine::SetHost(const std::optional<std::string>& executable) {
+  return !Fails() && machine_.SetHost(executable);
+}
+
 std::optional<std::string> FaultMachine::ResourcesDirectory() {
   if (Fails()) return std::nullopt;
   return machine_.ResourcesDirectory();
@@ -48,6 +52,11 @@ bool FaultMachine::StartProgram(const std::string& program,
 
 bool FaultMachine::OpenInBrowser(const std::string& url) {
   return !Fails() && machine_.OpenInBrowser(url);
+}
+
+std::optional<Arguments> FaultMachine::FindBrowser(const std::string& url) {
+  if (Fails()) return std::nullopt;
+  return machine_.FindBrowser(url);
 }
 
 std::optional<Reachability> FaultMachine::HostReachability(

@@ -97,6 +97,11 @@ std::optional<std::string> ScriptedMachine::PreferencesFolder(bool create) {
   return preferences_folder_;
 }
 
+bool ScriptedMachine::SetHost(const std::optional<std::string>& executable) {
+  Record({"SetHost", executable.value_or("")});
+  return true;
+}
+
 std::optional<std::string> ScriptedMachine::ResourcesDirectory() {
   Record({"ResourcesDirectory"});
   return resources_directory_;
@@ -135,6 +140,12 @@ bool ScriptedMachine::StartProgram(const std::string& program,
 bool ScriptedMachine::OpenInBrowser(const std::string& url) {
   Record({"OpenInBrowser", url});
   return browser_opens_;
+}
+
+std::optional<Arguments> ScriptedMachine::FindBrowser(const std::string& url) {
+  Record({"FindBrowser", url});
+  if (!browser_opens_) return std::nullopt;
+  return Arguments{"/usr/bin/browser", url};
 }
 
 std::optional<Reachability> ScriptedMachine::HostReachability(

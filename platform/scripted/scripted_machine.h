@@ -42,7 +42,7 @@ class ScriptedMachine : public Machine {
                 const std::string& text);
   /// A program that is running right after its start, whatever its arguments.
   void OnStart(const std::string& program);
-  /// Whether the browser opens what it is given.
+  /// Whether there is a browser, /usr/bin/browser, that opens what it is given.
   void SetBrowserOpens(bool opens) { browser_opens_ = opens; }
 
   void SetReachability(const std::string& host, Reachability reachability);
@@ -62,6 +62,7 @@ class ScriptedMachine : public Machine {
   ///
   ///   FindFile /x/QTV
   ///   PreferencesFolder create                 (or: find)
+  ///   SetHost /x/host                          (the process's own: "")
   ///   ResourcesDirectory
   ///   BundleDirectory com.velmo.vxclientframework
   ///   ApplicationExecutable /x/Viewer.app
@@ -69,6 +70,7 @@ class ScriptedMachine : public Machine {
   ///   FirstOutput /x/QTV -appLocation klh id.1
   ///   StartProgram /x/Viewer HELP product en_US page.html
   ///   OpenInBrowser file:///x/page.html
+  ///   FindBrowser file:///x/page.html
   ///   HostReachability localhost               (no host: no second word)
   ///   Preference admin com.velmo.x HelpcfgName (or: user)
   ///   FetchText http://localhost/page.html     (its timeout is left out)

@@ -10,6 +10,10 @@ std::optional<std::string> UnsupportedMachine::PreferencesFolder(bool) {
   return std::nullopt;
 }
 
+bool UnsupportedMachine::SetHost(const std::optional<std::string>&) {
+  return false;
+}
+
 std::optional<std::string> UnsupportedMachine::ResourcesDirectory() {
   return std::nullopt;
 }
@@ -39,6 +43,10 @@ bool UnsupportedMachine::StartProgram(const std::string&, const Arguments&) {
 }
 
 bool UnsupportedMachine::OpenInBrowser(const std::string&) { return false; }
+
+std::optional<Arguments> UnsupportedMachine::FindBrowser(const std::string&) {
+  return std::nullopt;
+}
 
 std::optional<Reachability> UnsupportedMachine::HostReachability(
     const std::optional<std::string>&) {

@@ -151,6 +151,7 @@ TEST_P(EveryMachine, HasAClockThatNeverGoesBack) {
 
 TEST_P(EveryMachine, OpensNothingThatIsNoUrl) {
   EXPECT_FALSE(machine().OpenInBrowser(""));
+  EXPECT_FALSE(machine().FindBrowser(""));
 }
 
 }  // namespace

@@ -9,6 +9,7 @@ TEST(UnsupportedMachine, CanDoNothing) {
   UnsupportedMachine machine;
   EXPECT_FALSE(machine.FindFile("/"));
   EXPECT_FALSE(machine.PreferencesFolder(true));
+  EXPECT_FALSE(machine.SetHost("/x/host"));
   EXPECT_FALSE(machine.ResourcesDirectory());
   EXPECT_FALSE(machine.BundleDirectory("com.example.x"));
   EXPECT_FALSE(machine.ApplicationExecutable("/"));
@@ -16,6 +17,7 @@ TEST(UnsupportedMachine, CanDoNothing) {
   EXPECT_FALSE(machine.FirstOutput("/bin/echo", {}));
   EXPECT_FALSE(machine.StartProgram("/bin/true", {}));
   EXPECT_FALSE(machine.OpenInBrowser("http://localhost/"));
+  EXPECT_FALSE(machine.FindBrowser("http://localhost/"));
   EXPECT_FALSE(machine.HostReachability("localhost"));
   EXPECT_FALSE(
       machine.Preference("x", "y", PreferenceScope::kCurrentUserAnyHost));

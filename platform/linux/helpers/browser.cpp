@@ -1,10 +1,12 @@
 // velmohelp-browser: gives the argument vector that opens a URL in the user's
-// default browser, or in a sandbox opens it. See protocol.h.
+// default browser, or in a sandbox opens it or says whether the desktop would.
+// See protocol.h.
 #include <glib.h>
 #include <unistd.h>
 
 #include <chrono>
 #include <string>
+#include <string_view>
 
 #include "platform/linux/helpers/answer.h"
 #include "platform/linux/helpers/browser_portal.h"
@@ -14,6 +16,8 @@
 
 namespace velmohelp {
 namespace {
+
+constexpr std::string_view kFind = VELMO_BROWSER_FIND;
 
 /// Below the library's own timeout for this program.
 constexpr std::chrono::seconds kAnswerTimeout(8);
@@ -59,9 +63,14 @@ bool OpenFromSandbox(const std::string& url) {
   return given && opened;
 }
 
-bool Open(const char* url) {
+bool FindFromSandbox(const std::string& url) {
+  return GiveAnswer(PortalTakes(url) ? Record(VELMO_BROWSER_OPENED) : "");
+}
+
+bool Answer(const char* url, bool find) {
   if (!IsAbsoluteUri(url)) return GiveAnswer("");
-  return IsInSandbox() ? OpenFromSandbox(url) : GiveAnswer(StartAnswer(url));
+  if (!IsInSandbox()) return GiveAnswer(StartAnswer(url));
+  return find ? FindFromSandbox(url) : OpenFromSandbox(url);
 }
 
 /// What a desktop's registry logs must not appear in the host's terminal.
@@ -72,7 +81,9 @@ GLogWriterOutput DropMessage(GLogLevelFlags, const GLogField*, gsize,
 
 int Main(int argc, char* argv[]) {
   g_log_set_writer_func(&DropMessage, nullptr, nullptr);
-  return argc == 2 && Open(argv[1]) ? 0 : 1;
+  const bool find = argc == 3 && std::string_view(argv[1]) == kFind;
+  if (argc != 2 && !find) return 1;
+  return Answer(argv[argc - 1], find) ? 0 : 1;
 }
 
 }  // namespace

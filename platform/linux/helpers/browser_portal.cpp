@@ -88,6 +88,51 @@ struct KeyFileFree {
   void operator()(GKeyFile* file) const { g_key_file_unref(file); }
 };
 
+/// Not the connection that GIO shares: that one ends the program when the bus
+/// goes away. Null when there is no bus.
+ObjectPtr<GDBusConnection> ConnectToSessionBus() {
+  const TextPtr address(
+      g_dbus_address_get_for_bus_sync(G_BUS_TYPE_SESSION, nullptr, nullptr));
+  if (!address) return nullptr;
+  constexpr auto kFlags = static_cast<GDBusConnectionFlags>(
+      G_DBUS_CONNECTION_FLAGS_AUTHENTICATION_CLIENT |
+      G_DBUS_CONNECTION_FLAGS_MESSAGE_BUS_CONNECTION);
+  return ObjectPtr<GDBusConnection>(g_dbus_connection_new_for_address_sync(
+      address.get(), kFlags, nullptr, nullptr, nullptr));
+}
+
+struct VariantUnref {
+  void operator()(GVariant* value) const { g_variant_unref(value); }
+};
+using VariantPtr = std::unique_ptr<GVariant, VariantUnref>;
+
+/// A question to the bus itself; null when it fails.
+VariantPtr AskBus(GDBusConnection* bus, const char* method, GVariant* arguments,
+                  const char* type) {
+  return VariantPtr(g_dbus_connection_call_sync(
+      bus, "org.freedesktop.DBus", "/org/freedesktop/DBus",
+      "org.freedesktop.DBus", method, arguments, G_VARIANT_TYPE(type),
+      G_DBUS_CALL_FLAGS_NONE, -1, nullptr, nullptr));
+}
+
+bool IsPortalRunning(GDBusConnection* bus) {
+  const VariantPtr reply =
+      AskBus(bus, "NameHasOwner", g_variant_new("(s)", kBusName), "(b)");
+  gboolean has_owner = FALSE;
+  if (reply) g_variant_get(reply.get(), "(b)", &has_owner);
+  return has_owner != 0;
+}
+
+/// The bus starts it when somebody calls it.
+bool IsPortalActivatable(GDBusConnection* bus) {
+  const VariantPtr reply = AskBus(bus, "ListActivatableNames", nullptr, "(as)");
+  if (!reply) return false;
+  const VariantPtr names(g_variant_get_child_value(reply.get(), 0));
+  const std::unique_ptr<const char*, decltype(&g_free)> list(
+      g_variant_get_strv(names.get(), nullptr), &g_free);
+  return g_strv_contains(list.get(), kBusName) != 0;
+}
+
 }  // namespace
 
 /// A sandbox's file says what runs in it. An empty one in the root of a machine
@@ -99,6 +144,12 @@ bool IsInSandbox() {
                                    G_KEY_FILE_NONE, nullptr) != 0 &&
          (g_key_file_has_group(info.get(), "Application") != 0 ||
           g_key_file_has_group(info.get(), "Runtime") != 0);
+}
+
+bool PortalTakes(const std::string& url) {
+  if (IsFile(url) && !OpenFileAt(url)) return false;
+  const auto bus = ConnectToSessionBus();
+  return bus && (IsPortalRunning(bus.get()) || IsPortalActivatable(bus.get()));
 }
 
 PortalRequest::PortalRequest(const std::string& url)
@@ -125,17 +176,8 @@ PortalOutcome PortalRequest::Await(std::chrono::milliseconds timeout) {
   return outcome_;
 }
 
-/// Not the connection that GIO shares: that one ends the program when the bus
-/// goes away.
 void PortalRequest::Connect() {
-  const TextPtr address(
-      g_dbus_address_get_for_bus_sync(G_BUS_TYPE_SESSION, nullptr, nullptr));
-  if (!address) return;
-  constexpr auto kFlags = static_cast<GDBusConnectionFlags>(
-      G_DBUS_CONNECTION_FLAGS_AUTHENTICATION_CLIENT |
-      G_DBUS_CONNECTION_FLAGS_MESSAGE_BUS_CONNECTION);
-  bus_.reset(g_dbus_connection_new_for_address_sync(address.get(), kFlags,
-                                                    nullptr, nullptr, nullptr));
+  bus_ = ConnectToSessionBus();
   if (!bus_) return;
   const auto on_closed =
       +[](GDBusConnection*, gboolean, GError*, gpointer outcome) {

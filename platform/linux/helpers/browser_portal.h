@@ -15,6 +15,11 @@ namespace velmohelp {
 /// started.
 bool IsInSandbox();
 
+/// Whether the desktop has a portal, running or to be started when it is
+/// called, and the URL is one that a PortalRequest hands to it. Asks the bus
+/// alone: nothing is opened or started.
+bool PortalTakes(const std::string& url);
+
 /// What became of a request.
 enum class PortalOutcome {
   /// No response yet: the person may be choosing an application.

@@ -1,5 +1,5 @@
 /* What the library and its helper programs say to each other. A helper takes
- * the question as its only argument and always writes an answer, in the form of
+ * the question as its arguments and always writes an answer, in the form of
  * answer.h: one of those below, or an empty one when it cannot tell.
  *
  * The library starts a helper with a real-time interval timer: SIGALRM ends a
@@ -19,7 +19,11 @@
 /* velmohelp-browser URL: records, each ended by a NUL. Either
  * VELMO_BROWSER_OPENED alone (the desktop has opened the URL), or
  * VELMO_BROWSER_START, the number of words of a command line in decimal, and
- * the words. */
+ * the words.
+ *
+ * velmohelp-browser VELMO_BROWSER_FIND URL: the same without opening anything.
+ * VELMO_BROWSER_OPENED then means that the desktop has somebody to ask. */
+#define VELMO_BROWSER_FIND "--find"
 #define VELMO_BROWSER_OPENED "opened"
 #define VELMO_BROWSER_START "start"
 

@@ -1,7 +1,9 @@
 // Opening URLs, with the helper of this build and a desktop of the test's own.
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <cstdlib>
+#include <filesystem>
 
 #include "platform/linux/linux_machine.h"
 #include "tests/support/children.h"
@@ -76,6 +78,21 @@ TEST_F(Browser, IsTheHandlerOfHttpsBeforeThatOfHttp) {
   EXPECT_EQ(Opened("plain", "http://localhost/"), "http://localhost/|");
   Install("secure", "https");
   EXPECT_EQ(Opened("secure", "http://localhost/"), "http://localhost/|");
+}
+
+TEST_F(Browser, IsFoundWithoutBeingStarted) {
+  Install("browser", "https");
+  const auto command = machine().FindBrowser("http://localhost/a?b=c");
+  EXPECT_THAT(command, ::testing::Optional(::testing::ElementsAre(
+                           directory() / "browser", "http://localhost/a?b=c")));
+  EXPECT_FALSE(std::filesystem::exists(directory() / "opened-browser"));
+}
+
+TEST_F(Browser, IsNotFoundWhereNothingWouldOpen) {
+  EXPECT_FALSE(machine().FindBrowser("http://localhost/"));
+  Install("browser", "https");
+  EXPECT_FALSE(machine().FindBrowser("file:///a b"));
+  EXPECT_FALSE(machine().FindBrowser("page.html"));
 }
 
 TEST_F(Browser, IsFoundByItsName) {

@@ -267,7 +267,7 @@ TEST(Bundle, IsADirectory) {
   const std::string name = "com.example.file" + std::to_string(getpid());
   const std::string path = OwnFolder().value() + "/" + name + ".framework";
   std::ofstream(path) << "a file";
-  EXPECT_FALSE(FindBundle(name));
+  EXPECT_FALSE(FindBundle(name, HostExecutable()));
   fs::remove(path);
 }
 
@@ -277,9 +277,9 @@ TEST(Bundle, IsBesideTheClientBeforeItIsBesideTheHost) {
   const std::string host = Dirname(HostExecutable().value()) +
                            "/../Frameworks/" + name + ".framework";
   fs::create_directories(host);
-  EXPECT_EQ(FindBundle(name), host);
+  EXPECT_EQ(FindBundle(name, HostExecutable()), host);
   fs::create_directory(own);
-  EXPECT_EQ(FindBundle(name), own);
+  EXPECT_EQ(FindBundle(name, HostExecutable()), own);
   fs::remove(own);
   fs::remove(host);
 }
@@ -299,7 +299,7 @@ TEST(Bundle, IsBesideTheHostBeforeItIsInTheFolderOfTheBuild) {
                            "/../Frameworks/" + name + ".framework";
   fs::create_directories(last);
   fs::create_directories(host);
-  EXPECT_EQ(FindBundle(name), host);
+  EXPECT_EQ(FindBundle(name, HostExecutable()), host);
   fs::remove(last);
   fs::remove(host);
 }
@@ -309,7 +309,7 @@ TEST(Bundle, IsLastInTheFolderOfTheBuild) {
   const std::string name = "com.example.last" + std::to_string(getpid());
   const std::string path = kFrameworksDir + ("/" + name) + ".framework";
   fs::create_directories(path);
-  EXPECT_EQ(FindBundle(name), path);
+  EXPECT_EQ(FindBundle(name, HostExecutable()), path);
   fs::remove(path);
 }
 
@@ -331,8 +331,8 @@ TEST(AdministratorsPreference, IsMovedByNoVariable) {
 }
 
 TEST(Bundle, IsFoundByItsNameAloneNotByAPath) {
-  EXPECT_FALSE(FindBundle("../platform/x"));
-  EXPECT_FALSE(FindBundle(""));
+  EXPECT_FALSE(FindBundle("../platform/x", HostExecutable()));
+  EXPECT_FALSE(FindBundle("", HostExecutable()));
 }
 
 class Application : public ::testing::Test {

@@ -33,13 +33,17 @@ class Sandbox : public ::testing::Test {
     }
   }
 
-  bool Opens(const std::string& url) {
-    directory_.Write("info", info_);
-    return copy_.Run(std::string(getenv(kBusAddress)) + '\n' + url);
-  }
+  bool Opens(const std::string& url) { return Ask("open", url); }
+  bool Finds(const std::string& url) { return Ask("find", url); }
 
  private:
   static constexpr char kBusAddress[] = "DBUS_SESSION_BUS_ADDRESS";
+
+  bool Ask(const std::string& verb, const std::string& url) {
+    directory_.Write("info", info_);
+    return copy_.Run(std::string(getenv(kBusAddress)) + '\n' + verb + '\n' +
+                     url);
+  }
 
   /// The machine's own browsers are out of sight.
   bool Enter() {
@@ -50,17 +54,23 @@ class Sandbox : public ::testing::Test {
            std::filesystem::copy_file(directory_.path() + "/info",
                                       "/.flatpak-info");
   }
-  bool OpenInside(const std::string& bus_and_url) {
-    const std::size_t end = bus_and_url.find('\n');
-    setenv(kBusAddress, bus_and_url.substr(0, end).c_str(), 1);
-    return Enter() && LinuxMachine(VELMO_TEST_HELPERS)
-                          .OpenInBrowser(bus_and_url.substr(end + 1));
+  /// lines: the bus's address, what to do, and a URL.
+  bool AskInside(const std::string& lines) {
+    const std::size_t verb = lines.find('\n') + 1;
+    const std::size_t url = lines.find('\n', verb) + 1;
+    setenv(kBusAddress, lines.substr(0, verb - 1).c_str(), 1);
+    if (!Enter()) return false;
+    LinuxMachine machine(VELMO_TEST_HELPERS);
+    if (lines.substr(verb).starts_with("open")) {
+      return machine.OpenInBrowser(lines.substr(url));
+    }
+    return machine.FindBrowser(lines.substr(url)) == Arguments{};
   }
 
   testing::TemporaryDirectory directory_;
   /// The bus and the portal have threads.
   testing::CopyBeforeThreads copy_{
-      [this](const std::string& text) { return OpenInside(text); }};
+      [this](const std::string& text) { return AskInside(text); }};
   testing::PrivateBus bus_;
 
  protected:
@@ -77,6 +87,15 @@ TEST_F(Sandbox, OpensNothingThatThePortalRefuses) {
   const PortalDouble portal({.response = 2});
   EXPECT_FALSE(Opens(kUrl));
   EXPECT_EQ(portal.target(), kUrl);
+}
+
+TEST_F(Sandbox, FindsThePortalWithoutCallingIt) {
+  EXPECT_FALSE(Finds(kUrl));
+  const PortalDouble portal({});
+  EXPECT_TRUE(Finds(kUrl));
+  EXPECT_FALSE(Finds("no URI"));
+  EXPECT_FALSE(Finds("file:///nonexistent/page.html"));
+  EXPECT_EQ(portal.method(), "");
 }
 
 /// A machine has such a file where root runs programs with sandboxes of their
