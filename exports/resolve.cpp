@@ -7,6 +7,7 @@
 #include "resolve/page_target.h"
 #include "resolve/search_page.h"
 #include "resolve/url_check.h"
+#include "util/lines.h"
 #include "util/path_join.h"
 
 using velmohelp::ContentView;

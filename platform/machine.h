@@ -41,6 +41,11 @@ struct FileEntry {
 /// nothing: the template for another system). Texts and paths are UTF-8 byte
 /// strings. nullopt and false mean "this machine cannot", whatever the reason;
 /// only std::bad_alloc is thrown. Calls come one at a time.
+///
+/// OpenInBrowser, HostReachability and FetchText end at a time limit. RunToEnd
+/// and FirstOutput block as long as the program makes them, without limit. The
+/// others take as long as the file system does (a dead network mount: without
+/// limit), PreferencesFolder also as long as the user database does.
 class Machine {
  public:
   virtual ~Machine() = default;

@@ -10,7 +10,7 @@ namespace velmohelp {
 bool AnyFolder(const HelpContent& content,
                const std::function<bool(const std::string& name)>& accept) {
   return std::ranges::any_of(
-      std::span(content.rows, content.row_count), [&](HelpPathRow& row) {
+      std::span(content.rows, content.row_count), [&](const auto& row) {
         return row[1] == kContextSensitive && accept(row[0]);
       });
 }

@@ -15,13 +15,11 @@ namespace velmohelp {
 /// The mark of the rows that take part in a search.
 inline constexpr std::string_view kContextSensitive = "YES";
 
-/// A content folder: its name and its mark.
-using HelpPathRow = const std::string[2];
-
 /// Where help content is, according to the help configuration. The caller owns
 /// all of it.
 struct HelpContent {
-  HelpPathRow* rows;
+  /// One for each content folder: its name and its mark.
+  const std::string (*rows)[2];
   std::uint32_t row_count;
   const std::string& base_url;
   /// The end of the path of the downloaded content below the Preferences
@@ -31,8 +29,8 @@ struct HelpContent {
   bool is_online;
 };
 
-/// Whether accept is true for the name of a context-sensitive row. Asks row by
-/// row, and no more after the first that it accepts.
+/// Whether accept is true for the name of a context-sensitive folder. Asks row
+/// by row, and no more after the first that it accepts.
 bool AnyFolder(const HelpContent& content,
                const std::function<bool(const std::string& name)>& accept);
 

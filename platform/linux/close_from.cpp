@@ -13,8 +13,6 @@ namespace {
 
 constexpr rlim_t kMostDescriptors = 1U << 20U;
 
-VELMO_CHILD void Close(int fd) { syscall(SYS_close, fd); }
-
 /// The number that is the whole text; -1 for another text, such as "..".
 VELMO_CHILD int Number(const char* text) {
   int number = 0;
@@ -30,7 +28,7 @@ VELMO_CHILD void CloseEntries(const char* entries, long size, int first,
   for (long at = 0; at < size;) {
     const auto* entry = reinterpret_cast<const dirent64*>(entries + at);
     const int number = Number(entry->d_name);
-    if (number >= first && number != folder) Close(number);
+    if (number >= first && number != folder) CloseFd(number);
     at += entry->d_reclen;
   }
 }
@@ -39,7 +37,7 @@ VELMO_CHILD void CloseEntries(const char* entries, long size, int first,
 
 VELMO_CHILD bool CloseListedFrom(int first) {
   // Makes room in a full table.
-  Close(first);
+  CloseFd(first);
   const int folder = static_cast<int>(
       syscall(SYS_openat, AT_FDCWD, "/proc/self/fd", O_RDONLY | O_DIRECTORY));
   if (folder == -1) return false;
@@ -49,7 +47,7 @@ VELMO_CHILD bool CloseListedFrom(int first) {
     size = syscall(SYS_getdents64, folder, entries, sizeof entries);
     CloseEntries(entries, size, first, folder);
   } while (size > 0);
-  Close(folder);
+  CloseFd(folder);
   return size == 0;
 }
 
@@ -59,7 +57,7 @@ VELMO_CHILD void CloseEachFrom(int first) {
   const rlim_t end =
       limit.rlim_max < kMostDescriptors ? limit.rlim_max : kMostDescriptors;
   for (auto fd = static_cast<rlim_t>(first); fd < end; ++fd) {
-    Close(static_cast<int>(fd));
+    CloseFd(static_cast<int>(fd));
   }
 }
 

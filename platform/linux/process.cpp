@@ -9,6 +9,7 @@
 #include <csignal>
 #include <vector>
 
+#include "platform/linux/child_code.h"
 #include "platform/linux/environment.h"
 #include "platform/linux/launch_memory.h"
 #include "platform/linux/process_children.h"
@@ -43,7 +44,7 @@ class SignalsBlocked {
 
  private:
   static void Set(const unsigned long* now, unsigned long* before) {
-    syscall(SYS_rt_sigprocmask, SIG_SETMASK, now, before, (NSIG - 1) / 8);
+    syscall(SYS_rt_sigprocmask, SIG_SETMASK, now, before, kSignalSetSize);
   }
   unsigned long before_[2] = {};
 };

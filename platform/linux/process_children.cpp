@@ -27,11 +27,6 @@
 namespace velmohelp {
 namespace {
 
-/// Bytes of the kernel's signal set.
-constexpr std::size_t kSignalSetSize = (NSIG - 1) / 8;
-
-VELMO_CHILD void Close(int fd) { syscall(SYS_close, fd); }
-
 /// exec leaves ignored signals ignored: a browser would never learn that its
 /// own children have ended, or would outlive a logout. All zeros mean the
 /// default action in every layout of the kernel's structure. This process has
@@ -67,10 +62,10 @@ VELMO_CHILD bool OpenNull() {
 VELMO_CHILD bool SetStreams(const Launch& launch) {
   const bool null_errors = launch.drop_errors || !PassesOn(STDERR_FILENO);
   const bool null_output = launch.output < 0;
-  Close(STDIN_FILENO);
-  if (null_errors) Close(STDERR_FILENO);
+  CloseFd(STDIN_FILENO);
+  if (null_errors) CloseFd(STDERR_FILENO);
   if (null_output) {
-    Close(STDOUT_FILENO);
+    CloseFd(STDOUT_FILENO);
   } else if (dup3(launch.output, STDOUT_FILENO, 0) == -1) {
     return false;
   }
@@ -161,10 +156,10 @@ struct ExecPipe {
 /// vfork has waited for that already; an emulated one does not.
 VELMO_CHILD void AwaitExec(const ExecPipe& pipe) {
   char nothing = 0;
-  Close(pipe.ends[1]);
+  CloseFd(pipe.ends[1]);
   while (syscall(SYS_read, pipe.ends[0], &nothing, 1) > 0) {
   }
-  Close(pipe.ends[0]);
+  CloseFd(pipe.ends[0]);
 }
 
 /// The program's process; -1 when it could not be made.
@@ -193,12 +188,12 @@ VELMO_CHILD int CaptureOutput(LaunchReport& report) {
       dup3(ends[1], STDOUT_FILENO, 0) == -1) {
     report.error = errno;
   }
-  Close(ends[1]);
+  CloseFd(ends[1]);
   return ends[0];
 }
 
 VELMO_CHILD void ReadOutput(int pipe, LaunchReport& report) {
-  Close(STDOUT_FILENO);
+  CloseFd(STDOUT_FILENO);
   report.output_size =
       syscall(SYS_read, pipe, report.output, sizeof report.output);
 }

@@ -3,8 +3,6 @@
 #ifndef RESOLVE_HELP_MAP_HELP_MAP_H_
 #define RESOLVE_HELP_MAP_HELP_MAP_H_
 
-#include <deque>
-#include <istream>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -31,13 +29,6 @@ bool LoadHelpMap(const std::string& path, HelpMap& map);
 /// std::out_of_range for a line with "://[" but neither "]" nor "%", and
 /// std::ios_base::failure when the file breaks while it is read.
 std::string ReadHelpMapBaseUrl(const std::string& path);
-
-/// See ITEMInternal::GetLine.
-bool ReadLine(std::istream& stream, std::string& line);
-
-/// See ITEMInternal::DelimitedStringToDeque.
-int SplitFields(char delimiter, std::string_view text,
-                std::deque<std::string>& out);
 
 /// The help maps of one search. The caller sees only the last one: it alone is
 /// built as a map, the others are searched as text.

@@ -16,16 +16,16 @@ namespace velmohelp::unicode {
 
 /// What Compress takes: units, and ones in the mask where it keeps them.
 struct Encoded {
-  Words units;
-  Words mask;
+  U32x4 units;
+  U32x4 mask;
 };
 
 /// The code points are below 0x80000000, so that a signed comparison will do.
-VELMO_INLINE Words AtLeast(Words code_points, std::int32_t bound) {
-  return (Words)((Signed)code_points >= bound);
+VELMO_INLINE U32x4 AtLeast(U32x4 code_points, std::int32_t bound) {
+  return (U32x4)((I32x4)code_points >= bound);
 }
 
-VELMO_INLINE bool HasSurrogates(Words code_points) {
+VELMO_INLINE bool HasSurrogates(U32x4 code_points) {
   return Any((code_points & 0xFFFFF800) == 0xD800);
 }
 
@@ -33,24 +33,24 @@ VELMO_INLINE bool HasSurrogates(Words code_points) {
 /// a trailing one; the lead byte then gets the rest of its length mark:
 ///     code point   ........ ...aaabb bbbbcccc ccdddddd
 ///     bytes        ..aaa ..bbbbbb ..cccccc ..dddddd
-VELMO_INLINE Encoded ToUtf8(Words c) {
-  const Words two = AtLeast(c, 0x80);
-  const Words three = AtLeast(c, 0x800);
-  const Words four = AtLeast(c, 0x10000);
-  const Words bytes = (c >> 18) | ((c >> 4) & 0x3F00) | ((c << 10) & 0x3F0000) |
+VELMO_INLINE Encoded ToUtf8(U32x4 c) {
+  const U32x4 two = AtLeast(c, 0x80);
+  const U32x4 three = AtLeast(c, 0x800);
+  const U32x4 four = AtLeast(c, 0x10000);
+  const U32x4 bytes = (c >> 18) | ((c >> 4) & 0x3F00) | ((c << 10) & 0x3F0000) |
                       ((c << 24) & 0x3F000000);
-  const Words lead =
+  const U32x4 lead =
       (four & 0x70) | (three & ~four & 0x6000) | (two & ~three & 0x400000);
-  const Words longer = bytes | lead | 0x80808080;
+  const U32x4 longer = bytes | lead | 0x80808080;
   return {(two & longer) | (~two & (c << 24)),
           (four & 0xFF) | (three & 0xFF00) | (two & 0xFF0000) | 0xFF000000};
 }
 
 /// Up to 0x10FFFF: a surrogate pair, or the unit itself in the second place.
-VELMO_INLINE Encoded ToUtf16(Words c) {
-  const Words two = AtLeast(c, 0x10000);
-  const Words high = (c >> 10) + (0xD800 - (0x10000 >> 10));
-  const Words low = (c & 0x03FF) | 0xDC00;
+VELMO_INLINE Encoded ToUtf16(U32x4 c) {
+  const U32x4 two = AtLeast(c, 0x10000);
+  const U32x4 high = (c >> 10) + (0xD800 - (0x10000 >> 10));
+  const U32x4 low = (c & 0x03FF) | 0xDC00;
   return {(two & (high | (low << 16))) | (~two & (c << 16)),
           (two & 0xFFFF) | 0xFFFF0000};
 }

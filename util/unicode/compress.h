@@ -83,20 +83,20 @@ VELMO_BMI2 VELMO_INLINE void Compress(Lanes lanes, Lanes mask, Unit*& to) {
 
 /// The same for code points, given as their low and high 16 bits. Few texts
 /// have any high bits, and PEXT is not spent on zeros.
-VELMO_BMI2 VELMO_INLINE void CompressWidened(Units low, Units high, Units mask,
+VELMO_BMI2 VELMO_INLINE void CompressWidened(U16x8 low, U16x8 high, U16x8 mask,
                                              ITEMUTF32*& to) {
   const bool any_high = Any(high != 0);
   const Halves lows(low);
   const Halves highs(high);
   const Halves masks(mask);
-  for (std::size_t i = 0; i < Halves<Units>::kCount; ++i) {
+  for (std::size_t i = 0; i < Halves<U16x8>::kCount; ++i) {
     const std::uint64_t keep = masks.number[i];
-    const Longs kept_low = {_pext_u64(lows.number[i], keep), 0};
-    Longs kept_high = {};
+    const U64x2 kept_low = {_pext_u64(lows.number[i], keep), 0};
+    U64x2 kept_high = {};
     if (any_high) kept_high[0] = _pext_u64(highs.number[i], keep);
-    const Words four = InterleaveLow((Units)kept_low, (Units)kept_high);
-    Store(to, InterleaveLow(four, Words{}));
-    Store(to + 2, InterleaveHigh(four, Words{}));
+    const U32x4 four = InterleaveLow((U16x8)kept_low, (U16x8)kept_high);
+    Store(to, InterleaveLow(four, U32x4{}));
+    Store(to + 2, InterleaveHigh(four, U32x4{}));
     to += KeptOfHalf<ITEMUTF16>(keep);
   }
 }

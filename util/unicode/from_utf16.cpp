@@ -13,8 +13,8 @@ namespace {
 VELMO_INLINE void CopyPlain(Cursor<const ITEMUTF16>& source,
                             Cursor<ITEMUTF8>& target) {
   while (source.left() >= kByteLanes && target.left() >= kByteLanes) {
-    const auto first = Load<Units>(source.at());
-    const auto second = Load<Units>(source.at() + kUnitLanes);
+    const auto first = Load<U16x8>(source.at());
+    const auto second = Load<U16x8>(source.at() + kUnitLanes);
     if (Any(((first | second) & 0xFF80) != 0)) return;
     Store(target.at(), Narrow(first, second));
     source.Advance(kByteLanes);
@@ -26,7 +26,7 @@ VELMO_INLINE void CopyPlain(Cursor<const ITEMUTF16>& source,
 VELMO_INLINE void CopyPlain(Cursor<const ITEMUTF16>& source,
                             Cursor<ITEMUTF32>& target) {
   while (source.left() >= kUnitLanes && target.left() >= kUnitLanes) {
-    const auto units = Load<Units>(source.at());
+    const auto units = Load<U16x8>(source.at());
     if (HasSurrogates(units)) return;
     StoreWidened(target.at(), units);
     source.Advance(kUnitLanes);
@@ -65,7 +65,7 @@ VELMO_BMI2 VELMO_INLINE void ConvertBlocks(Cursor<const ITEMUTF16>& source,
         target.left() < kMost<Unit> + kOvershoot<Unit>) {
       return;
     }
-    const Utf16Block block(Load<Units>(source.at()));
+    const Utf16Block block(Load<U16x8>(source.at()));
     if (!IsPaired(block)) return;
     target.Advance(WriteBlock(block, target.at()));
     source.Advance(WholeCharacters(block));

@@ -11,23 +11,23 @@ namespace {
 /// Eight values.
 struct Values {
   VELMO_INLINE explicit Values(const ITEMUTF32* from)
-      : pair{Load<Longs>(from), Load<Longs>(from + 2), Load<Longs>(from + 4),
-             Load<Longs>(from + 6)} {}
+      : pair{Load<U64x2>(from), Load<U64x2>(from + 2), Load<U64x2>(from + 4),
+             Load<U64x2>(from + 6)} {}
 
   /// Whether a value has any of these bits.
   VELMO_INLINE bool HaveAny(ITEMUTF32 bits) const {
-    const Longs found = (pair[0] | pair[1] | pair[2] | pair[3]) & bits;
+    const U64x2 found = (pair[0] | pair[1] | pair[2] | pair[3]) & bits;
     return (found[0] | found[1]) != 0;
   }
 
   // Their low 32 and 16 bits.
-  VELMO_INLINE Words FirstFour() const { return Narrow(pair[0], pair[1]); }
-  VELMO_INLINE Words SecondFour() const { return Narrow(pair[2], pair[3]); }
-  VELMO_INLINE Units AsUnits() const {
+  VELMO_INLINE U32x4 FirstFour() const { return Narrow(pair[0], pair[1]); }
+  VELMO_INLINE U32x4 SecondFour() const { return Narrow(pair[2], pair[3]); }
+  VELMO_INLINE U16x8 AsUnits() const {
     return Narrow(FirstFour(), SecondFour());
   }
 
-  Longs pair[4];
+  U64x2 pair[4];
 };
 
 /// Blocks of values up to 0xFFFF without surrogates.
@@ -36,7 +36,7 @@ VELMO_INLINE void CopyPlain(Cursor<const ITEMUTF32>& source,
   while (source.left() >= kUnitLanes && target.left() >= kUnitLanes) {
     const Values values(source.at());
     if (values.HaveAny(~0xFFFFUL)) return;
-    const Units units = values.AsUnits();
+    const U16x8 units = values.AsUnits();
     if (HasSurrogates(units)) return;
     Store(target.at(), units);
     source.Advance(kUnitLanes);
@@ -59,16 +59,16 @@ VELMO_INLINE void CopyPlain(Cursor<const ITEMUTF32>& source,
 
 // The form in the target's units, and whether every value has one. All values
 // are below 0x200000.
-VELMO_BMI2 VELMO_INLINE bool HasForm(Words values, ITEMUTF16* /*to*/) {
+VELMO_BMI2 VELMO_INLINE bool HasForm(U32x4 values, ITEMUTF16* /*to*/) {
   return !Any(AtLeast(values, 0x110000));
 }
-VELMO_BMI2 VELMO_INLINE bool HasForm(Words /*any*/, ITEMUTF8* /*to*/) {
+VELMO_BMI2 VELMO_INLINE bool HasForm(U32x4 /*any*/, ITEMUTF8* /*to*/) {
   return true;
 }
-VELMO_BMI2 VELMO_INLINE Encoded ToUnits(Words values, ITEMUTF16* /*to*/) {
+VELMO_BMI2 VELMO_INLINE Encoded ToUnits(U32x4 values, ITEMUTF16* /*to*/) {
   return ToUtf16(values);
 }
-VELMO_BMI2 VELMO_INLINE Encoded ToUnits(Words values, ITEMUTF8* /*to*/) {
+VELMO_BMI2 VELMO_INLINE Encoded ToUnits(U32x4 values, ITEMUTF8* /*to*/) {
   return ToUtf8(values);
 }
 
@@ -86,8 +86,8 @@ VELMO_BMI2 VELMO_INLINE void ConvertBlocks(Cursor<const ITEMUTF32>& source,
     }
     const Values values(source.at());
     if (values.HaveAny(~0x1FFFFFUL)) return;
-    const Words low = values.FirstFour();
-    const Words high = values.SecondFour();
+    const U32x4 low = values.FirstFour();
+    const U32x4 high = values.SecondFour();
     Unit* to = target.at();
     if constexpr (sizeof(Unit) == 1) {
       if (!values.HaveAny(~0xFFFFUL) && !HasSurrogates(values.AsUnits())) {

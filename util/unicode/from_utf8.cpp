@@ -11,14 +11,14 @@ namespace {
 
 #ifdef VELMO_UNICODE_LANES
 
-VELMO_INLINE void StoreAscii(ITEMUTF16* to, Bytes bytes) {
-  Store(to, InterleaveLow(bytes, Bytes{}));
-  Store(to + kUnitLanes, InterleaveHigh(bytes, Bytes{}));
+VELMO_INLINE void StoreAscii(ITEMUTF16* to, U8x16 bytes) {
+  Store(to, InterleaveLow(bytes, U8x16{}));
+  Store(to + kUnitLanes, InterleaveHigh(bytes, U8x16{}));
 }
 
-VELMO_INLINE void StoreAscii(ITEMUTF32* to, Bytes bytes) {
-  StoreWidened(to, InterleaveLow(bytes, Bytes{}));
-  StoreWidened(to + kUnitLanes, InterleaveHigh(bytes, Bytes{}));
+VELMO_INLINE void StoreAscii(ITEMUTF32* to, U8x16 bytes) {
+  StoreWidened(to, InterleaveLow(bytes, U8x16{}));
+  StoreWidened(to + kUnitLanes, InterleaveHigh(bytes, U8x16{}));
 }
 
 /// Prefetches the target of a later block. UTF-32 writes eight times what it
@@ -39,7 +39,7 @@ template <typename Unit>
 VELMO_INLINE void CopyAscii(Cursor<const ITEMUTF8>& source,
                             Cursor<Unit>& target) {
   while (source.left() >= kByteLanes && target.left() >= kByteLanes) {
-    const auto bytes = Load<Bytes>(source.at());
+    const auto bytes = Load<U8x16>(source.at());
     if (Any(bytes)) return;
     StoreAscii(target.at(), bytes);
     source.Advance(kByteLanes);
@@ -54,10 +54,10 @@ VELMO_BMI2 VELMO_INLINE void CompressBlock(const Utf8Values& v, ITEMUTF16* to) {
 
 VELMO_BMI2 VELMO_INLINE void CompressBlock(const Utf8Values& v, ITEMUTF32* to) {
   CompressWidened(InterleaveLow(v.low, v.middle),
-                  InterleaveLow(v.high, Bytes{}), InterleaveLow(v.mask, v.mask),
+                  InterleaveLow(v.high, U8x16{}), InterleaveLow(v.mask, v.mask),
                   to);
   CompressWidened(InterleaveHigh(v.low, v.middle),
-                  InterleaveHigh(v.high, Bytes{}),
+                  InterleaveHigh(v.high, U8x16{}),
                   InterleaveHigh(v.mask, v.mask), to);
 }
 
@@ -73,7 +73,7 @@ VELMO_INLINE void CopyAsciiAvx2(Cursor<const ITEMUTF8>& source,
     const ITEMUTF8* from, std::size_t size, ITEMUTF32* to) {
   std::size_t done = 0;
   for (; size - done >= kByteLanes; done += kByteLanes) {
-    if (Any(Load<Bytes>(from + done))) break;
+    if (Any(Load<U8x16>(from + done))) break;
     PrefetchAhead(to + done);
     for (std::size_t i = done; i < done + kByteLanes; i += 4) {
       const __m128i four = _mm_loadu_si32(from + i);
@@ -100,7 +100,7 @@ VELMO_BMI2 VELMO_INLINE void ConvertBlocks(Direction direction,
                                            Cursor<Unit>& target) {
   while (source.left() >= kByteLanes &&
          target.left() >= kByteLanes + kOvershoot<Unit>) {
-    const auto bytes = Load<Bytes>(source.at());
+    const auto bytes = Load<U8x16>(source.at());
     if (!Any(bytes)) {
       CopyAsciiAvx2(source, target);
       continue;

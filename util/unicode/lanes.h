@@ -28,12 +28,12 @@ namespace velmohelp::unicode {
 
 // Operators work lane by lane. A comparison gives a mask: all ones in the lanes
 // where it is true, all zeros in the others.
-using Bytes = std::uint8_t __attribute__((vector_size(16)));
-using Units = std::uint16_t __attribute__((vector_size(16)));
-using Words = std::uint32_t __attribute__((vector_size(16)));
-using Longs = std::uint64_t __attribute__((vector_size(16)));
+using U8x16 = std::uint8_t __attribute__((vector_size(16)));
+using U16x8 = std::uint16_t __attribute__((vector_size(16)));
+using U32x4 = std::uint32_t __attribute__((vector_size(16)));
+using U64x2 = std::uint64_t __attribute__((vector_size(16)));
 
-using Signed = std::int32_t __attribute__((vector_size(16)));
+using I32x4 = std::int32_t __attribute__((vector_size(16)));
 
 inline constexpr std::size_t kByteLanes = 16;
 inline constexpr std::size_t kUnitLanes = 8;
@@ -73,21 +73,21 @@ VELMO_INLINE Lanes ShiftLanesDown(Lanes lanes) {
 
 /// Unsigned. The maximum equals the byte where the byte is at least the bound;
 /// what compilers make of the operator takes twice as long.
-VELMO_INLINE Bytes AtLeast(Bytes bytes, std::uint8_t bound) {
-  const Bytes bounds = Bytes{} + bound;
-  return (Bytes)_mm_max_epu8((__m128i)bytes, (__m128i)bounds) == bytes;
+VELMO_INLINE U8x16 AtLeast(U8x16 bytes, std::uint8_t bound) {
+  const U8x16 bounds = U8x16{} + bound;
+  return (U8x16)_mm_max_epu8((__m128i)bytes, (__m128i)bounds) == bytes;
 }
 
 /// Bits within each byte. x86 shifts no lanes of 8 bits, so this shifts lanes
 /// of 16 and clears the bits that came across from the neighbouring byte.
 template <int bits>
-VELMO_INLINE Bytes ShiftBitsLeft(Bytes bytes) {
-  return (Bytes)((Units)bytes << bits) &
+VELMO_INLINE U8x16 ShiftBitsLeft(U8x16 bytes) {
+  return (U8x16)((U16x8)bytes << bits) &
          static_cast<std::uint8_t>(0xFF << bits);
 }
 template <int bits>
-VELMO_INLINE Bytes ShiftBitsRight(Bytes bytes) {
-  return (Bytes)((Units)bytes >> bits) &
+VELMO_INLINE U8x16 ShiftBitsRight(U8x16 bytes) {
+  return (U8x16)((U16x8)bytes >> bits) &
          static_cast<std::uint8_t>(0xFF >> bits);
 }
 
@@ -97,50 +97,50 @@ VELMO_INLINE Bytes ShiftBitsRight(Bytes bytes) {
 ///     high   A B C D | E F G H
 ///     InterleaveLow    aA bB cC dD
 ///     InterleaveHigh   eE fF gG hH
-VELMO_INLINE Units InterleaveLow(Bytes low, Bytes high) {
-  return (Units)_mm_unpacklo_epi8((__m128i)low, (__m128i)high);
+VELMO_INLINE U16x8 InterleaveLow(U8x16 low, U8x16 high) {
+  return (U16x8)_mm_unpacklo_epi8((__m128i)low, (__m128i)high);
 }
-VELMO_INLINE Units InterleaveHigh(Bytes low, Bytes high) {
-  return (Units)_mm_unpackhi_epi8((__m128i)low, (__m128i)high);
+VELMO_INLINE U16x8 InterleaveHigh(U8x16 low, U8x16 high) {
+  return (U16x8)_mm_unpackhi_epi8((__m128i)low, (__m128i)high);
 }
-VELMO_INLINE Words InterleaveLow(Units low, Units high) {
-  return (Words)_mm_unpacklo_epi16((__m128i)low, (__m128i)high);
+VELMO_INLINE U32x4 InterleaveLow(U16x8 low, U16x8 high) {
+  return (U32x4)_mm_unpacklo_epi16((__m128i)low, (__m128i)high);
 }
-VELMO_INLINE Words InterleaveHigh(Units low, Units high) {
-  return (Words)_mm_unpackhi_epi16((__m128i)low, (__m128i)high);
+VELMO_INLINE U32x4 InterleaveHigh(U16x8 low, U16x8 high) {
+  return (U32x4)_mm_unpackhi_epi16((__m128i)low, (__m128i)high);
 }
-VELMO_INLINE Longs InterleaveLow(Words low, Words high) {
-  return (Longs)_mm_unpacklo_epi32((__m128i)low, (__m128i)high);
+VELMO_INLINE U64x2 InterleaveLow(U32x4 low, U32x4 high) {
+  return (U64x2)_mm_unpacklo_epi32((__m128i)low, (__m128i)high);
 }
-VELMO_INLINE Longs InterleaveHigh(Words low, Words high) {
-  return (Longs)_mm_unpackhi_epi32((__m128i)low, (__m128i)high);
+VELMO_INLINE U64x2 InterleaveHigh(U32x4 low, U32x4 high) {
+  return (U64x2)_mm_unpackhi_epi32((__m128i)low, (__m128i)high);
 }
 
 /// The lanes of both with half the width, those of `first` first. The upper
 /// half of each lane is zero beforehand.
-VELMO_INLINE Bytes Narrow(Units first, Units second) {
-  return (Bytes)_mm_packus_epi16((__m128i)first, (__m128i)second);
+VELMO_INLINE U8x16 Narrow(U16x8 first, U16x8 second) {
+  return (U8x16)_mm_packus_epi16((__m128i)first, (__m128i)second);
 }
 /// SSE2 saturates signed words: a lane passes unchanged when the bits above its
 /// bit 15 are copies of that bit.
-VELMO_INLINE Units Narrow(Words first, Words second) {
-  const auto sign_extend = [](Words w) {
+VELMO_INLINE U16x8 Narrow(U32x4 first, U32x4 second) {
+  const auto sign_extend = [](U32x4 w) {
     return _mm_srai_epi32((__m128i)(w << 16), 16);
   };
-  return (Units)_mm_packs_epi32(sign_extend(first), sign_extend(second));
+  return (U16x8)_mm_packs_epi32(sign_extend(first), sign_extend(second));
 }
-VELMO_INLINE Words Narrow(Longs first, Longs second) {
-  return (Words)_mm_shuffle_ps((__m128)first, (__m128)second, 0x88);
+VELMO_INLINE U32x4 Narrow(U64x2 first, U64x2 second) {
+  return (U32x4)_mm_shuffle_ps((__m128)first, (__m128)second, 0x88);
 }
 
 /// Writes eight units as UTF-32, zero-extended.
-VELMO_INLINE void StoreWidened(std::uint64_t* to, Units units) {
-  const Words first = InterleaveLow(units, Units{});
-  const Words second = InterleaveHigh(units, Units{});
-  Store(to, InterleaveLow(first, Words{}));
-  Store(to + 2, InterleaveHigh(first, Words{}));
-  Store(to + 4, InterleaveLow(second, Words{}));
-  Store(to + 6, InterleaveHigh(second, Words{}));
+VELMO_INLINE void StoreWidened(std::uint64_t* to, U16x8 units) {
+  const U32x4 first = InterleaveLow(units, U16x8{});
+  const U32x4 second = InterleaveHigh(units, U16x8{});
+  Store(to, InterleaveLow(first, U32x4{}));
+  Store(to + 2, InterleaveHigh(first, U32x4{}));
+  Store(to + 4, InterleaveLow(second, U32x4{}));
+  Store(to + 6, InterleaveHigh(second, U32x4{}));
 }
 
 }  // namespace velmohelp::unicode

@@ -12,7 +12,7 @@ namespace {
 void SkipBlocks([[maybe_unused]] Cursor<const ITEMUTF8>& source) {
 #ifdef VELMO_UNICODE_LANES
   while (source.left() >= kByteLanes) {
-    const auto bytes = Load<Bytes>(source.at());
+    const auto bytes = Load<U8x16>(source.at());
     if (!Any(bytes)) {
       source.Advance(kByteLanes);
       continue;

@@ -17,20 +17,20 @@
 
 namespace velmohelp::unicode {
 
-inline constexpr Units kLastUnit = {0, 0, 0, 0, 0, 0, 0, 0xFFFF};
+inline constexpr U16x8 kLastUnit = {0, 0, 0, 0, 0, 0, 0, 0xFFFF};
 
-VELMO_INLINE bool HasSurrogates(Units units) {
+VELMO_INLINE bool HasSurrogates(U16x8 units) {
   return Any((units & 0xF800) == 0xD800);
 }
 
 struct Utf16Block {
-  VELMO_INLINE explicit Utf16Block(Units block)
+  VELMO_INLINE explicit Utf16Block(U16x8 block)
       : unit(block),
         high((block & 0xFC00) == 0xD800),
         low((block & 0xFC00) == 0xDC00) {}
 
-  Units unit;
-  Units high, low;  ///< masks: the unit is a high, a low surrogate
+  U16x8 unit;
+  U16x8 high, low;  ///< masks: the unit is a high, a low surrogate
 };
 
 /// Whether a low surrogate follows each high one and nothing else. The block
@@ -42,8 +42,8 @@ VELMO_INLINE bool IsPaired(const Utf16Block& b) {
 /// Code points as their low and high 16 bits, and the mask of the lanes that
 /// hold one.
 struct Utf16Values {
-  Units low, high;
-  Units mask;
+  U16x8 low, high;
+  U16x8 mask;
 };
 
 /// A pair is 0x10000 + hhhhhhhhhh llllllllll, ten bits from each surrogate. The
@@ -52,9 +52,9 @@ struct Utf16Values {
 ///     high surrogate   110110hh hhHHHHHH        low   110111LL LLLLLLLL
 ///     high half        hhhh + 1                 low half   HHHHHHLL LLLLLLLL
 VELMO_INLINE Utf16Values CodePoints(const Utf16Block& b) {
-  const Units next = ShiftLanesDown<2>(b.unit);
-  const Units low = (b.unit << 10) | (next & 0x03FF);
-  const Units high = ((b.unit >> 6) & 0x0F) + 1;
+  const U16x8 next = ShiftLanesDown<2>(b.unit);
+  const U16x8 low = (b.unit << 10) | (next & 0x03FF);
+  const U16x8 high = ((b.unit >> 6) & 0x0F) + 1;
   return {(b.high & low) | (~b.high & b.unit), b.high & high,
           ~(b.low | (b.high & kLastUnit))};
 }
@@ -67,17 +67,17 @@ VELMO_INLINE Utf16Values CodePoints(const Utf16Block& b) {
 ///     first   .. ..         .. ..         .. E2
 ///     rest    .. 41         C3 A9         82 AC
 struct Utf8Lanes {
-  Units first, first_mask;
-  Units rest, rest_mask;
+  U16x8 first, first_mask;
+  U16x8 rest, rest_mask;
 };
 
 /// For a block without surrogates:
 ///     0xxxxxxx, 110yyyyy 10xxxxxx, 1110zzzz 10yyyyyy 10xxxxxx
-VELMO_INLINE Utf8Lanes ToUtf8(Units unit) {
-  const Units one = (unit & 0xFF80) == 0;
-  const Units up_to_two = (unit & 0xF800) == 0;
-  const Units last = (one & unit) | (~one & ((unit & 0x3F) | 0x80));
-  const Units middle = ((unit >> 6) & 0x3F) | 0x80 | (up_to_two & 0xC0);
+VELMO_INLINE Utf8Lanes ToUtf8(U16x8 unit) {
+  const U16x8 one = (unit & 0xFF80) == 0;
+  const U16x8 up_to_two = (unit & 0xF800) == 0;
+  const U16x8 last = (one & unit) | (~one & ((unit & 0x3F) | 0x80));
+  const U16x8 middle = ((unit >> 6) & 0x3F) | 0x80 | (up_to_two & 0xC0);
   return {((unit >> 12) | 0xE0) << 8, ~up_to_two & 0xFF00, (last << 8) | middle,
           0xFF00 | (~one & 0x00FF)};
 }
@@ -89,11 +89,11 @@ VELMO_INLINE Utf8Lanes ToUtf8(Units unit) {
 /// The third byte's CC are the last two bits of the high surrogate.
 VELMO_INLINE Utf8Lanes ToUtf8(const Utf16Block& b) {
   const Utf8Lanes plain = ToUtf8(b.unit);
-  const Units bits = b.unit - (0xD800 - 0x40);
-  const Units high = ((bits << 6) & 0x3F00) | (bits >> 8) | 0x80F0;
-  const Units low = ((b.unit & 0x3F) << 8) | ((b.unit >> 6) & 0x0F) |
+  const U16x8 bits = b.unit - (0xD800 - 0x40);
+  const U16x8 high = ((bits << 6) & 0x3F00) | (bits >> 8) | 0x80F0;
+  const U16x8 low = ((b.unit & 0x3F) << 8) | ((b.unit >> 6) & 0x0F) |
                     ((ShiftLanesUp<2>(b.unit) & 3) << 4) | 0x8080;
-  const Units paired = b.high | b.low;
+  const U16x8 paired = b.high | b.low;
   return {plain.first, plain.first_mask & ~paired,
           (b.high & high) | (b.low & low) | (~paired & plain.rest),
           plain.rest_mask & ~(b.high & kLastUnit)};

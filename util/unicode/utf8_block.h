@@ -23,7 +23,7 @@
 namespace velmohelp::unicode {
 
 struct Utf8Block {
-  VELMO_INLINE explicit Utf8Block(Bytes block)
+  VELMO_INLINE explicit Utf8Block(U8x16 block)
       : byte(block),
         prev1(ShiftLanesUp<1>(block)),
         prev2(ShiftLanesUp<2>(block)),
@@ -32,20 +32,20 @@ struct Utf8Block {
         third(AtLeast(prev2, 0xE0)),
         fourth(AtLeast(prev3, 0xF0)) {}
 
-  Bytes byte;
-  Bytes prev1, prev2, prev3;  ///< the first, second and third byte before it
+  U8x16 byte;
+  U8x16 prev1, prev2, prev3;  ///< the first, second and third byte before it
   // Masks:
-  Bytes trailing;  ///< the byte is a trailing byte
-  Bytes third;     ///< a lead byte says that this is its third byte
-  Bytes fourth;    ///< a lead byte says that this is its fourth byte
+  U8x16 trailing;  ///< the byte is a trailing byte
+  U8x16 third;     ///< a lead byte says that this is its third byte
+  U8x16 fourth;    ///< a lead byte says that this is its fourth byte
 };
 
 /// The rules of IsLegalSequence. Of a sequence that the block cuts, the bytes
 /// inside the block are checked.
 VELMO_INLINE bool IsLegal(const Utf8Block& b) {
-  const Bytes expected = AtLeast(b.prev1, 0xC0) | b.third | b.fourth;
-  const Bytes bad_lead = ((b.byte & 0xFE) == 0xC0) | AtLeast(b.byte, 0xF5);
-  const Bytes bad_second = ((b.prev1 == 0xE0) & ~AtLeast(b.byte, 0xA0)) |
+  const U8x16 expected = AtLeast(b.prev1, 0xC0) | b.third | b.fourth;
+  const U8x16 bad_lead = ((b.byte & 0xFE) == 0xC0) | AtLeast(b.byte, 0xF5);
+  const U8x16 bad_second = ((b.prev1 == 0xE0) & ~AtLeast(b.byte, 0xA0)) |
                            ((b.prev1 == 0xF0) & ~AtLeast(b.byte, 0x90)) |
                            ((b.prev1 == 0xF4) & AtLeast(b.byte, 0x90));
   return !Any((expected ^ b.trailing) | bad_lead | bad_second);
@@ -67,8 +67,8 @@ VELMO_INLINE std::size_t WholeCharacters(const ITEMUTF8* block) {
 /// A value for each byte, as its low, middle and high byte, and the mask of the
 /// lanes in which a character ends.
 struct Utf8Values {
-  Bytes low, middle, high;
-  Bytes mask;
+  U8x16 low, middle, high;
+  U8x16 mask;
 };
 
 /// The payload bits of up to four bytes, moved together:
@@ -76,10 +76,10 @@ struct Utf8Values {
 ///     11110aaa   10bbBBBB   10ccccCC   10dddddd
 ///            high 000aaabb   middle BBBBcccc   low CCdddddd
 VELMO_INLINE Utf8Values CodePoints(const Utf8Block& b) {
-  const Bytes low = b.trailing & ((b.byte & 0x3F) | ShiftBitsLeft<6>(b.prev1));
-  const Bytes middle = (ShiftBitsRight<2>(b.prev1) & 0x0F) |
+  const U8x16 low = b.trailing & ((b.byte & 0x3F) | ShiftBitsLeft<6>(b.prev1));
+  const U8x16 middle = (ShiftBitsRight<2>(b.prev1) & 0x0F) |
                        ((b.third | b.fourth) & ShiftBitsLeft<4>(b.prev2));
-  const Bytes high =
+  const U8x16 high =
       ShiftBitsLeft<2>(b.prev3 & 0x07) | (ShiftBitsRight<4>(b.prev2) & 0x03);
   return {low | (b.byte & ~b.trailing), middle & b.trailing, high & b.fourth,
           ~(AtLeast(b.byte, 0xC0) | AtLeast(b.prev1, 0xE0) |
@@ -95,18 +95,18 @@ VELMO_INLINE Utf8Values CodePoints(const Utf8Block& b) {
 VELMO_INLINE Utf8Values Utf16Units(const Utf8Block& b) {
   Utf8Values v = CodePoints(b);
   v.mask = ~(AtLeast(b.byte, 0xC0) | AtLeast(b.prev1, 0xE0));
-  v.high = Bytes{};
+  v.high = U8x16{};
   if (!Any(AtLeast(b.byte, 0xF0))) return v;
-  const Bytes third_of_four = AtLeast(b.prev2, 0xF0);
-  const Bytes plane =
+  const U8x16 third_of_four = AtLeast(b.prev2, 0xF0);
+  const U8x16 plane =
       (ShiftBitsLeft<2>(b.prev2 & 0x07) | (ShiftBitsRight<4>(b.prev1) & 0x03)) -
       1;
-  const Bytes high_low_byte = ShiftBitsLeft<6>(plane) |
+  const U8x16 high_low_byte = ShiftBitsLeft<6>(plane) |
                               ShiftBitsLeft<2>(b.prev1 & 0x0F) |
                               (ShiftBitsRight<4>(b.byte) & 0x03);
-  const Bytes high_high_byte = 0xD8 | ShiftBitsRight<2>(plane);
-  const Bytes low_high_byte = 0xDC | (ShiftBitsRight<2>(b.prev1) & 0x03);
-  constexpr Bytes kLast = {0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0xFF};
+  const U8x16 high_high_byte = 0xD8 | ShiftBitsRight<2>(plane);
+  const U8x16 low_high_byte = 0xDC | (ShiftBitsRight<2>(b.prev1) & 0x03);
+  constexpr U8x16 kLast = {0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0xFF};
   v.mask &= ~(third_of_four & kLast);
   v.low = (third_of_four & high_low_byte) | (~third_of_four & v.low);
   v.middle = (third_of_four & high_high_byte) | (b.fourth & low_high_byte) |

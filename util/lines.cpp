@@ -1,4 +1,4 @@
-#include "resolve/help_map/help_map.h"
+#include "util/lines.h"
 
 namespace velmohelp {
 namespace {
