@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "platform/linux/helpers/protocol.h"
+#include "platform/linux/protocol.h"
 
 namespace velmohelp {
 namespace {

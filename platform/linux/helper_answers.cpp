@@ -4,8 +4,8 @@
 #include <utility>
 
 #include "platform/linux/browser_command.h"
-#include "platform/linux/helpers/protocol.h"
 #include "platform/linux/programs.h"
+#include "platform/linux/protocol.h"
 
 namespace velmohelp {
 namespace {

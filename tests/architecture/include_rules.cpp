@@ -32,10 +32,8 @@ const std::vector<Layer>& Layers() {
       {"resolve/", {"resolve/", "platform/", "util/"}, {}},
       {"online/", {"online/", "platform/", "util/"}, {"velmohelp/online.h"}},
       {"platform/", {"platform/", "util/"}, {}},
-      // The library and its helper programs share the words they speak in.
-      {"platform/linux/",
-       {"platform/linux/", "platform/linux/helpers/", "platform/", "util/"},
-       {}},
+      {"platform/linux/", {"platform/linux/", "platform/", "util/"}, {}},
+      // Programs: they use what the library uses, which knows none of them.
       {"platform/linux/helpers/",
        {"platform/linux/helpers/", "platform/linux/", "platform/", "util/"},
        {}},

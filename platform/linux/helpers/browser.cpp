@@ -11,7 +11,7 @@
 #include "platform/linux/helpers/answer.h"
 #include "platform/linux/helpers/browser_portal.h"
 #include "platform/linux/helpers/default_browser.h"
-#include "platform/linux/helpers/protocol.h"
+#include "platform/linux/protocol.h"
 #include "util/uri.h"
 
 namespace velmohelp {

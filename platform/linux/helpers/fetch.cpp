@@ -2,8 +2,8 @@
 #include <string_view>
 
 #include "platform/linux/helpers/answer.h"
-#include "platform/linux/helpers/protocol.h"
 #include "platform/linux/helpers/transfer.h"
+#include "platform/linux/protocol.h"
 
 int main(int argc, char* argv[]) {
   const bool is_text = argc == 2 && velmohelp::IsTextAt(argv[1]);

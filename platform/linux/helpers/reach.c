@@ -5,9 +5,9 @@
 #include <sys/socket.h>
 
 #include "platform/linux/helpers/answer.h"
-#include "platform/linux/helpers/protocol.h"
 #include "platform/linux/helpers/route.h"
 #include "platform/linux/helpers/time_limit.h"
+#include "platform/linux/protocol.h"
 
 /* A dead name server must not freeze the host for longer, at each request. */
 enum { TIME_LIMIT_SECONDS = 2 };

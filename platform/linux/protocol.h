@@ -1,12 +1,12 @@
 /* What the library and its helper programs say to each other. A helper takes
  * the question as its arguments and always writes an answer, in the form of
- * answer.h: one of those below, or an empty one when it cannot tell.
+ * helpers/answer.h: one of those below, or an empty one when it cannot tell.
  *
  * The library starts a helper with a real-time interval timer: SIGALRM ends a
  * late helper. One that has answered and must live longer, as a client of the
  * bus does while a person chooses, switches the timer off with alarm(0). */
-#ifndef PLATFORM_LINUX_HELPERS_PROTOCOL_H_
-#define PLATFORM_LINUX_HELPERS_PROTOCOL_H_
+#ifndef PLATFORM_LINUX_PROTOCOL_H_
+#define PLATFORM_LINUX_PROTOCOL_H_
 
 /* velmohelp-reach HOST: one of these; empty when the name is unknown. */
 #define VELMO_REACHABLE "reachable"
@@ -27,4 +27,4 @@
 #define VELMO_BROWSER_OPENED "opened"
 #define VELMO_BROWSER_START "start"
 
-#endif /* PLATFORM_LINUX_HELPERS_PROTOCOL_H_ */
+#endif /* PLATFORM_LINUX_PROTOCOL_H_ */
