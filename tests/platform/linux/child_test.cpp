@@ -15,6 +15,7 @@
 #include "platform/linux/programs.h"
 #include "tests/support/children.h"
 #include "tests/support/sentence.h"
+#include "tests/support/signal_mask.h"
 #include "tests/support/start_facts.h"
 #include "tests/support/temporary_directory.h"
 
@@ -102,7 +103,7 @@ TEST_F(StartedProgram, HasNoErrorStreamThatItsHostKeepsFromPrograms) {
 TEST_F(StartedProgram, HasAllItsSignals) {
   sigset_t blocked;
   sigfillset(&blocked);
-  sigprocmask(SIG_BLOCK, &blocked, nullptr);
+  const testing::SignalMask mask(blocked);
   std::signal(SIGINT, SIG_IGN);
   std::signal(SIGPIPE, SIG_IGN);
   for (const std::string& report : {Run(), Start()}) {

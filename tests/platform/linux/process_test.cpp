@@ -18,6 +18,7 @@
 #include "platform/linux/programs.h"
 #include "tests/support/children.h"
 #include "tests/support/sentence.h"
+#include "tests/support/signal_mask.h"
 #include "tests/support/temporary_directory.h"
 
 namespace velmohelp {
@@ -140,7 +141,7 @@ TEST_F(Running, LeavesTheHostsSignalMaskAndErrnoAsTheyWere) {
   sigset_t after;
   sigemptyset(&usr1);
   sigaddset(&usr1, SIGUSR1);
-  sigprocmask(SIG_SETMASK, &usr1, nullptr);
+  const testing::SignalMask mask(usr1);
   errno = EDOM;
   machine().RunToEnd(directory() / "missing", {});
   EXPECT_EQ(errno, EDOM);
