@@ -12,9 +12,9 @@
 namespace velmohelp {
 namespace {
 
-constexpr char kBasics[] = EXAMPLE_DOWNLOADED "/en_US/Basics";
-constexpr char kBasicsOnline[] = "https://help.example.com/sketch/en_US/Basics";
-constexpr char kImporting[] = "https://help.example.com/sketch/importing.html";
+constexpr char kBasics[] = EXAMPLE_DOWNLOADED "/Sketch/en_US/Basics";
+constexpr char kBasicsOnline[] = "https://help.example.com/Sketch/en_US/Basics";
+constexpr char kImporting[] = "https://help.example.com/importing.html";
 
 struct Lookup {
   const char* sentence;
