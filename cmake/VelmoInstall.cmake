@@ -48,6 +48,8 @@ configure_file(cmake/velmohelp.pc.in
 install(FILES "${PROJECT_BINARY_DIR}/package/velmohelp.pc"
   DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig" COMPONENT development)
 
+install(FILES docs/man/velmohelp.3 DESTINATION "${CMAKE_INSTALL_MANDIR}/man3"
+  COMPONENT development)
 if(VELMO_BUILD_HOST)
   install(FILES host/lxhost.1 DESTINATION "${CMAKE_INSTALL_MANDIR}/man1"
     COMPONENT host)
@@ -55,4 +57,9 @@ endif()
 if(TARGET velmo-help)
   install(FILES tools/velmo-help.1 DESTINATION "${CMAKE_INSTALL_MANDIR}/man1"
     COMPONENT tools)
+  # Of the library's formats, but not with the library: of that, two major
+  # versions may be installed.
+  install(FILES docs/man/helpcfg.5 docs/man/helpmap.5
+    docs/man/velmohelp-preferences.5
+    DESTINATION "${CMAKE_INSTALL_MANDIR}/man5" COMPONENT tools)
 endif()
