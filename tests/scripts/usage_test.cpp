@@ -20,12 +20,14 @@ using ::testing::StartsWith;
 
 constexpr char kSource[] = VELMO_SOURCE;
 
-/// Not the programs that the demonstration installs.
+/// Not the programs that the demonstration installs, nor those of an example
+/// that people copy: they have nothing to take their usage text from.
 bool IsScript(const fs::directory_entry& entry) {
   constexpr auto kExecute = fs::perms::owner_exec;
   const fs::path& path = entry.path();
   return entry.is_regular_file() &&
          (entry.status().permissions() & kExecute) == kExecute &&
+         path.string().find("/examples/sketch/") == std::string::npos &&
          (path.parent_path().filename() != "examples" ||
           path.filename().string().starts_with("demo-"));
 }
