@@ -14,11 +14,12 @@ export HOME="$home"
 unset XDG_CONFIG_HOME XDG_CONFIG_DIRS XDG_DATA_HOME XDG_DATA_DIRS
 cp -r "$sketch" "$home/sketch"
 
-# The browser reports its address in a pipe.
-mkfifo "$folder/shown"
+# The browser reports its address in a pipe. It gives up when nobody reads:
+# CTest waits for it.
 cat >"$folder/browser" <<END
 #!/bin/sh
-echo "\$1" >"$folder/shown"
+exec 2>/dev/null
+exec timeout 60 sh -c 'echo "\$1" >"\$2"' sh "\$1" "$folder/shown"
 END
 chmod +x "$folder/browser"
 cat >"$home/.local/share/applications/test.desktop" <<END
@@ -39,6 +40,9 @@ cd build
 expect() {
   output=$1 address=$2
   shift 2
+  # A new pipe: the last browser may still have the old one open.
+  rm -f "$folder/shown"
+  mkfifo "$folder/shown"
   timeout 60 head -n 1 "$folder/shown" >"$folder/address" &
   printed=$(./sketch "$@")
   wait
