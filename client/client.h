@@ -8,14 +8,17 @@
 
 #include "client/client_state.h"
 #include "platform/machine.h"
+#include "platform/observer.h"
 
 namespace velmohelp {
 
-/// What every operation works on: the machine that it runs on and the state
-/// that it reads and rewrites. Both are the caller's.
+/// What every operation works on: the machine that it runs on, the state that
+/// it reads and rewrites, and who watches it, if anybody does. All are the
+/// caller's.
 struct Client {
   Machine& machine;
   ClientState& state;
+  RequestObserver* observer = nullptr;
 };
 
 /// See ::InitializeVelmoHelpClient. Does not throw.

@@ -66,7 +66,8 @@ struct ClientState {
 };
 
 /// The parts of a state that the layers below need.
-inline HelpConfigState ConfigView(ClientState& state) {
+inline HelpConfigState ConfigView(ClientState& state,
+                                  RequestObserver* observer = nullptr) {
   return {.product_id = state.product_id,
           .downloaded_suffix = state.downloaded_config,
           .locale = state.locale,
@@ -76,15 +77,18 @@ inline HelpConfigState ConfigView(ClientState& state) {
           .publisher_id = state.publisher_id,
           .app_id_is_null = state.app_id_is_null,
           .help_paths = state.help_paths,
-          .help_path_count = state.help_path_count};
+          .help_path_count = state.help_path_count,
+          .observer = observer};
 }
 
-inline HelpContent ContentView(const ClientState& state) {
+inline HelpContent ContentView(const ClientState& state,
+                               RequestObserver* observer = nullptr) {
   return {.rows = state.help_paths,
           .row_count = static_cast<std::uint32_t>(state.help_path_count),
           .base_url = state.base_url,
           .downloaded_suffix = state.downloaded_content,
-          .is_online = state.is_online};
+          .is_online = state.is_online,
+          .observer = observer};
 }
 
 inline ViewerIdentity ViewerView(const ClientState& state) {

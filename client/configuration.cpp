@@ -21,8 +21,8 @@ InitReturnCode CodeOf(HelpConfigStatus status) {
 }  // namespace
 
 void RereadConfiguration(const Client& client, const std::string& locale) {
-  client.state.init_status = CodeOf(
-      UpdateHelpConfig(client.machine, ConfigView(client.state), locale));
+  client.state.init_status = CodeOf(UpdateHelpConfig(
+      client.machine, ConfigView(client.state, client.observer), locale));
 }
 
 Configuration ConfigurationOf(const ClientState& state) {

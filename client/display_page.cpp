@@ -95,7 +95,8 @@ DisplayPageReturnCode ShowLocalTarget(const Client& client, const char* page_id,
 
 bool FindPage(const Client& client, FetchBudget& budget, const std::string& id,
               std::string& target) {
-  return FindPageTarget(client.machine, budget, ContentView(client.state), id,
+  return FindPageTarget(client.machine, budget,
+                        ContentView(client.state, client.observer), id,
                         client.state.is_online, client.state.help_map, target);
 }
 

@@ -64,8 +64,8 @@ SearchReturnCode SearchInBrowser(const Client& client,
   RefreshOnlineStatus(client);
   const bool is_online = client.state.is_online;
   FetchBudget budget;
-  const auto page =
-      FindSearchPage(client.machine, budget, ContentView(client.state));
+  const auto page = FindSearchPage(client.machine, budget,
+                                   ContentView(client.state, client.observer));
   if (!page) return is_online ? kSearchNoOnlinePage : kSearchNoLocalPage;
   return CodeOf(LaunchPlatformBrowser(
       client.machine,

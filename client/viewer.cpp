@@ -42,7 +42,7 @@ bool IsViewerUsable(const Client& client) {
 bool IsViewerUsable(const Client& client, const std::string& preference_file) {
   if (client.state.app_id_is_null) return false;
   if (FileExists(client.machine, preference_file) &&
-      !IsViewerAllowed(preference_file)) {
+      !IsViewerAllowed(preference_file, client.observer)) {
     return false;
   }
   return IsViewerInstalled(client);

@@ -11,8 +11,8 @@ namespace {
 constexpr std::size_t kLocaleLength = 5;
 
 void AssignViewerIds(std::string_view text, const HelpConfigState& state) {
-  state.app_id = ScanKey(text, "appId");
-  state.publisher_id = ScanKey(text, "pubId");
+  state.app_id = ScanKey(text, "appId", state.observer);
+  state.publisher_id = ScanKey(text, "pubId", state.observer);
   state.app_id_is_null = ToUpper(state.app_id) == "NULL";
   if (!state.app_id_is_null) return;
   state.app_id.clear();
@@ -24,14 +24,15 @@ void AssignViewerIds(std::string_view text, const HelpConfigState& state) {
 HelpConfigStatus ReadHelpConfig(const HelpConfigState& state,
                                 const std::string& path) {
   std::string text;
-  if (!ReadKeyFile(path, text)) return HelpConfigStatus::kUnreadable;
-  state.config_id = ScanKey(text, "id");
+  if (!ReadKeyFile(path, text, state.observer))
+    return HelpConfigStatus::kUnreadable;
+  state.config_id = ScanKey(text, "id", state.observer);
   if (state.config_id.size() < kLocaleLength) return HelpConfigStatus::kInvalid;
   if (state.config_id != StrCat({state.locale, "_", state.product_id})) {
     return HelpConfigStatus::kInvalid;
   }
   state.locale = state.config_id.substr(0, kLocaleLength);
-  state.base_url = ScanKey(text, "baseUrl");
+  state.base_url = ScanKey(text, "baseUrl", state.observer);
   if (state.base_url.empty()) return HelpConfigStatus::kInvalid;
   ScanContentFolders(text, state.help_paths, state.help_path_count);
   return HelpConfigStatus::kAccepted;
@@ -47,8 +48,9 @@ HelpConfigStatus UpdateHelpConfig(Machine& machine,
   const std::string installed =
       InstalledConfigPath(machine, state.product_id, asked_locale);
   std::string text;
-  if (!ReadKeyFile(installed, text)) return HelpConfigStatus::kUnreadable;
-  const std::string_view folder = ScanKey(text, "path");
+  if (!ReadKeyFile(installed, text, state.observer))
+    return HelpConfigStatus::kUnreadable;
+  const std::string_view folder = ScanKey(text, "path", state.observer);
   if (folder.empty()) return HelpConfigStatus::kInvalid;
   AssignViewerIds(text, state);
   const std::string downloaded = DownloadedConfigPath(

@@ -8,6 +8,7 @@
 
 #include "config/key_scanner.h"
 #include "platform/machine.h"
+#include "platform/observer.h"
 
 namespace velmohelp {
 
@@ -35,6 +36,7 @@ struct HelpConfigState {
   /// kHelpPathCapacity rows.
   ContentFolderRow* help_paths;
   std::int32_t& help_path_count;
+  RequestObserver* observer = nullptr;
 };
 
 inline constexpr std::int32_t kHelpPathCapacity = 100;

@@ -33,15 +33,24 @@ bool ReadWhole(InputFile& file, FileText& text) {
   }
 }
 
-}  // namespace
-
-bool ReadKeyFile(const std::string& path, std::string& text) {
-  text.clear();
+bool ReadBytes(const std::string& path, std::string& text) {
   const auto file = OpenInputFile(path, kSettingsFileLimit);
   FileText bytes;
   if (!file || !ReadWhole(*file, bytes)) return false;
   text = WithoutZeroes(bytes.bytes());
   return true;
+}
+
+}  // namespace
+
+bool ReadKeyFile(const std::string& path, std::string& text,
+                 RequestObserver* observer) {
+  text.clear();
+  const bool is_read = ReadBytes(path, text);
+  if (observer != nullptr) {
+    observer->OnKeyFile(path, is_read ? &text : nullptr);
+  }
+  return is_read;
 }
 
 }  // namespace velmohelp

@@ -4,12 +4,15 @@
 
 #include <string>
 
+#include "platform/observer.h"
+
 namespace velmohelp {
 
 /// Replaces text with the file's. The file is read in pieces of 1023 bytes, and
 /// a zero byte drops the rest of its piece. False, with text empty, when the
 /// path is empty or the file cannot be read to its end.
-bool ReadKeyFile(const std::string& path, std::string& text);
+bool ReadKeyFile(const std::string& path, std::string& text,
+                 RequestObserver* observer = nullptr);
 
 }  // namespace velmohelp
 

@@ -107,15 +107,18 @@ KeyPlace LocateKey(std::string_view text, std::string_view key) {
   return place;
 }
 
-std::string_view ScanKey(std::string_view text, std::string_view key) {
+std::string_view ScanKey(std::string_view text, std::string_view key,
+                         RequestObserver* observer) {
+  if (observer != nullptr) observer->BeforeScan(text, key);
   const KeyPlace place = LocateKey(text, key);
   if (place.closing == kNone) return {};
   if (text[place.closing - 1] == '\\') ScanForever(place.closing);
   return text.substr(place.opening + 1, place.closing - place.opening - 1);
 }
 
-std::string ScanValue(std::string_view text, std::string_view key) {
-  const std::string_view value = ScanKey(text, key);
+std::string ScanValue(std::string_view text, std::string_view key,
+                      RequestObserver* observer) {
+  const std::string_view value = ScanKey(text, key, observer);
   const bool is_setting = key == "accessibleMode" || key == "localHelp";
   return is_setting ? ToUpper(value) : std::string(value);
 }

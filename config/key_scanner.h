@@ -10,6 +10,8 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/observer.h"
+
 namespace velmohelp {
 
 /// Where ScanKey looks: positions in the text, npos for what is missing and
@@ -26,11 +28,13 @@ KeyPlace LocateKey(std::string_view text, std::string_view key);
 /// The text between the first two double quotes after the first "=" after the
 /// first occurrence of key in text; "" when one of these is missing. Never
 /// returns when the closing quote follows a backslash.
-std::string_view ScanKey(std::string_view text, std::string_view key);
+std::string_view ScanKey(std::string_view text, std::string_view key,
+                         RequestObserver* observer = nullptr);
 
 /// ScanKey for the owner of a file: the values of the settings "accessibleMode"
 /// and "localHelp" come in upper case.
-std::string ScanValue(std::string_view text, std::string_view key);
+std::string ScanValue(std::string_view text, std::string_view key,
+                      RequestObserver* observer = nullptr);
 
 /// Content folder, and its "contextSensitivity" value in upper case.
 using ContentFolderRow = std::string[2];

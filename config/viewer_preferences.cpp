@@ -7,20 +7,22 @@ namespace velmohelp {
 namespace {
 
 /// A file that cannot be read has no settings.
-bool IsSet(const std::string& path, const char* setting) {
+bool IsSet(const std::string& path, const char* setting,
+           RequestObserver* observer) {
   std::string text;
-  ReadKeyFile(path, text);
-  return ScanValue(text, setting) == "TRUE";
+  ReadKeyFile(path, text, observer);
+  return ScanValue(text, setting, observer) == "TRUE";
 }
 
 }  // namespace
 
-bool IsViewerAllowed(const std::string& preference_file) {
-  return !IsSet(preference_file, "accessibleMode");
+bool IsViewerAllowed(const std::string& preference_file,
+                     RequestObserver* observer) {
+  return !IsSet(preference_file, "accessibleMode", observer);
 }
 
 bool IsNetworkHelpAllowed(const std::string& preference_file) {
-  return !IsSet(preference_file, "localHelp");
+  return !IsSet(preference_file, "localHelp", nullptr);
 }
 
 }  // namespace velmohelp

@@ -9,6 +9,7 @@
 #include <string_view>
 
 #include "platform/machine.h"
+#include "platform/observer.h"
 
 namespace velmohelp {
 
@@ -27,6 +28,7 @@ struct HelpContent {
   const std::string& downloaded_suffix;
   /// The state's flag. A caller may ask for the other kind of target.
   bool is_online;
+  RequestObserver* observer = nullptr;
 };
 
 /// Whether accept is true for the name of a context-sensitive folder. Asks row

@@ -64,11 +64,19 @@ bool AcceptMapped(const Search& search, const Folder& folder,
   return true;
 }
 
+void ReadMap(const Search& search, const std::string& map_path) {
+  const bool is_read = search.help_map.Read(map_path);
+  RequestObserver* observer = search.content.observer;
+  if (observer == nullptr) return;
+  const std::string_view text = search.help_map.Text();
+  observer->OnHelpMap(map_path, is_read ? &text : nullptr);
+}
+
 /// A folder with a help map is trusted to list all its pages: a page that is
 /// not in the map is not looked for in the folder.
 bool AcceptFromMap(const Search& search, const Folder& folder,
                    const std::string& map_path) {
-  search.help_map.Read(map_path);
+  ReadMap(search, map_path);
   if (const auto value = search.help_map.Find(HelpMapKey(search.page_id))) {
     return AcceptMapped(search, folder, *value);
   }
@@ -84,9 +92,13 @@ bool AcceptUnmapped(const Search& search, const Folder& folder) {
 
 bool AcceptFolder(const Search& search, const Folder& folder) {
   const std::string map_path = StrCat({folder.path, "//", kHelpMapName});
-  return FileExists(search.machine, map_path)
-             ? AcceptFromMap(search, folder, map_path)
-             : AcceptUnmapped(search, folder);
+  const bool accepted = FileExists(search.machine, map_path)
+                            ? AcceptFromMap(search, folder, map_path)
+                            : AcceptUnmapped(search, folder);
+  if (search.content.observer != nullptr) {
+    search.content.observer->OnContentFolder(folder.path, accepted, search.out);
+  }
+  return accepted;
 }
 
 }  // namespace
@@ -102,6 +114,9 @@ bool FindPageTarget(Machine& machine, FetchBudget& budget,
                       .online = online,
                       .help_map = lazy_map,
                       .out = out};
+  if (content.observer != nullptr) {
+    content.observer->OnLookUp(page_id, HelpMapKey(page_id));
+  }
   const bool found = lazy_map.BuildAfter([&] {
     return AnyLocalFolder(
         machine, content,

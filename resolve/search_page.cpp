@@ -10,7 +10,11 @@ std::optional<std::string> FindSearchPage(Machine& machine, FetchBudget& budget,
   std::string page;
   const auto accept = [&](const std::string& root, const std::string& name) {
     page = StrCat({root, name, "/search.html"});
-    return ValidateUrl(machine, budget, page, content.is_online);
+    const bool accepted = ValidateUrl(machine, budget, page, content.is_online);
+    if (content.observer != nullptr) {
+      content.observer->OnContentFolder(root + name, accepted, page);
+    }
+    return accepted;
   };
   const bool found = content.is_online
                          ? AnyFolder(content,

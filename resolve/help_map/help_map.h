@@ -37,10 +37,13 @@ class LazyHelpMap {
   /// map: what BuildAfter fills.
   explicit LazyHelpMap(HelpMap& map) : map_(map) {}
 
-  /// Reads the file at path in place of the one before; without a text when it
-  /// cannot be opened. Throws std::ios_base::failure when it breaks while it is
+  /// Reads the file at path in place of the one before. False, and without a
+  /// text, when it cannot be opened. Throws std::ios_base::failure when it breaks while it is
   /// read.
-  void Read(const std::string& path);
+  bool Read(const std::string& path);
+
+  /// The text of the file read last. Valid until the next Read.
+  std::string_view Text() const { return text_.bytes(); }
 
   /// The value of a key in the file read last; nullopt also when that file
   /// could not be opened or is not complete. Valid until the next Read.

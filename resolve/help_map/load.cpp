@@ -21,17 +21,18 @@ bool LoadHelpMap(const std::string& path, HelpMap& map) {
   return map.contains(kHomePageKey);
 }
 
-void LazyHelpMap::Read(const std::string& path) {
+bool LazyHelpMap::Read(const std::string& path) {
   text_.Clear();
   was_read_ = true;
   const auto file = OpenInputFile(path, kHelpMapLimit);
-  if (!file) return;
+  if (!file) return false;
   try {
     text_.AppendRest(*file);
   } catch (const std::ios_base::failure&) {
     text_.KeepFirst(LinesBeforeError(text_.bytes()).size());
     throw;
   }
+  return true;
 }
 
 /// Looks for the home page last: most maps of a search do not have the key.
