@@ -27,4 +27,13 @@
 #define VELMO_BROWSER_OPENED "opened"
 #define VELMO_BROWSER_START "start"
 
+/* For a person who looks for the cause of a failure: reach and fetch write a
+ * line that says why, and an empty one when there is nothing to say. */
+#define VELMO_SAY_WHY "--why"
+
+/* velmohelp-browser: describes the default browser, one "key=value" per line:
+ * "entry" (its desktop entry), "name", "snap" and "flatpak" (what it is packed
+ * as, when it is). Nothing when there is none. */
+#define VELMO_BROWSER_DESCRIBE "--describe"
+
 #endif /* PLATFORM_LINUX_PROTOCOL_H_ */

@@ -81,6 +81,10 @@ GLogWriterOutput DropMessage(GLogLevelFlags, const GLogField*, gsize,
 
 int Main(int argc, char* argv[]) {
   g_log_set_writer_func(&DropMessage, nullptr, nullptr);
+  if (argc == 2 && std::string_view(argv[1]) == VELMO_BROWSER_DESCRIBE) {
+    const std::string text = DefaultBrowserDescription();
+    return velmo_write_all(text.data(), text.size()) != 0 ? 0 : 1;
+  }
   const bool find = argc == 3 && std::string_view(argv[1]) == kFind;
   if (argc != 2 && !find) return 1;
   return Answer(argv[argc - 1], find) ? 0 : 1;

@@ -3,6 +3,8 @@
 #include <gio/gdesktopappinfo.h>
 #include <gio/gio.h>
 
+#include <algorithm>
+
 #include "platform/linux/helpers/exec_line.h"
 #include "platform/linux/helpers/gobject_ptr.h"
 #include "platform/linux/helpers/terminal.h"
@@ -43,7 +45,26 @@ Words WithAbsoluteProgram(Words words) {
   return words;
 }
 
+/// "key=value" and a line end; "" without a value. A line end in it would begin
+/// another key.
+std::string Line(const char* key, std::string value) {
+  value.resize(std::min(value.find('\n'), value.size()));
+  return value.empty() ? "" : std::string(key) + "=" + value + "\n";
+}
+
 }  // namespace
+
+std::string DefaultBrowserDescription() {
+  const ObjectPtr<GAppInfo> browser = DefaultBrowser();
+  if (!browser) return "";
+  GDesktopAppInfo* entry = G_DESKTOP_APP_INFO(browser.get());
+  const TextPtr snap(
+      g_desktop_app_info_get_string(entry, "X-SnapInstanceName"));
+  const TextPtr flatpak(g_desktop_app_info_get_string(entry, "X-Flatpak"));
+  return Line("entry", OrEmpty(g_desktop_app_info_get_filename(entry))) +
+         Line("name", OrEmpty(g_app_info_get_name(browser.get()))) +
+         Line("snap", Text(snap)) + Line("flatpak", Text(flatpak));
+}
 
 Words DefaultBrowserCommand(const std::string& url) {
   const ObjectPtr<GAppInfo> browser = DefaultBrowser();

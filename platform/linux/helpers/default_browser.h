@@ -13,6 +13,10 @@ namespace velmohelp {
 /// program does not exist.
 std::vector<std::string> DefaultBrowserCommand(const std::string& url);
 
+/// What its desktop entry says of the default browser, in the form of
+/// VELMO_BROWSER_DESCRIBE; "" when there is none.
+std::string DefaultBrowserDescription();
+
 }  // namespace velmohelp
 
 #endif  // PLATFORM_LINUX_HELPERS_DEFAULT_BROWSER_H_

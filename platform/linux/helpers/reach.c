@@ -49,8 +49,24 @@ static const char* answer_about(const char* host) {
   return word;
 }
 
+/* A line for a person. */
+static int say_why(const char* host) {
+  const struct addrinfo wanted = {.ai_socktype = SOCK_DGRAM};
+  struct addrinfo* addresses = NULL;
+  const int error = getaddrinfo(host, NULL, &wanted, &addresses);
+  const char* why = "";
+  if (error != 0) {
+    why = gai_strerror(error);
+  } else {
+    if (best_route(addresses) == VELMO_NO_ROUTE) why = "no route to it";
+    freeaddrinfo(addresses);
+  }
+  return velmo_write_all(why, strlen(why)) && velmo_write_all("\n", 1) ? 0 : 1;
+}
+
 int main(int argc, char* argv[]) {
   velmo_limit_time(TIME_LIMIT_SECONDS);
+  if (argc == 3 && strcmp(argv[1], VELMO_SAY_WHY) == 0) return say_why(argv[2]);
   const char* answer = argc == 2 ? answer_about(argv[1]) : "";
   return velmo_give_answer(answer, strlen(answer)) ? 0 : 1;
 }

@@ -103,26 +103,55 @@ void Configure(CURL* transfer, CURLU* url, Body& body) {
   curl_easy_setopt(transfer, CURLOPT_WRITEDATA, &body);
 }
 
-/// A file: URL has no status.
-bool IsGoodStatus(CURL* transfer) {
+/// A file: URL has no status, which is 0 then.
+long StatusOf(CURL* transfer) {
   long status = 0;
   curl_easy_getinfo(transfer, CURLINFO_RESPONSE_CODE, &status);
-  return status == 0 || status / 100 == 2;
+  return status;
 }
 
-}  // namespace
+/// What came of a transfer.
+struct Outcome {
+  bool is_url = false;
+  CURLcode code = CURLE_OK;
+  long status = 0;
+  bool is_text = false;
 
-bool IsTextAt(const std::string& url) {
+  bool IsGoodStatus() const { return status == 0 || status / 100 == 2; }
+  bool IsGood() const {
+    return is_url && code == CURLE_OK && IsGoodStatus() && is_text;
+  }
+};
+
+Outcome Load(const std::string& url) {
   LimitThisProcess();
   const UrlPtr parsed = ParseResourceUrl(url);
   const Handle transfer(curl_easy_init(), &curl_easy_cleanup);
-  if (!parsed || !transfer) return false;
+  if (!parsed || !transfer) return {};
   Body body(transfer.get());
   std::size_t header_bytes_left = kMaxHeaderBytes;
   Configure(transfer.get(), parsed.get(), body);
   SetLimits(transfer.get(), header_bytes_left);
-  return curl_easy_perform(transfer.get()) == CURLE_OK &&
-         IsGoodStatus(transfer.get()) && body.IsText();
+  const CURLcode code = curl_easy_perform(transfer.get());
+  return {.is_url = true,
+          .code = code,
+          .status = StatusOf(transfer.get()),
+          .is_text = body.IsText()};
+}
+
+}  // namespace
+
+bool IsTextAt(const std::string& url) { return Load(url).IsGood(); }
+
+std::string WhyNoTextAt(const std::string& url) {
+  const Outcome outcome = Load(url);
+  if (outcome.IsGood()) return "";
+  if (!outcome.is_url) return "not a URL that can be loaded";
+  if (!outcome.IsGoodStatus()) {
+    return "HTTP status " + std::to_string(outcome.status);
+  }
+  const bool refused = outcome.code == CURLE_WRITE_ERROR || !outcome.is_text;
+  return refused ? "not a text" : curl_easy_strerror(outcome.code);
 }
 
 }  // namespace velmohelp

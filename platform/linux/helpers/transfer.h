@@ -15,6 +15,10 @@ namespace velmohelp {
 /// other.
 bool IsTextAt(const std::string& url);
 
+/// The same, for a person: why there is no text, such as "HTTP status 404" or
+/// libcurl's words; "" when there is one.
+std::string WhyNoTextAt(const std::string& url);
+
 }  // namespace velmohelp
 
 #endif  // PLATFORM_LINUX_HELPERS_TRANSFER_H_
