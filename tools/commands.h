@@ -7,12 +7,21 @@
 namespace velmohelp::tool {
 
 AddCommand AddCheckCommand;
+AddCommand AddDisplayCommand;
+AddCommand AddExplainCommand;
 AddCommand AddImportCommand;
 AddCommand AddNewCommand;
+AddCommand AddOpenCommand;
+AddCommand AddSearchCommand;
+AddCommand AddStatusCommand;
 
 /// In the order of the help text.
-inline constexpr AddCommand* kCommands[] = {AddCheckCommand, AddNewCommand,
-                                            AddImportCommand};
+inline constexpr AddCommand* kCommands[] = {
+#ifdef VELMO_TOOL_HAS_A_MACHINE
+    AddExplainCommand, AddDisplayCommand, AddOpenCommand,
+    AddSearchCommand,  AddStatusCommand,
+#endif
+    AddCheckCommand,   AddNewCommand,     AddImportCommand};
 
 }  // namespace velmohelp::tool
 

@@ -61,4 +61,21 @@ void WriteWholeFile(const std::filesystem::path& file, std::string_view text,
   if (std::fclose(stream) != 0 || !written) Fail(file, LastError());
 }
 
+NewFile::NewFile(const std::filesystem::path& path)
+    : path_(path), stream_(std::fopen(path.c_str(), "wbx")) {
+  if (stream_ == nullptr) Fail(path_, LastError());
+}
+
+NewFile::~NewFile() {
+  if (stream_ != nullptr) std::fclose(stream_);
+}
+
+void NewFile::Write(std::string_view text) {
+  const bool written =
+      std::fwrite(text.data(), 1, text.size(), stream_) == text.size();
+  const bool closed = std::fclose(stream_) == 0;
+  stream_ = nullptr;
+  if (!written || !closed) Fail(path_, LastError());
+}
+
 }  // namespace velmohelp::tool

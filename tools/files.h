@@ -2,6 +2,7 @@
 #ifndef TOOLS_FILES_H_
 #define TOOLS_FILES_H_
 
+#include <cstdio>
 #include <filesystem>
 #include <stdexcept>
 #include <string>
@@ -32,6 +33,25 @@ void ExpectWritable(const std::filesystem::path& file, bool overwrite);
 /// the person named.
 void WriteWholeFile(const std::filesystem::path& file, std::string_view text,
                     bool overwrite);
+
+/// A file that this process makes now and writes later, when it may have moved
+/// to where the path leads elsewhere.
+class NewFile {
+ public:
+  /// Throws FileError when something is at path already, or the file cannot be
+  /// made.
+  explicit NewFile(const std::filesystem::path& path);
+  NewFile(const NewFile&) = delete;
+  NewFile& operator=(const NewFile&) = delete;
+  ~NewFile();
+
+  /// Writes the whole text, once. Throws FileError when that fails.
+  void Write(std::string_view text);
+
+ private:
+  std::filesystem::path path_;
+  std::FILE* stream_;
+};
 
 }  // namespace velmohelp::tool
 

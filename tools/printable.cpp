@@ -6,8 +6,6 @@
 namespace velmohelp::tool {
 namespace {
 
-constexpr std::size_t kLongest = 120;
-
 bool IsControl(char c) {
   const auto byte = static_cast<unsigned char>(c);
   return byte < 0x20 || byte == 0x7F;
@@ -35,9 +33,9 @@ std::string Escape(char c) {
 
 }  // namespace
 
-std::string Printable(std::string_view text) {
+std::string Printable(std::string_view text, std::size_t longest) {
   std::string line;
-  while (!text.empty() && line.size() < kLongest) {
+  while (!text.empty() && line.size() < longest) {
     const std::size_t size = CharacterSize(text);
     if (size == 0 || IsControl(text.front()) || StartsWithC1(text)) {
       line += Escape(text.front());
@@ -48,6 +46,11 @@ std::string Printable(std::string_view text) {
     }
   }
   return text.empty() ? line : line + "...";
+}
+
+std::string PrintableWhole(std::string_view text) {
+  constexpr std::size_t kLongest = 8192;
+  return Printable(text, kLongest);
 }
 
 std::string Quoted(std::string_view text) {

@@ -257,11 +257,12 @@ TEST_P(APlace, ShowsPages) {
     const Words last_resort = place.last_resort == std::string("0")
                                   ? Viewer("HELP", "intro")
                                   : Nothing();
-    EXPECT_EQ(world.Ask(Display("intro")),
-              url.empty() ? place.last_resort : place.display);
-    EXPECT_EQ(world.Started(),
-              world.Expanded(url.empty() ? last_resort
-                                         : Shown("HELP", Quoted(url), url)));
+    const std::string code = url.empty() ? place.last_resort : place.display;
+    const Words started =
+        url.empty() ? last_resort : Shown("HELP", Quoted(url), url);
+    ExpectExplained(world, Display("intro"), code, started);
+    EXPECT_EQ(world.Ask(Display("intro")), code);
+    EXPECT_EQ(world.Started(), world.Expanded(started));
     EXPECT_EQ(world.Ask({"state"}),
               IdsLeft() + " " + std::to_string(content.entries));
   });
@@ -270,10 +271,12 @@ TEST_P(APlace, ShowsPages) {
 TEST_P(APlace, OpensUrls) {
   const Content any{"any content", {}, "", ""};
   ForEach({any}, [](HelpWorld& world, const Content&, bool) {
-    EXPECT_EQ(world.Ask(Open("http://localhost/a b")), GetParam().open);
-    EXPECT_EQ(world.Started(),
-              world.Expanded(Shown("URL", Quoted("http://localhost/a b"),
-                                   "http://localhost/a%20b")));
+    const Words request = Open("http://localhost/a b");
+    const Words started =
+        Shown("URL", Quoted("http://localhost/a b"), "http://localhost/a%20b");
+    ExpectExplained(world, request, GetParam().open, started);
+    EXPECT_EQ(world.Ask(request), GetParam().open);
+    EXPECT_EQ(world.Started(), world.Expanded(started));
     EXPECT_EQ(world.Ask({"state"}), IdsLeft() + " 0");
   });
 }
@@ -287,12 +290,12 @@ TEST_P(APlace, Searches) {
     const bool in_viewer =
         place.goes == Goes::kToViewer || place.display == std::string("1");
     const bool is_found = in_viewer || !url.empty();
-    EXPECT_EQ(world.Ask(Search("a b")),
-              is_found ? place.search : (is_online ? "7" : "6"));
-    EXPECT_EQ(
-        world.Started(),
-        world.Expanded(is_found ? Shown("SEARCH", "a%20b", url + "?q=a%20b")
-                                : Nothing()));
+    const std::string code = is_found ? place.search : (is_online ? "7" : "6");
+    const Words started =
+        is_found ? Shown("SEARCH", "a%20b", url + "?q=a%20b") : Nothing();
+    ExpectExplained(world, Search("a b"), code, started);
+    EXPECT_EQ(world.Ask(Search("a b")), code);
+    EXPECT_EQ(world.Started(), world.Expanded(started));
     EXPECT_EQ(world.Ask({"state"}), IdsLeft() + " 0");
   });
 }

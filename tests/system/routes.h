@@ -9,6 +9,7 @@
 
 #include "tests/support/sentence.h"
 #include "tests/system/changes.h"
+#include "tests/system/explained.h"
 
 namespace velmohelp::testing {
 
@@ -37,10 +38,12 @@ inline Words Search(const std::string& text) {
   return {"search", "Foo", "en_US", text};
 }
 
-/// Initialises the client and makes the route's request.
+/// Initialises the client and makes the route's request, which velmo-help has
+/// explained before.
 inline void Follow(const Route& route) {
   HelpWorld world;
   Apply(route.changes, world);
+  ExpectExplained(world, route.request, route.code, route.started);
   ASSERT_TRUE(world.Initialise());
   EXPECT_EQ(world.Ask(route.request), route.code);
   EXPECT_EQ(world.Started(), world.Expanded(route.started));
