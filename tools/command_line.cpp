@@ -12,11 +12,11 @@ namespace velmohelp::tool {
 namespace {
 
 constexpr char kDescription[] =
-    "Keeps the help content of the velmohelp client right.";
+    "Explains what the velmohelp client does, and keeps its content right.";
 constexpr char kFooter[] =
     "velmo-help COMMAND --help describes a command and its options.\n"
-    "Exit status: 0 success, 1 findings of check, 64 usage error, 65 input\n"
-    "that is not in its format, 74 a file that cannot be read or written.";
+    "Exit status: that of the request, or 0 success, 1 findings of check, 64\n"
+    "usage error, 65 bad input, 74 a file that cannot be read or written.";
 
 /// --help and --version end the parse as errors of status 0 do.
 int Report(const CLI::App& app, const CLI::ParseError& error,

@@ -5,7 +5,7 @@ set -eu
 tool=$1
 source=$2
 status=0
-for command in check new import; do
+for command in explain display open search status check new import; do
   for option in $("$tool" "$command" --help |
     grep -o '^  [-a-z,]*--[a-z-]*' | grep -o -e '--[a-z-]*'); do
     for file in completions/velmo-help.bash completions/_velmo-help \

@@ -4,13 +4,19 @@ _velmo_help() {
   local command=${COMP_WORDS[1]-}
   local common='--help --json --color'
   local config='--output --locale --base-url --app-id --pub-id --force'
+  local host='--host --pid'
   COMPREPLY=()
   if ((COMP_CWORD == 1)); then
-    mapfile -t COMPREPLY < <(compgen -W '--help --version check import new' \
+    mapfile -t COMPREPLY < <(compgen -W '--help --version check display explain import new open search status' \
       -- "$word")
     return
   fi
   case $before in
+    explain) mapfile -t COMPREPLY < <(compgen -W 'display open search' -- "$word")
+      return ;;
+    --host | --report) mapfile -t COMPREPLY < <(compgen -f -- "$word")
+      compopt -o filenames
+      return ;;
     --color) mapfile -t COMPREPLY < <(compgen -W 'auto always never' -- "$word")
       return ;;
     --format) mapfile -t COMPREPLY < <(compgen -W 'text json sarif' -- "$word")
@@ -26,6 +32,10 @@ _velmo_help() {
   esac
   local options=
   case $command in
+    explain) options="$common $host --verbose --offline --online --no-viewer \
+--pref --report" ;;
+    display | open | search) options="$common $host --verbose" ;;
+    status) options="$common $host" ;;
     check) options="$common --format --ids --locales --against --baseline \
 --without" ;;
     new) options="$common $config" ;;
@@ -34,7 +44,7 @@ _velmo_help() {
   esac
   if [[ $word == -* ]]; then
     mapfile -t COMPREPLY < <(compgen -W "$options" -- "$word")
-  elif [[ $command != new ]]; then
+  elif [[ $command == check || $command == import ]]; then
     mapfile -t COMPREPLY < <(compgen -f -- "$word")
     compopt -o filenames
   fi
