@@ -38,8 +38,8 @@ class LazyHelpMap {
   explicit LazyHelpMap(HelpMap& map) : map_(map) {}
 
   /// Reads the file at path in place of the one before. False, and without a
-  /// text, when it cannot be opened. Throws std::ios_base::failure when it breaks while it is
-  /// read.
+  /// text, when it cannot be opened. Throws std::ios_base::failure when it
+  /// breaks while it is read.
   bool Read(const std::string& path);
 
   /// The text of the file read last. Valid until the next Read.

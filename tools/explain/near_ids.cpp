@@ -18,6 +18,8 @@ char Lower(char c) {
   return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
 }
 
+bool Same(char a, char b) { return Lower(a) == Lower(b); }
+
 /// Short ids are all near each other: few mistakes count as one.
 std::size_t LimitFor(std::string_view key) {
   return std::clamp<std::size_t>(key.size() / 3, 1, 4);
@@ -36,11 +38,11 @@ void FillRow(std::string_view a, std::string_view b, std::size_t i,
              Rows& rows) {
   rows.now[0] = i;
   for (std::size_t j = 1; j <= b.size(); ++j) {
-    const std::size_t replaced = a[i - 1] == b[j - 1] ? 0 : 1;
+    const std::size_t replaced = Same(a[i - 1], b[j - 1]) ? 0 : 1;
     rows.now[j] = std::min(
         {rows.last[j] + 1, rows.now[j - 1] + 1, rows.last[j - 1] + replaced});
     const bool swapped =
-        i > 1 && j > 1 && a[i - 1] == b[j - 2] && a[i - 2] == b[j - 1];
+        i > 1 && j > 1 && Same(a[i - 1], b[j - 2]) && Same(a[i - 2], b[j - 1]);
     if (swapped) rows.now[j] = std::min(rows.now[j], rows.before[j - 2] + 1);
   }
 }
@@ -48,8 +50,7 @@ void FillRow(std::string_view a, std::string_view b, std::size_t i,
 }  // namespace
 
 bool SameButForCase(std::string_view a, std::string_view b) {
-  return std::ranges::equal(
-      a, b, [](char x, char y) { return Lower(x) == Lower(y); });
+  return std::ranges::equal(a, b, Same);
 }
 
 std::size_t EditDistance(std::string_view a, std::string_view b,
@@ -74,9 +75,7 @@ std::vector<std::string> NearKeys(std::string_view map, std::string_view key) {
   HelpMapParser parser(map);
   for (HelpMapEntry entry; parser.Next(entry);) {
     if (entry.key == key || entry.key == kHomePageKey) continue;
-    const std::size_t distance = SameButForCase(entry.key, key)
-                                     ? 0
-                                     : EditDistance(entry.key, key, limit);
+    const std::size_t distance = EditDistance(entry.key, key, limit);
     if (distance > limit) continue;
     best.emplace(distance, entry.key);
     if (best.size() > kMost) best.erase(std::prev(best.end()));

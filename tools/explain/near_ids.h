@@ -14,7 +14,8 @@ namespace velmohelp::tool {
 std::vector<std::string> NearKeys(std::string_view map, std::string_view key);
 
 /// How many bytes must be inserted, left out, replaced or swapped with the next
-/// one to make one text the other; limit + 1 when it is more than limit.
+/// one to make one text the other, whatever the case of ASCII letters; limit +
+/// 1 when it is more than limit.
 std::size_t EditDistance(std::string_view a, std::string_view b,
                          std::size_t limit);
 

@@ -99,6 +99,15 @@ void TakeOver(const std::vector<std::string>& environment) {
   }
 }
 
+/// The path as the process has it. Seen from here it may begin with the path of
+/// the process's own root.
+std::string BelowRoot(const std::string& path, const std::string& process) {
+  std::error_code error;
+  const std::string root = fs::read_symlink(process + "/root", error).string();
+  const bool below = root.size() > 1 && path.starts_with(root + "/");
+  return below ? path.substr(root.size()) : path;
+}
+
 }  // namespace
 
 HostProcess BecomeProcess(const std::string& pid) {
@@ -109,7 +118,9 @@ HostProcess BecomeProcess(const std::string& pid) {
   if (error) {
     throw FileError("process " + pid + ": " + error.message());
   }
-  host.library_folder = LibraryFolderIn(ReadSystemFile(process + "/maps"));
+  host.executable = BelowRoot(host.executable, process);
+  host.library_folder =
+      BelowRoot(LibraryFolderIn(ReadSystemFile(process + "/maps")), process);
   host.environment = Records(ReadSystemFile(process + "/environ"));
   host.not_entered = EnterSandbox(process);
   TakeOver(host.environment);

@@ -109,7 +109,8 @@ RequestMachine::RequestMachine(const MachineOptions& options, bool dry)
   layers_ = std::make_unique<Layers>(library_folder, options.what_if);
   layers_->is_dry = dry;
   if (!host_.empty()) {
-    layers_->linux_machine.SetHost(fs::absolute(host_).lexically_normal());
+    host_ = fs::absolute(host_).lexically_normal().string();
+    layers_->linux_machine.SetHost(host_);
   } else {
     host_is_named_ = false;
     host_ = HostExecutable().value_or("");

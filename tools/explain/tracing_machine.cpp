@@ -45,12 +45,14 @@ std::optional<std::string> TracingMachine::Add(
   return answer;
 }
 
-/// A helper that is asked why writes a line, and nothing when it knows none.
+/// A helper that is asked why writes a line, perhaps an empty one. One that is
+/// late has been ended.
 std::string TracingMachine::AskWhy(const char* helper,
                                    const std::string& about) {
   const auto line =
       machine().FirstOutput(helper_folder_ + "/" + helper, {"--why", about});
-  return line ? FirstLine(*line) : "";
+  if (!line) return "";
+  return line->empty() ? "no answer in time" : FirstLine(*line);
 }
 
 std::optional<FileEntry> TracingMachine::FindFile(const std::string& path) {

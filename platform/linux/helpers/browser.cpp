@@ -82,6 +82,7 @@ GLogWriterOutput DropMessage(GLogLevelFlags, const GLogField*, gsize,
 int Main(int argc, char* argv[]) {
   g_log_set_writer_func(&DropMessage, nullptr, nullptr);
   if (argc == 2 && std::string_view(argv[1]) == VELMO_BROWSER_DESCRIBE) {
+    alarm(static_cast<unsigned>(kAnswerTimeout.count()));
     const std::string text = DefaultBrowserDescription();
     return velmo_write_all(text.data(), text.size()) != 0 ? 0 : 1;
   }
