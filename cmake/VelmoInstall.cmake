@@ -14,14 +14,18 @@ install(DIRECTORY include/velmohelp
   FILES_MATCHING PATTERN "*.h")
 
 # find_package(velmohelp)
+string(REGEX REPLACE "/$" "" VELMO_PACKAGE_HELPDIR
+  "${VELMO_INSTALLED_HELP_DIR}")
 set(velmo_package_dir "${CMAKE_INSTALL_LIBDIR}/cmake/velmohelp")
+configure_file(cmake/velmohelpConfig.cmake.in
+  "${PROJECT_BINARY_DIR}/package/velmohelpConfig.cmake" @ONLY)
 write_basic_package_version_file(
   "${PROJECT_BINARY_DIR}/package/velmohelpConfigVersion.cmake"
   COMPATIBILITY SameMajorVersion)
 install(EXPORT velmohelp NAMESPACE velmohelp:: FILE velmohelpTargets.cmake
   DESTINATION "${velmo_package_dir}" COMPONENT development)
 install(FILES
-  cmake/velmohelpConfig.cmake
+  "${PROJECT_BINARY_DIR}/package/velmohelpConfig.cmake"
   "${PROJECT_BINARY_DIR}/package/velmohelpConfigVersion.cmake"
   DESTINATION "${velmo_package_dir}" COMPONENT development)
 

@@ -7,9 +7,6 @@
 namespace velmohelp {
 namespace {
 
-/// A locale is five bytes: language, underscore, region.
-constexpr std::size_t kLocaleLength = 5;
-
 void AssignViewerIds(std::string_view text, const HelpConfigState& state) {
   state.app_id = ScanKey(text, "appId", state.observer);
   state.publisher_id = ScanKey(text, "pubId", state.observer);

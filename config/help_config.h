@@ -2,6 +2,7 @@
 #ifndef CONFIG_HELP_CONFIG_H_
 #define CONFIG_HELP_CONFIG_H_
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -40,6 +41,12 @@ struct HelpConfigState {
 };
 
 inline constexpr std::int32_t kHelpPathCapacity = 100;
+
+/// A locale is five bytes: language, underscore, region.
+inline constexpr std::size_t kLocaleLength = 5;
+
+/// "<host resources>/help": a folder for each locale.
+std::string InstalledConfigFolder(Machine& machine);
 
 /// "<host resources>/help/<locale>/<product>.helpcfg".
 std::string InstalledConfigPath(Machine& machine, std::string_view product,

@@ -17,10 +17,14 @@ std::string ResourcesDirectory(Machine& machine) {
 
 }  // namespace
 
+std::string InstalledConfigFolder(Machine& machine) {
+  return StrCat({ResourcesDirectory(machine), "/help"});
+}
+
 std::string InstalledConfigPath(Machine& machine, std::string_view product,
                                 std::string_view locale) {
-  return StrCat({ResourcesDirectory(machine), "/help/", locale, "/", product,
-                 kExtension});
+  return StrCat(
+      {InstalledConfigFolder(machine), "/", locale, "/", product, kExtension});
 }
 
 std::string DownloadedConfigPath(Machine& machine, const std::string& suffix,

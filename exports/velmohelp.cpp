@@ -1,31 +1,24 @@
+#include <velmohelp/embed.h>
 #include <velmohelp/velmohelp.h>
 
 #include <cstring>
 
+#include "exports/failure_codes.h"
 #include "exports/guarded.h"
 #include "exports/this_client.h"
 #include "util/percent_encoding.h"
 
-using velmohelp::FailureCodes;
 using velmohelp::Guarded;
 using velmohelp::GuardedWithState;
+using velmohelp::kDisplayFailures;
+using velmohelp::kOnlineStatusFailures;
+using velmohelp::kOpenUrlFailures;
+using velmohelp::kSearchFailures;
 using velmohelp::ThisClient;
 using velmohelp::Uncancelled;
 using velmohelp::WithState;
 
 namespace {
-
-constexpr FailureCodes<SearchReturnCode> kSearchFailures = {
-    .state_has_ended = kSearchMissingConfig, .exception = kSearchLaunchFailure};
-constexpr FailureCodes<DisplayPageReturnCode> kDisplayFailures = {
-    .state_has_ended = kDisplayInvalidInitialization,
-    .exception = kDisplayUnexpectedResult};
-constexpr FailureCodes<OpenUrlReturnCode> kOpenUrlFailures = {
-    .state_has_ended = kOpenUrlInvalidInitialization,
-    .exception = kOpenUrlUnexpectedResult};
-constexpr FailureCodes<OnlineStatusReturnCode> kOnlineStatusFailures = {
-    .state_has_ended = kOnlineStatusNotInitialized,
-    .exception = kOnlineStatusOffline};
 
 /// The text and a NUL into room bytes at out. Returns the text's length, or -1
 /// when they do not fit.
@@ -87,3 +80,20 @@ long VelmoHelpEncodeURIComponent(const char* in, char* out, long outSize) {
     });
   });
 }
+
+// Their prefixed names. Code of the library calls neither.
+uint32_t velmohelp_initialise(const char* product, const char* locale) {
+  return WithState(kInitMissingConfig, [&] {
+    return velmohelp::Initialise(ThisClient(), product, locale, false);
+  });
+}
+
+// NOLINTBEGIN(bugprone-macro-parentheses): a declaration's name takes none.
+#define VELMO_ALIAS(name, of) \
+  extern "C" decltype(of) name __attribute__((alias(#of)))
+// NOLINTEND(bugprone-macro-parentheses)
+VELMO_ALIAS(velmohelp_display, DisplayVelmoHelpClientPage);
+VELMO_ALIAS(velmohelp_open_url, OpenURL);
+VELMO_ALIAS(velmohelp_search, SearchHelp);
+VELMO_ALIAS(velmohelp_online_status, GetVelmoHelpClientOnlineStatus);
+VELMO_ALIAS(velmohelp_version, GetVelmoHelpClientVersion);

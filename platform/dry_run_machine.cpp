@@ -9,9 +9,8 @@ std::optional<std::string> DryRunMachine::PreferencesFolder(bool) {
 
 bool DryRunMachine::StartProgram(const std::string& program,
                                  const Arguments& arguments) {
-  const auto file = machine().FindFile(program);
   start_.reset();
-  if (!file || file->is_directory) return false;
+  if (!machine().CanStart(program)) return false;
   start_ = NotedStart{.kind = NotedStart::Kind::kViewer,
                       .program = program,
                       .arguments = arguments,
@@ -20,9 +19,10 @@ bool DryRunMachine::StartProgram(const std::string& program,
 }
 
 bool DryRunMachine::OpenInBrowser(const std::string& url) {
-  const auto command = machine().FindBrowser(url);
   start_.reset();
+  const auto command = machine().FindBrowser(url);
   if (!command) return false;
+  if (!command->empty() && !machine().CanStart(command->front())) return false;
   start_ = NotedStart{.kind = NotedStart::Kind::kBrowser,
                       .program = "",
                       .arguments = {},

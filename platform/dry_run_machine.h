@@ -25,9 +25,8 @@ struct NotedStart {
 /// Passes questions on to another machine, and notes the start of the viewer or
 /// the browser instead of making it. Makes no folder.
 ///
-/// A start that it notes succeeds when the program exists, or when there is a
-/// browser. Whether a program that exists runs is not known without starting
-/// it.
+/// A start that it notes succeeds when there is a program that can be started.
+/// Whether that keeps running is not known without starting it.
 class DryRunMachine : public ForwardingMachine {
  public:
   using ForwardingMachine::ForwardingMachine;

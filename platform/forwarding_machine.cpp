@@ -6,6 +6,10 @@ std::optional<FileEntry> ForwardingMachine::FindFile(const std::string& path) {
   return machine_.FindFile(path);
 }
 
+std::vector<std::string> ForwardingMachine::NamesIn(const std::string& path) {
+  return machine_.NamesIn(path);
+}
+
 std::optional<std::string> ForwardingMachine::PreferencesFolder(bool create) {
   return machine_.PreferencesFolder(create);
 }
@@ -38,9 +42,18 @@ std::optional<std::string> ForwardingMachine::FirstOutput(
   return machine_.FirstOutput(program, arguments);
 }
 
+bool ForwardingMachine::SetActivationToken(
+    const std::optional<std::string>& token) {
+  return machine_.SetActivationToken(token);
+}
+
 bool ForwardingMachine::StartProgram(const std::string& program,
                                      const Arguments& arguments) {
   return machine_.StartProgram(program, arguments);
+}
+
+bool ForwardingMachine::CanStart(const std::string& program) {
+  return machine_.CanStart(program);
 }
 
 bool ForwardingMachine::OpenInBrowser(const std::string& url) {
@@ -65,6 +78,14 @@ std::optional<std::string> ForwardingMachine::Preference(
 bool ForwardingMachine::FetchText(const std::string& url,
                                   std::chrono::milliseconds timeout) {
   return machine_.FetchText(url, timeout);
+}
+
+int ForwardingMachine::StartWorker(const Arguments& words) {
+  return machine_.StartWorker(words);
+}
+
+std::optional<std::string> ForwardingMachine::FinishWorker(int descriptor) {
+  return machine_.FinishWorker(descriptor);
 }
 
 std::chrono::milliseconds ForwardingMachine::MonotonicTime() {

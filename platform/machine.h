@@ -54,6 +54,10 @@ class Machine {
   /// the file that it points to.
   virtual std::optional<FileEntry> FindFile(const std::string& path) = 0;
 
+  /// The names of what a directory holds, in no order and without "." and "..".
+  /// Empty also when path is not a directory that can be read.
+  virtual std::vector<std::string> NamesIn(const std::string& path) = 0;
+
   /// The user's Preferences folder, without a final "/". create: makes it when
   /// it is missing.
   virtual std::optional<std::string> PreferencesFolder(bool create) = 0;
@@ -84,10 +88,20 @@ class Machine {
   virtual std::optional<std::string> FirstOutput(
       const std::string& program, const Arguments& arguments) = 0;
 
+  /// A token with which the window system lets the program that StartProgram,
+  /// OpenInBrowser or StartWorker starts next raise its window. That call uses
+  /// it up, whatever comes of it. nullopt: none. False, and no change, when the
+  /// text is too long.
+  virtual bool SetActivationToken(const std::optional<std::string>& token) = 0;
+
   /// Starts a program in its own session and leaves it running. True when it
   /// was running right after the start.
   virtual bool StartProgram(const std::string& program,
                             const Arguments& arguments) = 0;
+
+  /// Whether StartProgram would find a program to start at this path. Whether
+  /// it then keeps running is not known without starting it.
+  virtual bool CanStart(const std::string& program) = 0;
 
   /// Opens a URL, unchanged, with the user's default browser.
   virtual bool OpenInBrowser(const std::string& url) = 0;
@@ -112,6 +126,17 @@ class Machine {
   /// and the resource is text.
   virtual bool FetchText(const std::string& url,
                          std::chrono::milliseconds timeout) = 0;
+
+  /// Has a process of its own, which acts for this host, make a request: the
+  /// words go to what that process runs (see worker.h). Returns at once: a
+  /// descriptor, close-on-exec, that becomes readable when there is an answer
+  /// or the process has ended; -1 when it cannot. Closing the descriptor ends
+  /// the process and whatever it waits for.
+  virtual int StartWorker(const Arguments& words) = 0;
+
+  /// The answer of a worker. Blocks until there is one, and closes the
+  /// descriptor. nullopt when the worker ended without one.
+  virtual std::optional<std::string> FinishWorker(int descriptor) = 0;
 
   /// The time on a clock that nobody sets: only differences have a meaning.
   virtual std::chrono::milliseconds MonotonicTime() = 0;

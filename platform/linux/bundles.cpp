@@ -3,7 +3,6 @@
 #include <vector>
 
 #include "platform/linux/files.h"
-#include "platform/linux/own_location.h"
 #include "platform/locations.h"
 
 namespace velmohelp {
@@ -15,9 +14,11 @@ std::string ApplicationName(const std::string& directory) {
   return name;
 }
 
-std::vector<std::string> BundleFolders(const std::optional<std::string>& host) {
+std::vector<std::string> BundleFolders(
+    const std::optional<std::string>& library_folder,
+    const std::optional<std::string>& host) {
   std::vector<std::string> folders;
-  if (const auto own = OwnFolder()) folders.push_back(*own);
+  if (library_folder) folders.push_back(*library_folder);
   if (host) folders.push_back(Dirname(*host) + "/../Frameworks");
   folders.emplace_back(kFrameworksDir);
   return folders;
@@ -31,11 +32,13 @@ std::optional<std::string> ResourcesOf(const std::string& executable) {
   return FirstDirectory({folder + "/" + name, folder + "/../share/" + name});
 }
 
-std::optional<std::string> FindBundle(const std::string& identifier,
-                                      const std::optional<std::string>& host) {
+std::optional<std::string> FindBundle(
+    const std::string& identifier,
+    const std::optional<std::string>& library_folder,
+    const std::optional<std::string>& host) {
   // A bundle is named, never a path to it.
   if (identifier.find('/') != std::string::npos) return std::nullopt;
-  std::vector<std::string> paths = BundleFolders(host);
+  std::vector<std::string> paths = BundleFolders(library_folder, host);
   for (std::string& path : paths) path += "/" + identifier + ".framework";
   return FirstDirectory(paths);
 }

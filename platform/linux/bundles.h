@@ -11,11 +11,13 @@ namespace velmohelp {
 /// <dir>/../share/<name>.resources; nullopt when neither is a directory.
 std::optional<std::string> ResourcesOf(const std::string& executable);
 
-/// The first directory <identifier>.framework in: the folder of this library's
-/// file, ../Frameworks of the host program's folder, VELMO_FRAMEWORKS_DIR.
-/// host: the host's executable, when it is known.
-std::optional<std::string> FindBundle(const std::string& identifier,
-                                      const std::optional<std::string>& host);
+/// The first directory <identifier>.framework in: library_folder, ../Frameworks
+/// of the host program's folder, VELMO_FRAMEWORKS_DIR. Either of the first two
+/// may be unknown; host is an executable.
+std::optional<std::string> FindBundle(
+    const std::string& identifier,
+    const std::optional<std::string>& library_folder,
+    const std::optional<std::string>& host);
 
 /// The executable of an application directory <app>: <app>/bin/<name>, else
 /// <app>/AppRun, else <app>/<name>, where <name> is the directory's own name

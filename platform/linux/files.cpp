@@ -1,8 +1,12 @@
 #include "platform/linux/files.h"
 
+#include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
+
+#include <cerrno>
+#include <memory>
 
 #include "platform/linux/retry_on_eintr.h"
 
@@ -15,6 +19,10 @@ std::optional<struct stat> Status(const std::string& path) {
   if (stat(path.c_str(), &status) != 0) return std::nullopt;
   return status;
 }
+
+struct CloseDirectory {
+  void operator()(DIR* directory) const { closedir(directory); }
+};
 
 /// S_IFREG, S_IFDIR and so on; 0 when there is no file.
 mode_t TypeOf(const UniqueFd& file) {
@@ -40,6 +48,34 @@ bool IsExecutable(const std::string& path) {
   const auto status = Status(path);
   return status && S_ISREG(status->st_mode) &&
          faccessat(AT_FDCWD, path.c_str(), X_OK, AT_EACCESS) == 0;
+}
+
+bool IsProgram(const std::string& path) {
+  if (!IsExecutable(path)) return false;
+  const UniqueFd file = OpenForReading(path);
+  // A program that may be executed and not read is taken on trust.
+  if (!file) return errno == EACCES;
+  char start[4] = {};
+  const ssize_t size =
+      RetryOnEintr([&] { return read(file.get(), start, sizeof start); });
+  const std::string_view bytes(start, size < 0 ? 0 : std::size_t(size));
+  return bytes ==
+             "\x7F"
+             "ELF" ||
+         bytes.starts_with("#!");
+}
+
+std::vector<std::string> EntriesOf(const std::string& directory) {
+  std::vector<std::string> names;
+  if (directory.find('\0') != std::string::npos) return names;
+  const std::unique_ptr<DIR, CloseDirectory> entries(
+      opendir(directory.c_str()));
+  if (!entries) return names;
+  while (const dirent* entry = readdir(entries.get())) {
+    const std::string name = entry->d_name;
+    if (name != "." && name != "..") names.push_back(name);
+  }
+  return names;
 }
 
 std::optional<std::string> FirstDirectory(

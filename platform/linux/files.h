@@ -23,6 +23,14 @@ bool IsDirectory(const std::string& path);
 /// A regular file that this process may execute, by its effective ids.
 bool IsExecutable(const std::string& path);
 
+/// An executable of a format that the kernel starts by itself: ELF, or a script
+/// that names its interpreter. What another program would have to run for the
+/// kernel (binfmt_misc) is not one.
+bool IsProgram(const std::string& path);
+
+/// The names in a directory but "." and ".."; empty when it cannot be read.
+std::vector<std::string> EntriesOf(const std::string& directory);
+
 /// The first of the paths that is a directory.
 std::optional<std::string> FirstDirectory(
     const std::vector<std::string>& paths);

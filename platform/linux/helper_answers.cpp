@@ -31,23 +31,26 @@ std::optional<Arguments> CommandIn(const std::optional<std::string>& answer) {
 HelperAnswers::HelperAnswers(std::string folder, Timeouts timeouts)
     : folder_(std::move(folder)), timeouts_(timeouts) {}
 
-std::optional<std::string> HelperAnswers::Ask(const char* helper,
-                                              const Arguments& question,
-                                              milliseconds timeout,
-                                              std::size_t limit) const {
+std::optional<std::string> HelperAnswers::Ask(
+    const char* helper, const Arguments& question, milliseconds timeout,
+    std::size_t limit,
+    const std::optional<std::string>& activation_token) const {
   // The helper would see the part before the NUL alone.
   if (std::ranges::any_of(question, HasZeroByte)) return std::nullopt;
-  return AskHelper(folder_ + "/" + helper, question, timeout, limit);
+  return AskHelper(folder_ + "/" + helper, question, timeout, limit,
+                   activation_token);
 }
 
-bool HelperAnswers::OpenInBrowser(const std::string& url) const {
-  const auto command = CommandIn(
-      Ask("velmohelp-browser", {url}, timeouts_.browser, kCommandLimit));
+bool HelperAnswers::OpenInBrowser(
+    const std::string& url,
+    const std::optional<std::string>& activation_token) const {
+  const auto command =
+      CommandIn(Ask("velmohelp-browser", {url}, timeouts_.browser,
+                    kCommandLimit, activation_token));
   if (!command) return false;
   if (command->empty()) return true;
-  return StartDetached(command->front(),
-                       {command->begin() + 1, command->end()}) !=
-         StartResult::kFailed;
+  return StartDetached(command->front(), {command->begin() + 1, command->end()},
+                       activation_token) != StartResult::kFailed;
 }
 
 std::optional<Arguments> HelperAnswers::FindBrowser(

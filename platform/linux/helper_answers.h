@@ -22,7 +22,9 @@ class HelperAnswers {
   explicit HelperAnswers(std::string folder, Timeouts timeouts = {});
 
   /// See Machine for all of them.
-  bool OpenInBrowser(const std::string& url) const;
+  bool OpenInBrowser(
+      const std::string& url,
+      const std::optional<std::string>& activation_token = {}) const;
   std::optional<Arguments> FindBrowser(const std::string& url) const;
   std::optional<Reachability> HostReachability(
       const std::optional<std::string>& host) const;
@@ -30,9 +32,10 @@ class HelperAnswers {
                  std::chrono::milliseconds timeout) const;
 
  private:
-  std::optional<std::string> Ask(const char* helper, const Arguments& question,
-                                 std::chrono::milliseconds timeout,
-                                 std::size_t limit) const;
+  std::optional<std::string> Ask(
+      const char* helper, const Arguments& question,
+      std::chrono::milliseconds timeout, std::size_t limit,
+      const std::optional<std::string>& activation_token = {}) const;
 
   std::string folder_;
   Timeouts timeouts_;

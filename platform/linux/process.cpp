@@ -98,7 +98,7 @@ ProgramReport ReportOf(WaitFor wait_for, const LaunchReport& launch) {
 std::optional<ProgramReport> StartProcess(const ProgramStart& start) {
   if (start.program.find('\0') != std::string::npos) return std::nullopt;
   const std::vector<char*> words = WordsOf(start);
-  const ChildEnvironment environment;
+  const ChildEnvironment environment(start.activation_token);
   const LaunchMemory memory;
   if (!memory) return std::nullopt;
   const LaunchReport& report = *memory.report();

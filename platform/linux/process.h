@@ -27,6 +27,8 @@ struct ProgramStart {
   bool own_session = false;
   /// Its standard error is /dev/null, not the host's.
   bool drop_errors = false;
+  /// See ChildEnvironment.
+  std::optional<std::string> activation_token = {};
   /// SIGALRM ends the program after this time unless it changes its timer;
   /// zero: no limit.
   std::chrono::milliseconds time_limit{0};

@@ -22,23 +22,27 @@ std::optional<std::string> FirstOutput(const std::string& program,
 }
 
 StartResult StartDetached(const std::string& program,
-                          const Arguments& arguments) {
-  const auto report = StartProcess(
-      {.program = program, .arguments = arguments, .own_session = true});
+                          const Arguments& arguments,
+                          const std::optional<std::string>& activation_token) {
+  const auto report = StartProcess({.program = program,
+                                    .arguments = arguments,
+                                    .own_session = true,
+                                    .activation_token = activation_token});
   if (!report) return StartResult::kFailed;
   return report->running ? StartResult::kRunning : StartResult::kEndedAtOnce;
 }
 
-std::optional<std::string> AskHelper(const std::string& program,
-                                     const Arguments& question,
-                                     std::chrono::milliseconds timeout,
-                                     std::size_t limit) {
+std::optional<std::string> AskHelper(
+    const std::string& program, const Arguments& question,
+    std::chrono::milliseconds timeout, std::size_t limit,
+    const std::optional<std::string>& activation_token) {
   auto pipe = MakePipe();
   if (!pipe) return std::nullopt;
   const auto report = StartProcess({.program = program,
                                     .arguments = question,
                                     .output = pipe->write_end.get(),
                                     .drop_errors = true,
+                                    .activation_token = activation_token,
                                     .time_limit = timeout});
   if (!report) return std::nullopt;
   // A helper that ends without an answer is the last to hold the other end,

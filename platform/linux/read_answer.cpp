@@ -17,9 +17,12 @@ using std::chrono::milliseconds;
 /// Digits of the longest length that is worth reading.
 constexpr std::size_t kLengthDigits = 10;
 
-/// Rounded up: poll must not return early and spin through the last
-/// millisecond.
+constexpr Clock::time_point kNever = Clock::time_point::max();
+
+/// For poll: -1 means no limit. Rounded up: poll must not return early and spin
+/// through the last millisecond.
 int MillisecondsUntil(Clock::time_point end) {
+  if (end == kNever) return -1;
   const auto left = std::chrono::ceil<milliseconds>(end - Clock::now());
   return static_cast<int>(std::max(left, milliseconds(0)).count());
 }
@@ -70,8 +73,9 @@ AnswerState ParseAnswer(std::string_view text, std::size_t limit,
 }
 
 std::optional<std::string> ReadAnswer(const UniqueFd& pipe,
-                                      milliseconds timeout, std::size_t limit) {
-  const Clock::time_point end = Clock::now() + timeout;
+                                      std::optional<milliseconds> timeout,
+                                      std::size_t limit) {
+  const Clock::time_point end = timeout ? Clock::now() + *timeout : kNever;
   AnswerState state = AnswerState::kIncomplete;
   std::string text;
   std::string_view answer;

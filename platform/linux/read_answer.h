@@ -16,10 +16,10 @@ namespace velmohelp {
 /// the answer is complete, whoever else holds the other end of the pipe.
 /// nullopt when the answer is malformed, longer than limit bytes, cut short by
 /// the end of the file, or not complete within timeout (on the monotonic
-/// clock: setting the time of day changes nothing).
-std::optional<std::string> ReadAnswer(const UniqueFd& pipe,
-                                      std::chrono::milliseconds timeout,
-                                      std::size_t limit);
+/// clock: setting the time of day changes nothing; nullopt: no timeout).
+std::optional<std::string> ReadAnswer(
+    const UniqueFd& pipe, std::optional<std::chrono::milliseconds> timeout,
+    std::size_t limit);
 
 /// How much of an answer a text is.
 enum class AnswerState { kIncomplete, kMalformed, kComplete };

@@ -25,6 +25,9 @@ class UniqueFd {
   int get() const { return fd_; }
   explicit operator bool() const { return fd_ >= 0; }
 
+  /// Hands the descriptor over to the caller.
+  int Release() { return std::exchange(fd_, -1); }
+
   /// Never repeated after EINTR: Linux has closed the descriptor all the same,
   /// and another thread of the host may have its number by then.
   void Close() {

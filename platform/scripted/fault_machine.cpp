@@ -7,6 +7,11 @@ std::optional<FileEntry> FaultMachine::FindFile(const std::string& path) {
   return machine_.FindFile(path);
 }
 
+std::vector<std::string> FaultMachine::NamesIn(const std::string& path) {
+  if (Fails()) return {};
+  return machine_.NamesIn(path);
+}
+
 std::optional<std::string> FaultMachine::PreferencesFolder(bool create) {
   if (Fails()) return std::nullopt;
   return machine_.PreferencesFolder(create);
@@ -45,9 +50,17 @@ std::optional<std::string> FaultMachine::FirstOutput(
   return machine_.FirstOutput(program, arguments);
 }
 
+bool FaultMachine::SetActivationToken(const std::optional<std::string>& token) {
+  return !Fails() && machine_.SetActivationToken(token);
+}
+
 bool FaultMachine::StartProgram(const std::string& program,
                                 const Arguments& arguments) {
   return !Fails() && machine_.StartProgram(program, arguments);
+}
+
+bool FaultMachine::CanStart(const std::string& program) {
+  return !Fails() && machine_.CanStart(program);
 }
 
 bool FaultMachine::OpenInBrowser(const std::string& url) {
@@ -75,6 +88,15 @@ std::optional<std::string> FaultMachine::Preference(const std::string& domain,
 bool FaultMachine::FetchText(const std::string& url,
                              std::chrono::milliseconds timeout) {
   return !Fails() && machine_.FetchText(url, timeout);
+}
+
+int FaultMachine::StartWorker(const Arguments& words) {
+  return Fails() ? -1 : machine_.StartWorker(words);
+}
+
+std::optional<std::string> FaultMachine::FinishWorker(int descriptor) {
+  if (Fails()) return std::nullopt;
+  return machine_.FinishWorker(descriptor);
 }
 
 /// A clock does not fail.

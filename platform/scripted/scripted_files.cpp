@@ -36,4 +36,18 @@ std::optional<FileEntry> ScriptedFiles::Find(const std::string& path) const {
   return entry->second;
 }
 
+std::vector<std::string> ScriptedFiles::NamesIn(const std::string& path) const {
+  std::vector<std::string> names;
+  const auto directory = Find(path);
+  if (!directory || !directory->is_directory) return names;
+  std::string folder = WithSingleSlashes(path);
+  if (folder != "/") folder += '/';
+  for (const auto& [name, entry] : entries_) {
+    if (name.size() == folder.size() || !name.starts_with(folder)) continue;
+    const std::string rest = name.substr(folder.size());
+    if (rest.find('/') == std::string::npos) names.push_back(rest);
+  }
+  return names;
+}
+
 }  // namespace velmohelp

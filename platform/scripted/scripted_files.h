@@ -6,6 +6,7 @@
 #include <map>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "platform/machine.h"
 
@@ -25,6 +26,9 @@ class ScriptedFiles {
   void Remove(const std::string& path);
 
   std::optional<FileEntry> Find(const std::string& path) const;
+
+  /// The names directly in a directory.
+  std::vector<std::string> NamesIn(const std::string& path) const;
 
  private:
   void Add(const std::string& path, bool is_directory);

@@ -7,6 +7,8 @@ namespace {
 
 using namespace std::chrono_literals;
 
+constexpr char kBrowser[] = "/usr/bin/browser";
+
 std::string Quoted(const std::string& word) {
   const bool plain =
       !word.empty() && word.find_first_of(" \"") == std::string::npos;
@@ -92,6 +94,11 @@ std::optional<FileEntry> ScriptedMachine::FindFile(const std::string& path) {
   return files_.Find(path);
 }
 
+std::vector<std::string> ScriptedMachine::NamesIn(const std::string& path) {
+  Record({"NamesIn", path});
+  return files_.NamesIn(path);
+}
+
 std::optional<std::string> ScriptedMachine::PreferencesFolder(bool create) {
   Record({"PreferencesFolder", create ? "create" : "find"});
   return preferences_folder_;
@@ -131,10 +138,22 @@ std::optional<std::string> ScriptedMachine::FirstOutput(
   return Lookup(outputs_, {WithSingleSlashes(program), arguments});
 }
 
+bool ScriptedMachine::SetActivationToken(
+    const std::optional<std::string>& token) {
+  Record({"SetActivationToken", token.value_or("")});
+  return true;
+}
+
 bool ScriptedMachine::StartProgram(const std::string& program,
                                    const Arguments& arguments) {
   Record(Question("StartProgram", program, arguments));
   return startable_.contains(WithSingleSlashes(program));
+}
+
+bool ScriptedMachine::CanStart(const std::string& program) {
+  Record({"CanStart", program});
+  return (browser_opens_ && program == kBrowser) ||
+         startable_.contains(WithSingleSlashes(program));
 }
 
 bool ScriptedMachine::OpenInBrowser(const std::string& url) {
@@ -145,7 +164,7 @@ bool ScriptedMachine::OpenInBrowser(const std::string& url) {
 std::optional<Arguments> ScriptedMachine::FindBrowser(const std::string& url) {
   Record({"FindBrowser", url});
   if (!browser_opens_) return std::nullopt;
-  return Arguments{"/usr/bin/browser", url};
+  return Arguments{kBrowser, url};
 }
 
 std::optional<Reachability> ScriptedMachine::HostReachability(
@@ -171,6 +190,17 @@ bool ScriptedMachine::FetchText(const std::string& url,
   const auto time = Lookup(fetch_times_, url).value_or(0ms);
   clock_ += std::min(time, timeout);
   return time <= timeout && texts_.contains(url);
+}
+
+/// It has no processes.
+int ScriptedMachine::StartWorker(const Arguments&) {
+  Record({"StartWorker"});
+  return -1;
+}
+
+std::optional<std::string> ScriptedMachine::FinishWorker(int) {
+  Record({"FinishWorker"});
+  return std::nullopt;
 }
 
 std::chrono::milliseconds ScriptedMachine::MonotonicTime() { return clock_; }

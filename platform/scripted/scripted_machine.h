@@ -61,6 +61,7 @@ class ScriptedMachine : public Machine {
   /// is empty or has a space or a double quote is enclosed in double quotes:
   ///
   ///   FindFile /x/QTV
+  ///   NamesIn /x
   ///   PreferencesFolder create                 (or: find)
   ///   SetHost /x/host                          (the process's own: "")
   ///   ResourcesDirectory
@@ -68,7 +69,11 @@ class ScriptedMachine : public Machine {
   ///   ApplicationExecutable /x/Viewer.app
   ///   RunToEnd /x/QTV -isAppInstalled "" "a publisher"
   ///   FirstOutput /x/QTV -appLocation klh id.1
+  ///   SetActivationToken token                 (none: "")
+  ///   StartWorker                              (its words are left out)
+  ///   FinishWorker
   ///   StartProgram /x/Viewer HELP product en_US page.html
+  ///   CanStart /x/Viewer
   ///   OpenInBrowser file:///x/page.html
   ///   FindBrowser file:///x/page.html
   ///   HostReachability localhost               (no host: no second word)

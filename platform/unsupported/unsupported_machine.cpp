@@ -6,6 +6,10 @@ std::optional<FileEntry> UnsupportedMachine::FindFile(const std::string&) {
   return std::nullopt;
 }
 
+std::vector<std::string> UnsupportedMachine::NamesIn(const std::string&) {
+  return {};
+}
+
 std::optional<std::string> UnsupportedMachine::PreferencesFolder(bool) {
   return std::nullopt;
 }
@@ -38,9 +42,15 @@ std::optional<std::string> UnsupportedMachine::FirstOutput(const std::string&,
   return std::nullopt;
 }
 
+bool UnsupportedMachine::SetActivationToken(const std::optional<std::string>&) {
+  return false;
+}
+
 bool UnsupportedMachine::StartProgram(const std::string&, const Arguments&) {
   return false;
 }
+
+bool UnsupportedMachine::CanStart(const std::string&) { return false; }
 
 bool UnsupportedMachine::OpenInBrowser(const std::string&) { return false; }
 
@@ -62,6 +72,12 @@ std::optional<std::string> UnsupportedMachine::Preference(const std::string&,
 bool UnsupportedMachine::FetchText(const std::string&,
                                    std::chrono::milliseconds) {
   return false;
+}
+
+int UnsupportedMachine::StartWorker(const Arguments&) { return -1; }
+
+std::optional<std::string> UnsupportedMachine::FinishWorker(int) {
+  return std::nullopt;
 }
 
 std::chrono::milliseconds UnsupportedMachine::MonotonicTime() {

@@ -2,6 +2,7 @@
 // per allocation: no exception reaches the host, the code is that of the table,
 // and the next call works. Under the sanitizers nothing leaks either.
 #include <gtest/gtest.h>
+#include <velmohelp/embed.h>
 #include <velmohelp/unicode.h>
 #include <velmohelp/velmohelp.h>
 
@@ -25,6 +26,51 @@ long DisplayUrl() { return DisplayVelmoHelpClientPage("http://x/a b"); }
 long Open() { return OpenURL("http://x/a b"); }
 long SearchText() { return ::SearchHelp("Foo", "en_US", "some words"); }
 long SearchByNames() { return Search("a", "b", "en_US", "some words"); }
+
+long FindPage() {
+  std::uint32_t kind = 0;
+  char* url = nullptr;
+  const long code = velmohelp_find_display("page", &kind, &url);
+  velmohelp_free(url);
+  return code;
+}
+long FindUrl() {
+  std::uint32_t kind = 0;
+  char* url = nullptr;
+  const long code = velmohelp_find_url("http://x/a b", &kind, &url);
+  velmohelp_free(url);
+  return code;
+}
+long FindSearch() {
+  return velmohelp_find_search("Foo", "en_US", "words", nullptr, nullptr);
+}
+long ChooseLocale() {
+  char locale[6] = "";
+  return velmohelp_choose_locale("Foo", "en_US:de", locale);
+}
+long SetHost() {
+  return velmohelp_set_host("/a/path/that/is/longer/than/what/fits/in/place");
+}
+long SetToken() {
+  return velmohelp_set_activation_token("a token that does not fit in place");
+}
+long StartDisplay() { return velmohelp_start_display("page"); }
+long StartUrl() { return velmohelp_start_url("http://x/"); }
+long StartSearch() { return velmohelp_start_search("Foo", "en_US", "a"); }
+
+/// The scripted machine has no processes: a start fails there in any case.
+const EntryPoint kEmbedding[] = {
+    {"velmohelp_find_display in the viewer", {11}, FindPage, WithViewer},
+    {"velmohelp_find_display in the browser", {11}, FindPage, Initialised},
+    {"velmohelp_find_url", {7}, FindUrl, Initialised},
+    {"velmohelp_find_search", {1}, FindSearch, WithViewer},
+    {"velmohelp_choose_locale", {2}, ChooseLocale},
+    {"velmohelp_set_host", {1}, SetHost},
+    {"velmohelp_set_activation_token", {1}, SetToken},
+    {"velmohelp_start_display", {-1}, StartDisplay, Initialised, -1},
+    {"velmohelp_start_url", {-1}, StartUrl, Initialised, -1},
+    {"velmohelp_start_search", {-1}, StartSearch, Initialised, -1},
+};
 
 const EntryPoint kClient[] = {
     {"InitializeVelmoHelpClient", {6}, Initialise},
@@ -106,6 +152,8 @@ const EntryPoint kScript[] = {
 
 INSTANTIATE_TEST_SUITE_P(Client, MemoryRunsOut, ::testing::ValuesIn(kClient),
                          SentenceOf());
+INSTANTIATE_TEST_SUITE_P(Embedding, MemoryRunsOut,
+                         ::testing::ValuesIn(kEmbedding), SentenceOf());
 INSTANTIATE_TEST_SUITE_P(Texts, MemoryRunsOut, ::testing::ValuesIn(kTexts),
                          SentenceOf());
 INSTANTIATE_TEST_SUITE_P(Script, MemoryRunsOut, ::testing::ValuesIn(kScript),

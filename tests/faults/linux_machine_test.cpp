@@ -68,6 +68,17 @@ const Question kFiles[] = {
      [](Machine& machine, const std::string& asked) {
        return machine.FindFile(asked).has_value();
      }},
+    {"NamesIn", [](World& world) { return world.AddFile("folder/file"); },
+     [](Machine& machine, const std::string& asked) {
+       const auto folder = std::filesystem::path(asked).parent_path();
+       return machine.NamesIn(folder) == std::vector<std::string>{"file"};
+     }},
+    {"SetHost and ResourcesDirectory",
+     [](World& world) { return world.AddDirectory("bin/app.resources"); },
+     [](Machine& machine, const std::string& asked) {
+       const auto host = std::filesystem::path(asked).replace_extension();
+       return machine.SetHost(host) && machine.ResourcesDirectory() == asked;
+     }},
     {"PreferencesFolder",
      [](World& world) { return world.SetPreferencesFolder(); },
      [](Machine& machine, const std::string& asked) {
@@ -112,6 +123,19 @@ const Question kPrograms[] = {
      [](World& world) { return world.AddSpeaker("speaker", "/a b"); },
      [](Machine& machine, const std::string& asked) {
        return machine.FirstOutput(asked, {"speak"}) == "/a b";
+     }},
+    {"CanStart", [](World& world) { return world.AddLastingProgram("viewer"); },
+     [](Machine& machine, const std::string& asked) {
+       return machine.CanStart(asked);
+     }},
+    {"SetActivationToken", Nothing,
+     [](Machine& machine, const std::string& /*asked*/) {
+       return machine.SetActivationToken("a token that is not in place");
+     }},
+    {"StartWorker and FinishWorker", Nothing,
+     [](Machine& machine, const std::string& /*asked*/) {
+       const int descriptor = machine.StartWorker({"of another version"});
+       return machine.FinishWorker(descriptor) == "";
      }},
     {"StartProgram",
      [](World& world) { return world.AddLastingProgram("viewer"); },

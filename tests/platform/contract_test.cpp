@@ -72,6 +72,16 @@ TEST_P(EveryMachine, TellsDirectoriesFromFiles) {
   EXPECT_FALSE(machine().FindFile(""));
 }
 
+TEST_P(EveryMachine, ListsADirectory) {
+  const std::string file = world().AddFile("list/file");
+  world().AddFile("list/deeper/other");
+  EXPECT_THAT(machine().NamesIn(world().root() + "/list"),
+              ::testing::UnorderedElementsAre("deeper", "file"));
+  for (const std::string& path : {file, world().root() + "/missing", ""s}) {
+    EXPECT_THAT(machine().NamesIn(path), ::testing::IsEmpty()) << path;
+  }
+}
+
 TEST_P(EveryMachine, HasThePreferencesFolder) {
   const std::string folder = world().SetPreferencesFolder();
   for (const bool create : {false, true}) {
@@ -116,6 +126,13 @@ TEST_P(EveryMachine, StartsAProgram) {
   EXPECT_TRUE(machine().StartProgram(world().AddLastingProgram("viewer"),
                                      {"HELP", "product"}));
   EXPECT_FALSE(machine().StartProgram(world().root() + "/missing", {}));
+}
+
+TEST_P(EveryMachine, TellsWhatItCanStart) {
+  EXPECT_TRUE(machine().CanStart(world().AddLastingProgram("viewer")));
+  EXPECT_FALSE(machine().CanStart(world().AddFile("text")));
+  EXPECT_FALSE(machine().CanStart(world().root()));
+  EXPECT_FALSE(machine().CanStart(world().root() + "/missing"));
 }
 
 TEST_P(EveryMachine, ReadsAPreferenceInItsScope) {

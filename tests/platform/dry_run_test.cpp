@@ -27,6 +27,7 @@ class DryRun : public ScriptedTest {
 
 TEST_F(DryRun, NotesTheViewerWithItsArguments) {
   machine.AddFile("/x/Viewer");
+  machine.OnStart("/x/Viewer");
   EXPECT_EQ(LaunchApplication(dry, "/x/Viewer", {"HELP", "Foo"}), kLaunched);
   ASSERT_TRUE(dry.start());
   EXPECT_EQ(dry.start()->kind, NotedStart::Kind::kViewer);
@@ -36,9 +37,8 @@ TEST_F(DryRun, NotesTheViewerWithItsArguments) {
   ExpectNoChange();
 }
 
-TEST_F(DryRun, FailsWhereTheViewerIsMissingOrADirectory) {
-  machine.AddDirectory("/x");
-  EXPECT_FALSE(dry.StartProgram("/x", {}));
+TEST_F(DryRun, FailsWhereTheViewerCannotBeStarted) {
+  machine.AddFile("/x/Viewer");
   EXPECT_FALSE(dry.StartProgram("/x/Viewer", {}));
   EXPECT_FALSE(dry.start());
   ExpectNoChange();
@@ -55,6 +55,21 @@ TEST_F(DryRun, NotesTheBrowserWithItsCommandAndUrl) {
   ExpectNoChange();
 }
 
+/// A browser whose file is not a program.
+class BrokenBrowserMachine : public ForwardingMachine {
+ public:
+  using ForwardingMachine::ForwardingMachine;
+  bool CanStart(const std::string&) override { return false; }
+};
+
+TEST_F(DryRun, FailsWithABrowserThatCannotBeStarted) {
+  machine.SetBrowserOpens(true);
+  BrokenBrowserMachine broken(machine);
+  DryRunMachine on_broken(broken);
+  EXPECT_FALSE(on_broken.OpenInBrowser("http://h/"));
+  EXPECT_FALSE(on_broken.start());
+}
+
 TEST_F(DryRun, FailsWithoutABrowser) {
   EXPECT_EQ(LaunchPlatformBrowser(dry, "http://h/"), kBrowserNotLaunched);
   EXPECT_FALSE(dry.start());
@@ -64,6 +79,7 @@ TEST_F(DryRun, FailsWithoutABrowser) {
 /// The first choice was refused, and nothing else was tried after it.
 TEST_F(DryRun, ForgetsAStartWhenALaterOneFails) {
   machine.AddFile("/x/Viewer");
+  machine.OnStart("/x/Viewer");
   EXPECT_TRUE(dry.StartProgram("/x/Viewer", {}));
   EXPECT_FALSE(dry.OpenInBrowser("http://h/"));
   EXPECT_FALSE(dry.start());
@@ -98,6 +114,7 @@ TEST(ForwardingMachine, PassesEveryQuestionOn) {
   ScriptedMachine machine;
   ForwardingMachine forwarding(machine);
   forwarding.FindFile("/a");
+  forwarding.NamesIn("/b");
   forwarding.PreferencesFolder(true);
   forwarding.SetHost("/x/host");
   forwarding.ResourcesDirectory();
@@ -105,21 +122,27 @@ TEST(ForwardingMachine, PassesEveryQuestionOn) {
   forwarding.ApplicationExecutable("/c");
   forwarding.RunToEnd("/d", {"1"});
   forwarding.FirstOutput("/e", {"2"});
+  forwarding.SetActivationToken("t");
   forwarding.StartProgram("/f", {"3"});
+  forwarding.CanStart("/f");
   forwarding.OpenInBrowser("http://g/");
   forwarding.FindBrowser("http://h/");
   forwarding.HostReachability("i");
   forwarding.Preference("j", "k", PreferenceScope::kAnyUserCurrentHost);
   forwarding.FetchText("http://l/", std::chrono::seconds(1));
+  forwarding.StartWorker({});
+  forwarding.FinishWorker(-1);
   EXPECT_EQ(forwarding.MonotonicTime(), machine.MonotonicTime());
-  EXPECT_THAT(machine.Questions(),
-              ElementsAre("FindFile /a", "PreferencesFolder create",
-                          "SetHost /x/host", "ResourcesDirectory",
-                          "BundleDirectory b", "ApplicationExecutable /c",
-                          "RunToEnd /d 1", "FirstOutput /e 2",
-                          "StartProgram /f 3", "OpenInBrowser http://g/",
-                          "FindBrowser http://h/", "HostReachability i",
-                          "Preference admin j k", "FetchText http://l/"));
+  EXPECT_THAT(
+      machine.Questions(),
+      ElementsAre("FindFile /a", "NamesIn /b", "PreferencesFolder create",
+                  "SetHost /x/host", "ResourcesDirectory", "BundleDirectory b",
+                  "ApplicationExecutable /c", "RunToEnd /d 1",
+                  "FirstOutput /e 2", "SetActivationToken t",
+                  "StartProgram /f 3", "CanStart /f", "OpenInBrowser http://g/",
+                  "FindBrowser http://h/", "HostReachability i",
+                  "Preference admin j k", "FetchText http://l/", "StartWorker",
+                  "FinishWorker"));
 }
 
 }  // namespace

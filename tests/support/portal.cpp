@@ -148,7 +148,10 @@ void PortalDouble::Answer(GVariant* arguments, GDBusMethodInvocation* call) {
   }
   GVariant* options = g_variant_get_child_value(arguments, 2);
   const char* token = "";
+  const char* activation_token = "";
   g_variant_lookup(options, "handle_token", "&s", &token);
+  g_variant_lookup(options, "activation_token", "&s", &activation_token);
+  activation_token_ = activation_token;
   handle_ = behaviour_.own_handle ? std::string(kPath) + "/request/own"
                                   : DocumentedHandle(caller_, token);
   g_variant_unref(options);

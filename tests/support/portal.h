@@ -96,6 +96,8 @@ class PortalDouble {
   const std::string& method() const { return method_; }
   /// Its URL, or the path of the file whose descriptor came with it.
   const std::string& target() const { return target_; }
+  /// The option of this name in the last call; "" without one.
+  const std::string& activation_token() const { return activation_token_; }
   bool caller_is_on_the_bus() const;
 
  private:
@@ -111,6 +113,7 @@ class PortalDouble {
   ObjectPtr<GDBusConnection> other_client_;
   std::string method_;
   std::string target_;
+  std::string activation_token_;
   std::string caller_;
   std::string handle_;
   std::promise<void> called_;

@@ -2,10 +2,12 @@
 // applications load a plug-in, and makes the requests that its test sends.
 #include <dlfcn.h>
 #include <fcntl.h>
+#include <poll.h>
 #include <sys/mman.h>
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
+#include <velmohelp/embed.h>
 #include <velmohelp/state.h>
 #include <velmohelp/velmohelp.h>
 
@@ -73,6 +75,93 @@ std::string SearchByName(Client& client, const Words& words) {
   return std::to_string(
       VELMO_FIND(client, Search)(words.at(1).c_str(), words.at(2).c_str(),
                                  words.at(3).c_str(), words.at(4).c_str()));
+}
+
+/// "<code> <kind> <url>", with "-" for no URL.
+std::string Found(Client& client, std::uint32_t code, std::uint32_t kind,
+                  char* url) {
+  const std::string target = url == nullptr ? "-" : url;
+  VELMO_FIND(client, velmohelp_free)(url);
+  return std::to_string(code) + " " + std::to_string(kind) + " " + target;
+}
+
+std::string FindDisplay(Client& client, const Words& words) {
+  std::uint32_t kind = 9;
+  char* url = nullptr;
+  const std::uint32_t code = VELMO_FIND(client, velmohelp_find_display)(
+      words.at(1).c_str(), &kind, &url);
+  return Found(client, code, kind, url);
+}
+
+std::string FindUrl(Client& client, const Words& words) {
+  std::uint32_t kind = 9;
+  char* url = nullptr;
+  const std::uint32_t code =
+      VELMO_FIND(client, velmohelp_find_url)(words.at(1).c_str(), &kind, &url);
+  return Found(client, code, kind, url);
+}
+
+std::string FindSearch(Client& client, const Words& words) {
+  std::uint32_t kind = 9;
+  char* url = nullptr;
+  const std::uint32_t code = VELMO_FIND(client, velmohelp_find_search)(
+      words.at(1).c_str(), words.at(2).c_str(), words.at(3).c_str(), &kind,
+      &url);
+  return Found(client, code, kind, url);
+}
+
+std::string ChooseLocale(Client& client, const Words& words) {
+  char locale[6] = "";
+  const std::uint32_t code = VELMO_FIND(client, velmohelp_choose_locale)(
+      words.at(1).c_str(), words.at(2).c_str(), locale);
+  return std::to_string(code) + " " + locale;
+}
+
+std::string SetHost(Client& client, const Words& words) {
+  return std::to_string(
+      VELMO_FIND(client, velmohelp_set_host)(words.at(1).c_str()));
+}
+
+std::string StartDisplay(Client& client, const Words& words) {
+  return std::to_string(
+      VELMO_FIND(client, velmohelp_start_display)(words.at(1).c_str()));
+}
+
+std::string StartUrl(Client& client, const Words& words) {
+  return std::to_string(
+      VELMO_FIND(client, velmohelp_start_url)(words.at(1).c_str()));
+}
+
+std::string StartSearch(Client& client, const Words& words) {
+  return std::to_string(VELMO_FIND(client, velmohelp_start_search)(
+      words.at(1).c_str(), words.at(2).c_str(), words.at(3).c_str()));
+}
+
+bool IsReadable(const Words& words, int timeout) {
+  pollfd waited = {std::stoi(words.at(1)), POLLIN, 0};
+  return poll(&waited, 1, timeout) == 1;
+}
+
+std::string LookAt(Client&, const Words& words) {
+  return IsReadable(words, 0) ? "yes" : "no";
+}
+
+std::string Await(Client&, const Words& words) {
+  return IsReadable(words, -1) ? "readable" : "not a descriptor";
+}
+
+std::string Finish(Client& client, const Words& words) {
+  return std::to_string(
+      VELMO_FIND(client, velmohelp_finish)(std::stoi(words.at(1))));
+}
+
+std::string Cancel(Client&, const Words& words) {
+  return close(std::stoi(words.at(1))) == 0 ? "closed" : "not open";
+}
+
+std::string SetToken(Client& client, const Words& words) {
+  return std::to_string(
+      VELMO_FIND(client, velmohelp_set_activation_token)(words.at(1).c_str()));
 }
 
 std::string Status(Client& client, const Words&) {
@@ -187,6 +276,19 @@ const std::map<std::string, Request>& Requests() {
       {"open", Open},
       {"search", SearchFor},
       {"search by name", SearchByName},
+      {"find display", FindDisplay},
+      {"find open", FindUrl},
+      {"find search", FindSearch},
+      {"start display", StartDisplay},
+      {"start open", StartUrl},
+      {"start search", StartSearch},
+      {"is readable", LookAt},
+      {"await", Await},
+      {"finish", Finish},
+      {"cancel", Cancel},
+      {"set token", SetToken},
+      {"choose locale", ChooseLocale},
+      {"set host", SetHost},
       {"status", Status},
       {"version", Version},
       {"state", State},

@@ -261,7 +261,7 @@ TEST_P(APlace, ShowsPages) {
     const Words started =
         url.empty() ? last_resort : Shown("HELP", Quoted(url), url);
     ExpectExplained(world, Display("intro"), code, started);
-    EXPECT_EQ(world.Ask(Display("intro")), code);
+    EXPECT_EQ(FindThenAsk(world, Display("intro"), started), code);
     EXPECT_EQ(world.Started(), world.Expanded(started));
     EXPECT_EQ(world.Ask({"state"}),
               IdsLeft() + " " + std::to_string(content.entries));
@@ -275,7 +275,7 @@ TEST_P(APlace, OpensUrls) {
     const Words started =
         Shown("URL", Quoted("http://localhost/a b"), "http://localhost/a%20b");
     ExpectExplained(world, request, GetParam().open, started);
-    EXPECT_EQ(world.Ask(request), GetParam().open);
+    EXPECT_EQ(FindThenAsk(world, request, started), GetParam().open);
     EXPECT_EQ(world.Started(), world.Expanded(started));
     EXPECT_EQ(world.Ask({"state"}), IdsLeft() + " 0");
   });
@@ -294,7 +294,7 @@ TEST_P(APlace, Searches) {
     const Words started =
         is_found ? Shown("SEARCH", "a%20b", url + "?q=a%20b") : Nothing();
     ExpectExplained(world, Search("a b"), code, started);
-    EXPECT_EQ(world.Ask(Search("a b")), code);
+    EXPECT_EQ(FindThenAsk(world, Search("a b"), started), code);
     EXPECT_EQ(world.Started(), world.Expanded(started));
     EXPECT_EQ(world.Ask({"state"}), IdsLeft() + " 0");
   });

@@ -30,11 +30,24 @@ std::string HandleOf(GDBusConnection* bus, const std::string& token) {
   return std::string(kObjectPath) + "/request/" + sender + "/" + token;
 }
 
+/// The library passes on what the host was given for this URL. The bus refuses
+/// a text that is not valid UTF-8.
+const char* ActivationToken() {
+  const char* token = g_getenv("XDG_ACTIVATION_TOKEN");
+  const bool is_usable = token != nullptr && *token != '\0' &&
+                         g_utf8_validate(token, -1, nullptr) != 0;
+  return is_usable ? token : nullptr;
+}
+
 GVariant* Options(const std::string& token) {
   GVariantBuilder options;
   g_variant_builder_init(&options, G_VARIANT_TYPE_VARDICT);
   g_variant_builder_add(&options, "{sv}", "handle_token",
                         g_variant_new_string(token.c_str()));
+  if (const char* activation_token = ActivationToken()) {
+    g_variant_builder_add(&options, "{sv}", "activation_token",
+                          g_variant_new_string(activation_token));
+  }
   return g_variant_builder_end(&options);
 }
 

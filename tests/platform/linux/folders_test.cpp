@@ -263,11 +263,15 @@ TEST(Resources, AreBesideTheHostBeforeTheyAreInShare) {
   EXPECT_EQ(ResourcesOf(host), directory / "bin/host.resources");
 }
 
+std::optional<std::string> Find(const std::string& identifier) {
+  return FindBundle(identifier, OwnFolder(), HostExecutable());
+}
+
 TEST(Bundle, IsADirectory) {
   const std::string name = "com.example.file" + std::to_string(getpid());
   const std::string path = OwnFolder().value() + "/" + name + ".framework";
   std::ofstream(path) << "a file";
-  EXPECT_FALSE(FindBundle(name, HostExecutable()));
+  EXPECT_FALSE(Find(name));
   fs::remove(path);
 }
 
@@ -277,9 +281,9 @@ TEST(Bundle, IsBesideTheClientBeforeItIsBesideTheHost) {
   const std::string host = Dirname(HostExecutable().value()) +
                            "/../Frameworks/" + name + ".framework";
   fs::create_directories(host);
-  EXPECT_EQ(FindBundle(name, HostExecutable()), host);
+  EXPECT_EQ(Find(name), host);
   fs::create_directory(own);
-  EXPECT_EQ(FindBundle(name, HostExecutable()), own);
+  EXPECT_EQ(Find(name), own);
   fs::remove(own);
   fs::remove(host);
 }
@@ -299,7 +303,7 @@ TEST(Bundle, IsBesideTheHostBeforeItIsInTheFolderOfTheBuild) {
                            "/../Frameworks/" + name + ".framework";
   fs::create_directories(last);
   fs::create_directories(host);
-  EXPECT_EQ(FindBundle(name, HostExecutable()), host);
+  EXPECT_EQ(Find(name), host);
   fs::remove(last);
   fs::remove(host);
 }
@@ -309,7 +313,7 @@ TEST(Bundle, IsLastInTheFolderOfTheBuild) {
   const std::string name = "com.example.last" + std::to_string(getpid());
   const std::string path = kFrameworksDir + ("/" + name) + ".framework";
   fs::create_directories(path);
-  EXPECT_EQ(FindBundle(name, HostExecutable()), path);
+  EXPECT_EQ(Find(name), path);
   fs::remove(path);
 }
 
@@ -331,8 +335,8 @@ TEST(AdministratorsPreference, IsMovedByNoVariable) {
 }
 
 TEST(Bundle, IsFoundByItsNameAloneNotByAPath) {
-  EXPECT_FALSE(FindBundle("../platform/x", HostExecutable()));
-  EXPECT_FALSE(FindBundle("", HostExecutable()));
+  EXPECT_FALSE(Find("../platform/x"));
+  EXPECT_FALSE(Find(""));
 }
 
 class Application : public ::testing::Test {

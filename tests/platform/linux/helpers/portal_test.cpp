@@ -95,6 +95,35 @@ INSTANTIATE_TEST_SUITE_P(
                     .behaviour = {.response = {}, .own_handle = true}}),
     testing::SentenceOf());
 
+struct TokenRow {
+  const char* sentence;
+  const char* variable;
+  const char* option;
+};
+
+class PortalToken : public ::testing::TestWithParam<TokenRow> {};
+
+TEST_P(PortalToken, IsTheOneInTheEnvironment) {
+  const testing::PrivateBus bus;
+  const PortalDouble portal({});
+  setenv("XDG_ACTIVATION_TOKEN", GetParam().variable, 1);
+  EXPECT_EQ(PortalRequest(kUrl).Await(kLong), PortalOutcome::kOpened);
+  EXPECT_EQ(portal.activation_token(), GetParam().option);
+  unsetenv("XDG_ACTIVATION_TOKEN");
+}
+
+/// The bus closes the connection of who sends it other bytes.
+INSTANTIATE_TEST_SUITE_P(
+    Rows, PortalToken,
+    ::testing::Values(
+        TokenRow{
+            .sentence = "a token", .variable = "a-token", .option = "a-token"},
+        TokenRow{.sentence = "no token", .variable = "", .option = ""},
+        TokenRow{.sentence = "bytes that are not UTF-8",
+                 .variable = "\xFF",
+                 .option = ""}),
+    testing::SentenceOf());
+
 /// The bus learns of it a moment later; one that stays makes this wait forever.
 TEST(PortalRequest, LeavesTheBusAtItsEnd) {
   const testing::PrivateBus bus;

@@ -34,6 +34,9 @@ class Sandbox : public ::testing::Test {
   }
 
   bool Opens(const std::string& url) { return Ask("open", url); }
+  bool OpensWithToken(const std::string& url) {
+    return Ask("open with token", url);
+  }
   bool Finds(const std::string& url) { return Ask("find", url); }
 
  private:
@@ -61,6 +64,9 @@ class Sandbox : public ::testing::Test {
     setenv(kBusAddress, lines.substr(0, verb - 1).c_str(), 1);
     if (!Enter()) return false;
     LinuxMachine machine(VELMO_TEST_HELPERS);
+    if (lines.substr(verb).starts_with("open with token")) {
+      machine.SetActivationToken("a-token");
+    }
     if (lines.substr(verb).starts_with("open")) {
       return machine.OpenInBrowser(lines.substr(url));
     }
@@ -81,6 +87,12 @@ TEST_F(Sandbox, OpensWhatThePortalOpens) {
   const PortalDouble portal({});
   EXPECT_TRUE(Opens(kUrl));
   EXPECT_EQ(portal.target(), kUrl);
+}
+
+TEST_F(Sandbox, HandsThePortalTheActivationToken) {
+  const PortalDouble portal({});
+  EXPECT_TRUE(OpensWithToken(kUrl));
+  EXPECT_EQ(portal.activation_token(), "a-token");
 }
 
 TEST_F(Sandbox, OpensNothingThatThePortalRefuses) {
