@@ -1,7 +1,7 @@
 # What an installation holds, in components as distributions split them:
 # "runtime" is what a program that uses the library needs to run, "development"
-# what it needs to be built; "host" and "lua" are for scripts, "tools" is for
-# whoever writes help.
+# what it needs to be built; "host" and "lua" are for scripts, "python" is for
+# programs in Python, "tools" is for whoever writes help.
 include(CMakePackageConfigHelpers)
 
 install(TARGETS velmohelp EXPORT velmohelp
@@ -54,6 +54,13 @@ install(FILES "${PROJECT_BINARY_DIR}/package/velmohelp.pc"
 
 install(FILES docs/man/velmohelp.3 DESTINATION "${CMAKE_INSTALL_MANDIR}/man3"
   COMPONENT development)
+
+# The interpreter is not asked where: a package is built for another machine's.
+set(VELMO_PYTHON_DIR "lib/python3/dist-packages" CACHE STRING
+  "The folder of Python packages, below the prefix")
+install(DIRECTORY python/velmohelp DESTINATION "${VELMO_PYTHON_DIR}"
+  COMPONENT python FILES_MATCHING PATTERN "*.py" PATTERN "py.typed")
+
 if(VELMO_BUILD_HOST)
   install(FILES host/lxhost.1 DESTINATION "${CMAKE_INSTALL_MANDIR}/man1"
     COMPONENT host)
