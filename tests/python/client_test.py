@@ -423,7 +423,7 @@ class Asyncio(InAWorld):
             client = self.new_client()
             await client.display("")
             before = os.listdir("/proc/self/fd")
-            await asyncio.gather(*(client.display("") for _ in range(50)))
+            await asyncio.gather(*(client.display("") for _ in range(20)))
             self.assertEqual(os.listdir("/proc/self/fd"), before)
 
         asyncio.run(run())
