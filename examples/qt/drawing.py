@@ -1,7 +1,11 @@
 #!/usr/bin/python3
 """A small drawing application. Every widget has a page id; F1 shows the page of
 the focused widget, or of its nearest parent that has one, and the Help button
-is grey where there is none."""
+is grey where there is none.
+
+The argument is the executable whose resources hold the configuration; without
+one, this file without its ending.
+"""
 
 import os
 import sys
@@ -15,7 +19,8 @@ from PyQt5.QtWidgets import (
 
 import velmohelp
 
-HOST = os.path.abspath(__file__).removesuffix(".py")
+HOST = os.path.abspath(
+    sys.argv[1] if len(sys.argv) > 1 else __file__.removesuffix(".py"))
 
 
 def with_page_id(widget, page_id):
