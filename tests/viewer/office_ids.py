@@ -33,12 +33,12 @@ def has_anchor(page, anchor, pages={}):
 
 def show(screen, url):
     """Asks the running viewer, and waits until the page has settled."""
-    before = screen.state("office")["settled"]
+    before = screen.state("office")["requests"]
     screen.bus.call_sync(
         ID, PATH, INTERFACE, "Show",
         GLib.Variant("(ssssa{sv})", ("HELP", "office", "en_US", f'"{url}"', {})),
         None, 0, TIMEOUT_S * 1000, None)
-    return screen.wait(lambda s: s["settled"] > before, "office")
+    return screen.wait(lambda s: s["shown"] > before, "office")
 
 
 def main():

@@ -162,11 +162,11 @@ class Screen:
         self._started.append(process)
         return process
 
-    def show(self, url, product="Sketch", verb="HELP"):
+    def show(self, url, product="Sketch", verb="HELP", **environment):
         """Shows a page, waits until it has settled, returns the state."""
-        before = self.state(product).get("settled", 0)
-        process = self.start(verb, product, "en_US", f'"{url}"')
-        self.wait(lambda s: s.get("settled", 0) > before, product)
+        before = self.state(product).get("requests", 0)
+        process = self.start(verb, product, "en_US", f'"{url}"', **environment)
+        self.wait(lambda s: s.get("shown", 0) > before, product)
         return process, self.state(product)
 
     def state(self, product="Sketch"):

@@ -154,10 +154,8 @@ class OneWindow(Windows):
 
     def test_the_window_is_raised_with_the_token_of_the_request(self):
         self.screen.show(self.lines)
-        before = self.screen.state()["painted"]
-        self.screen.start("HELP", "Sketch", "en_US", f'"{self.curves}"',
-                          XDG_ACTIVATION_TOKEN="velmo-token_TIME1")
-        self.screen.wait(lambda s: s["painted"] > before)
+        self.screen.show(self.curves,
+                         XDG_ACTIVATION_TOKEN="velmo-token_TIME1")
         tree = subprocess.run(
             ["xwininfo", "-root", "-tree"], env=self.screen.environment,
             capture_output=True, text=True, check=True).stdout
@@ -415,11 +413,11 @@ class Confinement(Windows):
 const done = text => document.title = 'done ' + text;
 try {{ {script} }} catch (error) {{ done('failed'); }}
 </script>""")
-        before = self.screen.state().get("settled", 0)
+        before = self.screen.state().get("requests", 0)
         self.screen.start("HELP", "Sketch", "en_US", f'"{url}"')
         state = self.screen.wait(
             lambda s: s.get("title", "").startswith("done ")
-            and name in s["uri"] and s["settled"] > before)
+            and name in s["uri"] and s["shown"] > before)
         return state["title"][len("done "):]
 
     def test_a_local_page_reaches_no_network(self):

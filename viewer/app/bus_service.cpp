@@ -39,6 +39,8 @@ GVariant* Describe(const WindowState& state) {
   add("view-height", g_variant_new_double(state.view_height));
   add("painted", g_variant_new_uint32(state.painted));
   add("settled", g_variant_new_uint32(state.settled));
+  add("requests", g_variant_new_uint32(state.requests));
+  add("shown", g_variant_new_uint32(state.shown));
   add("search", TextValue(state.search));
   add("hits", g_variant_new_uint32(state.hits));
   add("search-complete", g_variant_new_boolean(state.search_complete));

@@ -105,6 +105,7 @@ void HelpWindow::Raise(const std::string& activation_token) {
 
 void HelpWindow::Show(const Request& request,
                       const std::string& activation_token) {
+  ++state_.requests;
   ShowNotice({});
   words_.clear();
   // A page that the client has found is shown at once. Whatever needs the
@@ -221,6 +222,7 @@ void HelpWindow::OnReport(const PageReport& report) {
   if (report.event == "painted") ++state_.painted;
   if (report.event == "settled") {
     ++state_.settled;
+    state_.shown = state_.requests;
     // Only now, so that neither index nor contents delay the page.
     product_->Refresh();
   }

@@ -31,6 +31,10 @@ struct WindowState {
   double view_height = 0;
   unsigned painted = 0;
   unsigned settled = 0;
+  /// How many requests the window has taken, and the last one whose page has
+  /// settled.
+  unsigned requests = 0;
+  unsigned shown = 0;
   std::string search;
   unsigned hits = 0;
   bool search_complete = false;

@@ -17,7 +17,12 @@ PagePane::PagePane(Engine& engine, GtkStack* stack, double zoom,
 PageView& PagePane::View(PageKind kind) {
   auto& view = kind == PageKind::kLocal ? local_ : online_;
   if (!view) {
-    view = std::make_unique<PageView>(engine_, kind, listener_);
+    auto listener = listener_;
+    // A page that is out of sight may still be loading.
+    listener.on_report = [this, &view](const auto& report) {
+      if (current_ == view.get()) listener_.on_report(report);
+    };
+    view = std::make_unique<PageView>(engine_, kind, std::move(listener));
     webkit_web_view_set_zoom_level(view->web(), zoom_);
     gtk_stack_add_child(stack_, view->widget());
   }

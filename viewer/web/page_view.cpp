@@ -81,6 +81,10 @@ bool IsCancelled(const GError* error) {
                          WEBKIT_NETWORK_ERROR_CANCELLED);
 }
 
+std::string WithoutFragment(const std::string& uri) {
+  return uri.substr(0, uri.find('#'));
+}
+
 using ScriptDone = std::function<void(JSCValue*)>;
 
 void FinishScript(GObject* view, GAsyncResult* result, gpointer data) {
@@ -132,8 +136,7 @@ void PageView::Connect() {
   g_signal_connect(
       view_.get(), "load-changed",
       G_CALLBACK(+[](WebKitWebView*, WebKitLoadEvent event, PageView* self) {
-        if (event == WEBKIT_LOAD_FINISHED) self->listener_.on_loaded();
-        self->listener_.on_change();
+        self->OnLoadChanged(event);
       }),
       this);
   g_signal_connect(
@@ -155,8 +158,15 @@ void PageView::Connect() {
                    this);
 }
 
+void PageView::OnLoadChanged(WebKitLoadEvent event) {
+  if (event == WEBKIT_LOAD_STARTED) is_replacing_ = true;
+  if (event == WEBKIT_LOAD_COMMITTED) is_replacing_ = false;
+  if (event == WEBKIT_LOAD_FINISHED) listener_.on_loaded();
+  listener_.on_change();
+}
+
 void PageView::OnReport(JSCValue* value) {
-  if (!jsc_value_is_object(value)) return;
+  if (is_replacing_ || !jsc_value_is_object(value)) return;
   listener_.on_report({.event = TextOf(value, "event"),
                        .anchor = TextOf(value, "anchor"),
                        .found = TruthOf(value, "found"),
@@ -165,6 +175,9 @@ void PageView::OnReport(JSCValue* value) {
 }
 
 void PageView::Load(const std::string& uri) {
+  // Another anchor of the same document replaces nothing.
+  is_replacing_ = WithoutFragment(uri) == uri ||
+                  WithoutFragment(uri) != WithoutFragment(Uri());
   requested_ = uri;
   site_ = SiteOf(uri);
   webkit_web_view_load_uri(view_.get(), uri.c_str());
@@ -174,6 +187,7 @@ void PageView::ShowProblem(const std::string& uri,
                            const std::string& sentence) {
   problem_ = sentence;
   problem_uri_ = uri;
+  is_replacing_ = true;
   webkit_web_view_load_alternate_html(
       view_.get(), ProblemPage(sentence, uri).c_str(), uri.c_str(), nullptr);
   listener_.on_change();

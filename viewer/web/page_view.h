@@ -64,6 +64,7 @@ class PageView {
 
   void Connect();
   void OnReport(JSCValue* value);
+  void OnLoadChanged(WebKitLoadEvent event);
   bool OnLoadFailed(const std::string& uri, const GError* error);
   void OnTerminated();
   bool MayRestart();
@@ -77,6 +78,9 @@ class PageView {
   std::string requested_;
   std::string problem_;
   std::string problem_uri_;
+  /// A page has been asked for; until it takes the place of the one that is
+  /// shown, reports come from the latter.
+  bool is_replacing_ = false;
   std::vector<std::int64_t> restarts_;
 };
 
