@@ -56,6 +56,9 @@ class Screen:
     """An X server, a session bus, and a home that is empty at first."""
 
     def __init__(self, viewer, size="1280x900x24", **environment):
+        if os.geteuid() == 0 and not os.path.exists("/.velmo-own-root"):
+            # It would leave a file on the machine, see there.
+            raise RuntimeError("Root runs this through scripts/own-root")
         self.viewer = os.path.abspath(viewer)
         self.folder = tempfile.mkdtemp(prefix="velmo-viewer-")
         self._processes = []
