@@ -1,5 +1,5 @@
 """Prints what a screen reader finds in the viewer: one object per line, its
-role, a tab, its name, a tab, its text."""
+role, a tab, its name, a tab, its description, a tab, its text."""
 
 import gi
 
@@ -20,7 +20,8 @@ def describe(node, depth=0):
     if node is None or depth > 60:
         return
     try:
-        print(node.get_role_name(), node.get_name(), text_of(node), sep="\t")
+        print(node.get_role_name(), node.get_name(),
+              node.get_description().replace("\n", " "), text_of(node), sep="\t")
         for i in range(min(node.get_child_count(), 400)):
             describe(node.get_child_at_index(i), depth + 1)
     except GLib.Error:

@@ -13,6 +13,7 @@ sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
 from screen import GLib, ID, INTERFACE, PATH, Screen, TIMEOUT_S  # noqa: E402
 
 HELP = "/usr/share/libreoffice/help"
+HOME = "text/shared/05/new_help.html"
 ROW = re.compile(r"^\s*'([^'\\]*)'\s*:\s*'([^'\\]+)'", re.MULTILINE)
 
 
@@ -22,6 +23,18 @@ def read_targets():
         rows = ROW.findall(file.read())
     return [target.partition("#")[::2] for _, target in rows
             if not target.startswith("http")]
+
+
+def copy_help(folder, targets):
+    """The whole help for all ids; for some of them only their pages, without
+    those that would only have to be indexed."""
+    wanted = {os.path.basename(page) for page, _ in targets} | {os.path.basename(HOME)}
+
+    def unwanted(at, names):
+        return [name for name in names if at.startswith(f"{HELP}/en-US/text/")
+                and name.endswith(".html") and name not in wanted]
+
+    shutil.copytree(HELP, folder, ignore=unwanted)
 
 
 def has_anchor(page, anchor, pages={}):
@@ -52,9 +65,9 @@ def main():
     screen = Screen(viewer)
     try:
         folder = screen.help + "/office"
-        shutil.copytree(HELP, folder)
+        copy_help(folder, targets)
         url = GLib.filename_to_uri(f"{folder}/en-US/", None)
-        screen.show(f"{url}text/shared/05/new_help.html", "office")
+        screen.show(f"{url}{HOME}", "office")
         for page, anchor in targets:
             if not os.path.exists(f"{HELP}/en-US/{page}"):
                 without += 1

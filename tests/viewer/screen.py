@@ -247,6 +247,20 @@ class Screen:
             for _ in range(20):
                 self.state()
 
+    def focus(self, *search):
+        """Gives the keyboard to the window that xdotool's search finds, and
+        waits until there is one."""
+        found = subprocess.run(
+            ["xdotool", "search", "--sync", "--onlyvisible", *search],
+            env=self.environment, check=True, capture_output=True, text=True,
+            timeout=TIMEOUT_S).stdout.split()
+        subprocess.run(["xdotool", "windowfocus", "--sync", found[-1]],
+                       env=self.environment, check=True, timeout=TIMEOUT_S)
+        return found[-1]
+
+    def press(self, *words):
+        subprocess.run(["xdotool", *words], env=self.environment, check=True)
+
     def screenshot(self, path):
         """Saves what the X server shows as a PNG file."""
         subprocess.run(["import", "-window", "root", path], check=True,

@@ -6,6 +6,7 @@ Called with the viewer's program and the script host, and then as any unittest p
 import http.server
 import os
 import re
+import select
 import shutil
 import signal
 import subprocess
@@ -14,11 +15,13 @@ import threading
 import unittest
 
 sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
-from screen import GLib, Screen, VIEWER_IDS  # noqa: E402
+from screen import GLib, Screen, TIMEOUT_S, VIEWER_IDS  # noqa: E402
 
 VIEWER = sys.argv.pop(1)
 # The script host, for tests of the whole way; "" when there is none.
 LXHOST = sys.argv.pop(1)
+# Where a build with a world of its own looks for the administrator's files.
+SYSCONF = "../../../../../../world/etc/velmo"
 
 HOME = """<!DOCTYPE html><meta charset=utf-8><title>Sketch help</title><ul>
 <li><a href=lines.html>Lines</a><ul>
@@ -221,12 +224,8 @@ class Keyboard(Windows):
     """Keys as a person presses them."""
 
     def press(self, *words):
-        window = subprocess.run(
-            ["xdotool", "search", "--onlyvisible", "--class", "HelpViewer"],
-            env=self.screen.environment, check=True, capture_output=True,
-            text=True).stdout.split()[-1]
-        subprocess.run(["xdotool", "windowfocus", "--sync", window, *words],
-                       env=self.screen.environment, check=True)
+        self.screen.focus("--class", "HelpViewer")
+        self.screen.press(*words)
 
     def test_a_search_result_opens_with_its_hits_marked(self):
         self.screen.show(self.lines)
@@ -248,6 +247,71 @@ class Keyboard(Windows):
         self.screen.wait(lambda s: s["zoom"] > 1)
         self.press("key", "ctrl+0")
         self.screen.wait(lambda s: s["zoom"] == 1)
+
+
+class Output(Windows):
+    """What leaves the viewer: links, files, addresses."""
+
+    @classmethod
+    def setUpClass(cls):
+        super().setUpClass()
+        cls.opened = cls.screen.set_up_browser()
+        os.mkfifo(cls.opened)
+        # Open for writing too, so that it never ends.
+        cls.browser = os.open(cls.opened, os.O_RDWR | os.O_NONBLOCK)
+        cls.addClassCleanup(os.close, cls.browser)
+
+    def next_in_browser(self):
+        """The next address that the browser gets."""
+        ready, _, _ = select.select([self.browser], [], [], TIMEOUT_S)
+        self.assertTrue(ready, "The browser was not started")
+        return os.read(self.browser, 4096).decode().strip()
+
+    def test_the_browser_gets_the_pages_file_address(self):
+        self.screen.show(self.curves)
+        self.screen.command("open-in-browser")
+        self.assertEqual(self.next_in_browser(), self.curves)
+
+    def test_a_link_to_a_web_site_opens_in_the_browser_when_clicked(self):
+        self.screen.show(self.page(
+            "site.html", "<title>Site</title><a href=https://example.invalid/a "
+            "style='position:fixed;inset:0'>away</a>"))
+        window = self.screen.focus("--class", "HelpViewer")
+        self.screen.press("mousemove", "--window", window, "600", "400",
+                          "click", "1")
+        self.assertEqual(self.next_in_browser(), "https://example.invalid/a")
+        self.assertEqual(self.screen.state()["title"], "Site")
+
+    def test_a_copied_link_can_be_pasted(self):
+        self.screen.show(self.curves)
+        self.screen.command("copy-link")
+        self.screen.focus("--class", "HelpViewer")
+        self.screen.press("key", "ctrl+k", "key", "ctrl+v")
+        self.screen.wait(lambda s: s["search"] == self.curves)
+
+    def test_a_page_is_saved_as_a_pdf_file(self):
+        path = self.screen.path("home/page.pdf")
+        self.screen.show(self.curves)
+        self.screen.command("save-pdf")
+        self.screen.focus("--name", "Save as PDF")
+        self.screen.press("key", "ctrl+a", "type", path)
+        self.screen.press("key", "Return")
+        self.screen.wait(lambda s: s["toast"] == "Saved as PDF")
+        with open(path, "rb") as file:
+            self.assertEqual(file.read(5), b"%PDF-")
+
+    def test_a_pdf_file_that_cannot_be_written_says_so(self):
+        self.screen.show(self.curves)
+        self.screen.command("save-pdf")
+        self.screen.focus("--name", "Save as PDF")
+        self.screen.press("key", "ctrl+a", "type", "/proc/page.pdf")
+        self.screen.press("key", "Return")
+        self.screen.wait(lambda s: "could not be saved" in s["toast"])
+
+    def test_the_keys_are_shown_in_a_window(self):
+        self.screen.show(self.curves)
+        self.screen.command("show-help-overlay")
+        self.screen.focus("--name", "Keyboard shortcuts")
 
 
 class Preferences(Windows):
@@ -537,7 +601,9 @@ done(String(opened));"""
         self.assertEqual(state["title"], "quiet")
 
 
-class ScreenReader(Windows):
+class Accessible(Windows):
+    """Windows as a screen reader finds them."""
+
     environment = {"GTK_A11Y": "atspi"}
 
     def objects(self):
@@ -552,8 +618,14 @@ class ScreenReader(Windows):
         for _ in range(60):
             objects = self.objects()
             if all(text in objects for text in texts):
-                return objects
+                return
         self.fail(f"Not all of {texts} in:\n{objects}")
+
+
+class ScreenReader(Accessible):
+    def test_it_reads_the_page(self):
+        self.screen.show(self.lines)
+        self.find("Draw with the marker.")
 
     def test_it_reads_commands_contents_and_results(self):
         self.screen.show(self.lines)
@@ -564,6 +636,26 @@ class ScreenReader(Windows):
         self.screen.start("SEARCH", "Sketch", "en_US", "bend")
         self.screen.wait(lambda s: s["search"] == "bend" and s["hits"])
         self.find("\tSearch results\t", "Curves bend")
+
+
+@unittest.skipUnless(os.geteuid() == 0, "Only root puts up a lock")
+class Administrator(Accessible):
+    @classmethod
+    def setUpClass(cls):
+        super().setUpClass()
+        # Below the root folder of the test's own: no other program sees it.
+        folder = os.path.abspath(os.path.join(VIEWER, SYSCONF))
+        os.makedirs(folder, exist_ok=True)
+        subprocess.run(["mount", "-t", "tmpfs", "none", folder], check=True)
+        cls.addClassCleanup(subprocess.run, ["umount", folder], check=True)
+        cls.screen.write(f"{folder}/com.velmo.VelmoOnlineHelp.conf",
+                         "[Preferences]\nVelmoOnlineDefault=0\n")
+
+    def test_a_lock_is_shown_and_holds(self):
+        self.screen.show(self.lines)
+        self.assertEqual(self.screen.action("use-online-help"), (False, False))
+        self.screen.command("preferences")
+        self.find("Your administrator has switched online help off.")
 
 
 class German(Windows):

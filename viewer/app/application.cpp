@@ -42,8 +42,9 @@ void Quit(GSimpleAction*, GVariant*, gpointer application) {
   // Each window remembers its size when it closes.
   GList* windows =
       g_list_copy(gtk_application_get_windows(GTK_APPLICATION(application)));
-  for (GList* window = windows; window; window = window->next)
+  for (GList* window = windows; window; window = window->next) {
     gtk_window_close(GTK_WINDOW(window->data));
+  }
   g_list_free(windows);
   g_application_quit(G_APPLICATION(application));
 }
@@ -92,10 +93,11 @@ void Application::OnStartup() {
   places_.AddPlace("installed", locations.installed);
   AddPreferenceActions(G_ACTION_MAP(application_.get()));
   AddQuit(G_ACTION_MAP(application_.get()));
-  for (const auto& keys : kKeys)
+  for (const auto& keys : kKeys) {
     gtk_application_set_accels_for_action(GTK_APPLICATION(application_.get()),
                                           keys.action,
                                           keys.accelerators.data());
+  }
   GDBusConnection* bus =
       g_application_get_dbus_connection(G_APPLICATION(application_.get()));
   if (bus) bus_object_ = ExportService(bus, this);
@@ -105,11 +107,12 @@ int Application::OnCommandLine(GApplicationCommandLine* line) {
   int count = 0;
   char** words = g_application_command_line_get_arguments(line, &count);
   const bool is_request = count == 5;
-  if (is_request)
+  if (is_request) {
     Show(ParseRequest(words[1], words[2], words[3], words[4]), TokenOf(line));
-  else
+  } else {
     g_application_command_line_printerr(
         line, "Usage: %s VERB PRODUCT LOCALE REQUEST\n", "velmohelp-viewer");
+  }
   g_strfreev(words);
   return is_request ? 0 : 2;
 }
@@ -122,7 +125,7 @@ Engine& Application::WebEngine() {
 void Application::Show(const Request& request,
                        const std::string& activation_token) {
   auto& window = windows_[request.product];
-  if (!window)
+  if (!window) {
     window = std::make_unique<HelpWindow>(
         GTK_APPLICATION(application_.get()), WebEngine(), client_, request,
         HelpWindow::Listener{
@@ -130,6 +133,7 @@ void Application::Show(const Request& request,
                           name = request.product] { OnWindowChanged(name); },
             .on_closed = [this,
                           name = request.product] { OnWindowClosed(name); }});
+  }
   window->Show(request, activation_token);
 }
 

@@ -48,6 +48,7 @@ GVariant* Describe(const WindowState& state) {
   add("highlights", g_variant_new_int32(state.highlights));
   add("matches", g_variant_new_uint32(state.matches));
   add("zoom", g_variant_new_double(state.zoom));
+  add("toast", TextValue(state.toast));
   return g_variant_new("(a{sv})", &builder);
 }
 
@@ -70,20 +71,22 @@ void HandleState(const Application& application, GVariant* parameters,
   const char* product = nullptr;
   g_variant_get(parameters, "(&s)", &product);
   const auto* window = application.Window(product);
-  if (window)
+  if (window) {
     g_dbus_method_invocation_return_value(invocation,
                                           Describe(window->State()));
-  else
+  } else {
     g_dbus_method_invocation_return_error_literal(
         invocation, G_DBUS_ERROR, G_DBUS_ERROR_FAILED, "No such window");
+  }
 }
 
 void Handle(GDBusConnection*, const char*, const char*, const char*,
             const char* method, GVariant* parameters,
             GDBusMethodInvocation* invocation, gpointer data) {
   auto& application = *static_cast<Application*>(data);
-  if (g_str_equal(method, "State"))
+  if (g_str_equal(method, "State")) {
     return HandleState(application, parameters, invocation);
+  }
   HandleShow(application, parameters);
   g_dbus_method_invocation_return_value(invocation, nullptr);
 }

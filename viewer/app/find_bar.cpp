@@ -41,8 +41,9 @@ FindBar::~FindBar() {
 }
 
 void FindBar::Disconnect() {
-  if (controller_)
+  if (controller_) {
     g_signal_handlers_disconnect_by_data(controller_.get(), this);
+  }
 }
 
 void FindBar::SetView(WebKitWebView* view) {

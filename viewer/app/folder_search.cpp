@@ -31,9 +31,11 @@ void Walk(const std::string& place, const fs::path& root,
 std::vector<Folder> Containing(const std::vector<Folder>& folders,
                                const std::string& part) {
   std::vector<Folder> found;
-  for (const auto& folder : folders)
-    for (const auto& name : fs::path(folder.second))
+  for (const auto& folder : folders) {
+    for (const auto& name : fs::path(folder.second)) {
       if (name == part) found.push_back(folder);
+    }
+  }
   return found;
 }
 
@@ -45,9 +47,11 @@ std::vector<Folder> FindFolders(const std::string& product,
   std::vector<Folder> folders;
   Walk("downloaded", locations.downloaded, folders);
   Walk("installed", locations.installed, folders);
-  for (const auto& part : {product, locale})
-    if (const auto found = Containing(folders, part); !found.empty())
+  for (const auto& part : {product, locale}) {
+    if (const auto found = Containing(folders, part); !found.empty()) {
       return found;
+    }
+  }
   return folders;
 }
 

@@ -65,21 +65,23 @@ std::string SnippetMarkup(const std::string& snippet) {
 
 GListModel* ModelOf(const std::vector<ContentsEntry>& entries) {
   GListStore* store = g_list_store_new(help_item_get_type());
-  for (const auto& entry : entries)
+  for (const auto& entry : entries) {
     Append(store, {.title = entry.title,
                    .address = entry.href,
                    .snippet = {},
                    .children = entry.children});
+  }
   return G_LIST_MODEL(store);
 }
 
 GListModel* ModelOf(const std::vector<SearchHit>& hits) {
   GListStore* store = g_list_store_new(help_item_get_type());
-  for (const auto& hit : hits)
+  for (const auto& hit : hits) {
     Append(store, {.title = hit.title.empty() ? hit.address : hit.title,
                    .address = hit.address,
                    .snippet = SnippetMarkup(hit.snippet),
                    .children = {}});
+  }
   return G_LIST_MODEL(store);
 }
 

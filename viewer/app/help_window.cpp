@@ -4,6 +4,7 @@
 
 #include <utility>
 
+#include "viewer/app/printing.h"
 #include "viewer/app/ui.h"
 #include "viewer/content/preferences.h"
 #include "viewer/content/search_query.h"
@@ -17,8 +18,9 @@ std::string Filled(const char* sentence, const std::string& text) {
   const std::string valid =
       Adopt(g_utf8_make_valid(text.data(), static_cast<gssize>(text.size())));
   std::string filled = sentence;
-  if (const auto at = filled.find("%s"); at != std::string::npos)
+  if (const auto at = filled.find("%s"); at != std::string::npos) {
     filled.replace(at, 2, valid);
+  }
   return filled;
 }
 
@@ -98,8 +100,9 @@ void HelpWindow::OnClosed() {
 }
 
 void HelpWindow::Raise(const std::string& activation_token) {
-  if (!activation_token.empty())
+  if (!activation_token.empty()) {
     gtk_window_set_startup_id(GTK_WINDOW(window_), activation_token.c_str());
+  }
   gtk_window_present(GTK_WINDOW(window_));
 }
 
@@ -138,9 +141,10 @@ void HelpWindow::Show(const Request& request,
 void HelpWindow::ShowUrl(const Request& request) {
   if (!IsWebUrl(request.text)) {
     const auto address = engine_.places().Locate(request.text);
-    if (!address)
+    if (!address) {
       return pane_->ShowProblem(request.text,
                                 _("This is not the address of a page."));
+    }
     product_->Adopt(address->Uri());
     return LoadPage(address->Uri());
   }
@@ -161,8 +165,9 @@ void HelpWindow::ShowMissingPage(const std::string& page_id) {
   ShowNotice(Filled(_("This help has no page named “%s”."), page_id));
   ShowHomeUnlessPage();
   std::string text;
-  for (const auto& word : WordsOfId(page_id))
+  for (const auto& word : WordsOfId(page_id)) {
     text += text.empty() ? word : " " + word;
+  }
   ShowSide(true);
   sidebar_->Search(text);
 }
@@ -270,15 +275,30 @@ void HelpWindow::Highlight() {
 void HelpWindow::OpenInBrowser(const std::string& url) {
   client_.Ask([url] { return viewer::OpenInBrowser(url); },
               [self = self_](bool is_open) {
-                if (*self && !is_open)
+                if (*self && !is_open) {
                   (*self)->Toast(_("No browser could be opened."));
+                }
               });
 }
 
+void HelpWindow::SavePdf() {
+  if (!pane_->current()) return;
+  AskAndSavePdf(pane_->current()->web(), GTK_WINDOW(window_),
+                [self = self_](bool is_saved) {
+                  if (*self) {
+                    (*self)->Toast(is_saved
+                                       ? _("Saved as PDF")
+                                       : _("The page could not be saved."));
+                  }
+                });
+}
+
 void HelpWindow::Toast(const char* sentence) {
+  state_.toast = sentence;
   adw_toast_overlay_add_toast(
       ADW_TOAST_OVERLAY(ObjectOf(builder_.get(), "toasts")),
       adw_toast_new(sentence));
+  OnChange();
 }
 
 WindowState HelpWindow::State() const {

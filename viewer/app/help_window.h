@@ -42,6 +42,8 @@ struct WindowState {
   int highlights = 0;
   unsigned matches = 0;
   double zoom = 1;
+  /// The last sentence that was shown for a moment.
+  std::string toast;
 };
 
 class HelpWindow {
@@ -85,6 +87,7 @@ class HelpWindow {
   void OnSearch(const std::string& text);
   void Highlight();
   void OpenInBrowser(const std::string& url);
+  void SavePdf();
   void Toast(const char* sentence);
   void OnClosed();
 

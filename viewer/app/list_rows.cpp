@@ -16,9 +16,10 @@ GtkWidget* NewLabel() {
 // What a screen reader says for the row.
 void NameRow(GtkListItem* item, const std::string& name) {
   GtkWidget* row = gtk_widget_get_parent(gtk_list_item_get_child(item));
-  if (row)
+  if (row) {
     gtk_accessible_update_property(
         GTK_ACCESSIBLE(row), GTK_ACCESSIBLE_PROPERTY_LABEL, name.c_str(), -1);
+  }
 }
 
 void SetUpContents(GtkListItemFactory*, GtkListItem* item) {

@@ -17,8 +17,9 @@ namespace {
 void ProtectEngine() {
   for (const char* name :
        {"WEBKIT_DISABLE_SANDBOX_THIS_IS_DANGEROUS", "WEBKIT_FORCE_SANDBOX",
-        "WEBKIT_INSPECTOR_SERVER", "WEBKIT_INSPECTOR_HTTP_SERVER"})
+        "WEBKIT_INSPECTOR_SERVER", "WEBKIT_INSPECTOR_HTTP_SERVER"}) {
     g_unsetenv(name);
+  }
 }
 
 // Translations lie below the prefix, wherever that is: the program is

@@ -58,10 +58,11 @@ bool PagePane::CanGoForward() const {
 
 void PagePane::GoBack() {
   if (!current_) return;
-  if (webkit_web_view_can_go_back(current_->web()))
+  if (webkit_web_view_can_go_back(current_->web())) {
     webkit_web_view_go_back(current_->web());
-  else if (earlier_)
+  } else if (earlier_) {
     Raise(*std::exchange(earlier_, nullptr));
+  }
   listener_.on_change();
 }
 
@@ -75,8 +76,9 @@ void PagePane::Reload() {
 
 void PagePane::SetZoom(double zoom) {
   zoom_ = std::clamp(zoom, 0.3, 5.0);
-  for (const auto* view : {&local_, &online_})
+  for (const auto* view : {&local_, &online_}) {
     if (*view) webkit_web_view_set_zoom_level((*view)->web(), zoom_);
+  }
 }
 
 std::string PagePane::PublicUrl() const {

@@ -11,13 +11,15 @@ namespace {
 
 // The switch follows only what could be written.
 void ChangeBrowser(GSimpleAction* action, GVariant* state, gpointer) {
-  if (SetUsesBrowser(g_variant_get_boolean(state) != 0))
+  if (SetUsesBrowser(g_variant_get_boolean(state) != 0)) {
     g_simple_action_set_state(action, state);
+  }
 }
 
 void ChangeOnline(GSimpleAction* action, GVariant* state, gpointer) {
-  if (SetUsesOnlineHelp(g_variant_get_boolean(state) != 0))
+  if (SetUsesOnlineHelp(g_variant_get_boolean(state) != 0)) {
     g_simple_action_set_state(action, state);
+  }
 }
 
 bool ShowsOnline() { return !IsOnlineHelpLocked() && UsesOnlineHelp(); }
@@ -57,10 +59,11 @@ void ShowPreferences(GtkWindow* parent) {
   Refresh();
   const auto builder = LoadUi("preferences");
   auto* window = GTK_WINDOW(ObjectOf(builder.get(), "preferences"));
-  if (IsOnlineHelpLocked())
+  if (IsOnlineHelpLocked()) {
     adw_action_row_set_subtitle(
         ADW_ACTION_ROW(ObjectOf(builder.get(), "online_row")),
         _("Your administrator has switched online help off."));
+  }
   gtk_window_set_transient_for(window, parent);
   gtk_window_present(window);
 }

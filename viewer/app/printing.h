@@ -5,16 +5,20 @@
 #include <gtk/gtk.h>
 #include <webkit/webkit.h>
 
+#include <functional>
 #include <string>
 
 namespace viewer {
 
 void Print(WebKitWebView* view, GtkWindow* parent);
 
-/// Asks for a file name first.
-void AskAndSavePdf(WebKitWebView* view, GtkWindow* parent);
+/// Gets whether the file was written.
+using SaveDone = std::function<void(bool)>;
 
-void SavePdf(WebKitWebView* view, const std::string& file_uri);
+/// Asks for a file name first; done is not called when the person cancels.
+void AskAndSavePdf(WebKitWebView* view, GtkWindow* parent, SaveDone done);
+
+void SavePdf(WebKitWebView* view, const std::string& file_uri, SaveDone done);
 
 }  // namespace viewer
 

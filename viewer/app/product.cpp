@@ -30,16 +30,18 @@ std::string CacheFile(const std::string& product, const std::string& locale) {
 
 std::size_t CountLinks(const std::vector<ContentsEntry>& entries) {
   std::size_t count = 0;
-  for (const auto& entry : entries)
+  for (const auto& entry : entries) {
     count += (entry.href.empty() ? 0U : 1U) + CountLinks(entry.children);
+  }
   return count;
 }
 
 void Resolve(std::vector<ContentsEntry>& entries, const std::string& base) {
   for (auto& entry : entries) {
-    if (!entry.href.empty())
+    if (!entry.href.empty()) {
       entry.href = viewer::Adopt(g_uri_resolve_relative(
           base.c_str(), entry.href.c_str(), G_URI_FLAGS_ENCODED, nullptr));
+    }
     Resolve(entry.children, base);
   }
 }
@@ -72,18 +74,23 @@ void Product::Prepare(const std::string& locale, std::function<void()> done) {
 void Product::OnConfiguration(const ProductHelp& help) {
   is_configured_ = help.configured;
   configured_home_ = help.home;
-  for (const char* place : {"downloaded", "installed"})
-    for (const auto& folder : help.folders)
-      if (engine_.places().AddFolder(place, folder))
+  for (const char* place : {"downloaded", "installed"}) {
+    for (const auto& folder : help.folders) {
+      if (engine_.places().AddFolder(place, folder)) {
         Adopt(Address{place, folder + "/", {}, {}}.Uri());
+      }
+    }
+  }
 }
 
 // Without a configuration, the folders that name the product or its locale.
 void Product::DiscoverFolders() {
   if (is_configured_ || !folders_.empty()) return;
-  for (const auto& [place, folder] : FindFolders(name_, locale_))
-    if (engine_.places().AddFolder(place, folder))
+  for (const auto& [place, folder] : FindFolders(name_, locale_)) {
+    if (engine_.places().AddFolder(place, folder)) {
       Adopt(Address{place, folder + "/", {}, {}}.Uri());
+    }
+  }
 }
 
 void Product::Adopt(const std::string& address) {
@@ -100,8 +107,9 @@ bool Product::HasFolders() {
 std::string Product::Home() {
   DiscoverFolders();
   std::string home = configured_home_;
-  for (const auto& folder : folders_)
+  for (const auto& folder : folders_) {
     if (home.empty()) home = FindHome(folder.directory);
+  }
   const auto address = engine_.places().Locate(home);
   return address ? address->Uri() : home;
 }
@@ -125,7 +133,7 @@ void Product::Search(const std::string& text) {
 
 void Product::Refresh() {
   DiscoverFolders();
-  if (!worker_)
+  if (!worker_) {
     worker_ = std::make_unique<SearchWorker>(
         CacheFile(name_, locale_),
         SearchWorker::Listener{
@@ -133,6 +141,7 @@ void Product::Refresh() {
                 [this](const auto& answer) { listener_.on_answer(answer); },
             .on_kept = [this](const auto& lines) { OnKept(lines); },
             .on_updated = [this](const auto& titles) { OnUpdated(titles); }});
+  }
   contents_home_ = Home();
   if (!has_contents_) ReadStaticContents();
   worker_->Update(folders_, ContentsKey());
@@ -145,15 +154,17 @@ void Product::ReadStaticContents() {
   std::string page;
   ConfinedFile file(local->folder.directory, local->name);
   if (file.Read(kLargestHome, page) != FileProblem::kNone ||
-      MakeUtf8(page) != PageProblem::kNone)
+      MakeUtf8(page) != PageProblem::kNone) {
     return;
+  }
   std::string base;
   auto entries = ReadContents(page, base);
   if (CountLinks(entries) < kFewestLinks) return;
   std::string origin = address->Document();
-  if (!base.empty())
+  if (!base.empty()) {
     origin = viewer::Adopt(g_uri_resolve_relative(
         origin.c_str(), base.c_str(), G_URI_FLAGS_ENCODED, nullptr));
+  }
   Resolve(entries, origin);
   ShowContents(entries);
 }
@@ -191,8 +202,9 @@ void Product::OnLiveContents(const std::string& lines) {
   g_idle_add_full(
       G_PRIORITY_DEFAULT,
       [](gpointer data) -> gboolean {
-        if (auto* product = **static_cast<Self*>(data))
+        if (auto* product = **static_cast<Self*>(data)) {
           product->read_contents_.reset();
+        }
         return G_SOURCE_REMOVE;
       },
       new Self(self_), [](gpointer data) { delete static_cast<Self*>(data); });
@@ -212,9 +224,10 @@ void Product::OnUpdated(const std::vector<SearchHit>& titles) {
 
 void Product::ShowTitles() {
   std::vector<ContentsEntry> entries;
-  for (const auto& page : titles_)
+  for (const auto& page : titles_) {
     entries.push_back(
         {.title = page.title, .href = page.address, .children = {}});
+  }
   listener_.on_contents(entries);
 }
 

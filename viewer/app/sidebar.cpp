@@ -35,8 +35,9 @@ gpointer ItemAt(GtkListView* list, guint position) {
 
 std::string ResultSentence(const SearchAnswer& answer) {
   const auto count = answer.hits.size();
-  if (count == 0)
+  if (count == 0) {
     return answer.complete ? _("No page found.") : _("Reading the pages…");
+  }
   const TextPtr sentence(
       g_strdup_printf(ngettext("%u page found", "%u pages found", count),
                       static_cast<unsigned>(count)));
@@ -70,8 +71,9 @@ Sidebar::Sidebar(GtkBuilder* builder, Listener listener)
 
 Sidebar::~Sidebar() {
   for (gpointer object :
-       {gpointer(entry_), gpointer(contents_list_), gpointer(results_list_)})
+       {gpointer(entry_), gpointer(contents_list_), gpointer(results_list_)}) {
     g_signal_handlers_disconnect_by_data(object, this);
+  }
 }
 
 void Sidebar::SetUpLists() {
@@ -96,11 +98,12 @@ void Sidebar::ActivateContents(guint position) {
   const ObjectPtr<GObject> item(
       G_OBJECT(gtk_tree_list_row_get_item(row.get())));
   const std::string& address = DataOf(item.get()).address;
-  if (address.empty())
+  if (address.empty()) {
     gtk_tree_list_row_set_expanded(row.get(),
                                    !gtk_tree_list_row_get_expanded(row.get()));
-  else
+  } else {
     listener_.on_page(address);
+  }
 }
 
 void Sidebar::ActivateResult(guint position) {

@@ -94,21 +94,20 @@ class WindowActions {
   void AddOutput() {
     HelpWindow& w = w_;
     Add("print", [&w] {
-      if (w.pane_->current())
+      if (w.pane_->current()) {
         Print(w.pane_->current()->web(), GTK_WINDOW(w.window_));
+      }
     });
-    Add("save-pdf", [&w] {
-      if (w.pane_->current())
-        AskAndSavePdf(w.pane_->current()->web(), GTK_WINDOW(w.window_));
-    });
+    Add("save-pdf", [&w] { w.SavePdf(); });
     Add("copy-link", [&w] {
       gdk_clipboard_set_text(gtk_widget_get_clipboard(GTK_WIDGET(w.window_)),
                              w.pane_->PublicUrl().c_str());
       w.Toast(_("Link copied"));
     });
     Add("open-in-browser", [&w] {
-      if (const auto url = w.pane_->PublicUrl(); !url.empty())
+      if (const auto url = w.pane_->PublicUrl(); !url.empty()) {
         w.OpenInBrowser(url);
+      }
     });
   }
 

@@ -48,8 +48,9 @@ void SaveWindowMemory(const WindowMemory& memory) {
   g_key_file_set_integer(file.get(), kGroup, "Width", memory.width);
   g_key_file_set_integer(file.get(), kGroup, "Height", memory.height);
   g_key_file_set_double(file.get(), kGroup, "Zoom", memory.zoom);
-  if (g_mkdir_with_parents(Folder().c_str(), 0700) == 0)
+  if (g_mkdir_with_parents(Folder().c_str(), 0700) == 0) {
     g_key_file_save_to_file(file.get(), File().c_str(), nullptr);
+  }
 }
 
 }  // namespace viewer

@@ -37,8 +37,9 @@ class Tree {
  public:
   void Add(std::size_t depth, ContentsEntry entry) {
     auto* level = &entries_;
-    for (; depth > 0 && !level->empty(); --depth)
+    for (; depth > 0 && !level->empty(); --depth) {
       level = &level->back().children;
+    }
     level->push_back(std::move(entry));
   }
   std::vector<ContentsEntry> Result() {
@@ -58,8 +59,9 @@ class Reader {
     const bool opens = token.kind == HtmlToken::kOpen;
     if (IsList(token.name)) return opens ? OpenList() : CloseList();
     if (IsItem(token.name)) return opens && depth_ > 0 ? Begin() : Flush();
-    if (opens && token.name == "a" && in_item_ && entry_.href.empty())
+    if (opens && token.name == "a" && in_item_ && entry_.href.empty()) {
       SetLink(HtmlAttribute(token.raw, "href"));
+    }
     if (opens && token.name == "base") base_ = HtmlAttribute(token.raw, "href");
   }
   std::vector<ContentsEntry> Result(std::string& base) {
@@ -96,10 +98,11 @@ class Reader {
     if (!in_item_) return;
     for (const char c : DecodeHtmlText(raw)) {
       const bool is_space = c == ' ' || c == '\t' || c == '\n' || c == '\r';
-      if (!is_space)
+      if (!is_space) {
         entry_.title += c;
-      else if (!entry_.title.empty() && !entry_.title.ends_with(' '))
+      } else if (!entry_.title.empty() && !entry_.title.ends_with(' ')) {
         entry_.title += ' ';
+      }
     }
   }
 
@@ -124,8 +127,9 @@ std::vector<ContentsEntry> ReadContents(std::string_view page,
   HtmlScanner scanner(page);
   Reader reader;
   for (auto token = scanner.Next(); token.kind != HtmlToken::kEnd;
-       token = scanner.Next())
+       token = scanner.Next()) {
     reader.Read(token);
+  }
   return reader.Result(base);
 }
 

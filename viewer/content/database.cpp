@@ -64,8 +64,9 @@ DatabasePtr Open(const std::string& path) {
   if (result != SQLITE_OK ||
       !Execute(database,
                "PRAGMA journal_mode=MEMORY; PRAGMA synchronous=OFF;"
-               "PRAGMA temp_store=MEMORY; PRAGMA cache_size=-4096"))
+               "PRAGMA temp_store=MEMORY; PRAGMA cache_size=-4096")) {
     owner.reset();
+  }
   return owner;
 }
 
@@ -90,14 +91,16 @@ DatabasePtr OpenCache(const std::string& path, const char* schema,
                       int schema_version) {
   auto database = Open(path);
   if (database && HasSchema(database.get(), schema_version) &&
-      IsSound(database.get()))
+      IsSound(database.get())) {
     return database;
+  }
   database.reset();
   std::remove(path.c_str());
   for (const std::string& place : {path, std::string(":memory:")}) {
     database = Open(place);
-    if (database && CreateSchema(database.get(), schema, schema_version))
+    if (database && CreateSchema(database.get(), schema, schema_version)) {
       return database;
+    }
   }
   return nullptr;
 }

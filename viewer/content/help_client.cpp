@@ -47,10 +47,12 @@ std::vector<std::string> FolderNames(const std::string& configuration) {
   int count = kRows;
   parser.PopulatePathArray(rows.data(), count);
   std::vector<std::string> names;
-  for (int i = 0; i < count && i < kRows; ++i)
+  for (int i = 0; i < count && i < kRows; ++i) {
     if (const auto& name = rows.at(static_cast<std::size_t>(i))[0];
-        !name.empty())
+        !name.empty()) {
       names.push_back(name);
+    }
+  }
   return names;
 }
 
@@ -105,12 +107,15 @@ HelpLocations FindLocations() {
 }
 
 std::string FindHome(const std::string& directory) {
-  if (const auto home = MappedHome(directory); !home.empty())
+  if (const auto home = MappedHome(directory); !home.empty()) {
     return FileUrl(home);
-  for (const char* name : {kHome, "index.html", "index.htm"})
+  }
+  for (const char* name : {kHome, "index.html", "index.htm"}) {
     if (const auto path = AppentPath(directory, name);
-        ITEMInternal::FileExists(path))
+        ITEMInternal::FileExists(path)) {
       return FileUrl(path);
+    }
+  }
   return {};
 }
 

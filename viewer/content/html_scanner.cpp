@@ -85,8 +85,9 @@ std::size_t HtmlScanner::TagEnd(std::size_t from) const {
 bool HtmlScanner::SkipMarkup() {
   const auto rest = page_.substr(at_);
   const bool is_comment = rest.starts_with("<!--");
-  if (!is_comment && !rest.starts_with("<!") && !rest.starts_with("<?"))
+  if (!is_comment && !rest.starts_with("<!") && !rest.starts_with("<?")) {
     return false;
+  }
   const std::string_view closing = is_comment ? "-->" : ">";
   const auto end = page_.find(closing, at_ + 2);
   at_ = end == kNone ? page_.size() : end + closing.size();
@@ -94,11 +95,13 @@ bool HtmlScanner::SkipMarkup() {
 }
 
 void HtmlScanner::SkipRawText(const std::string& name) {
-  for (auto i = page_.find("</", at_); i != kNone; i = page_.find("</", i + 2))
+  for (auto i = page_.find("</", at_); i != kNone;
+       i = page_.find("</", i + 2)) {
     if (EqualsIgnoringCase(page_.substr(i + 2, name.size()), name)) {
       at_ = i;
       return;
     }
+  }
   at_ = page_.size();
 }
 

@@ -61,20 +61,23 @@ bool AppendNumbered(std::string_view digits, std::string& out) {
   std::uint32_t c = 0;
   const auto* end = digits.data() + digits.size();
   const auto result = std::from_chars(digits.data(), end, c, is_hex ? 16 : 10);
-  if (result.ec != std::errc{} || result.ptr != end || !IsCharacter(c))
+  if (result.ec != std::errc{} || result.ptr != end || !IsCharacter(c)) {
     return false;
+  }
   AppendUtf8(c, out);
   return true;
 }
 
 bool AppendReference(std::string_view reference, std::string& out) {
-  if (reference.starts_with('#'))
+  if (reference.starts_with('#')) {
     return AppendNumbered(reference.substr(1), out);
-  for (const auto& named : kNamed)
+  }
+  for (const auto& named : kNamed) {
     if (named.name == reference) {
       out += named.text;
       return true;
     }
+  }
   return false;
 }
 
@@ -91,10 +94,11 @@ std::string DecodeHtmlText(std::string_view raw) {
     raw.remove_prefix(at + 1);
     const auto end = raw.substr(0, kLongest).find(';');
     if (end != std::string_view::npos &&
-        AppendReference(raw.substr(0, end), text))
+        AppendReference(raw.substr(0, end), text)) {
       raw.remove_prefix(end + 1);
-    else
+    } else {
       text += '&';
+    }
   }
 }
 

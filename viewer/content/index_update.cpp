@@ -35,17 +35,19 @@ void IndexUpdate::Run(const std::set<ContentFolder>& folders) {
   bool finished = true;
   for (const auto& folder : folders) finished = finished && ReadFolder(folder);
   // What was not seen is gone.
-  if (finished)
+  if (finished) {
     for (const auto& page : known_) Forget(page.second.id);
+  }
   Execute(database_, "COMMIT");
 }
 
 void IndexUpdate::LoadKnown() {
   Statement rows(database_, "SELECT address, id, modified, size FROM page");
-  while (rows.Step())
+  while (rows.Step()) {
     known_[rows.Text(0)] = {.id = rows.Number(1),
                             .modified = rows.Number(2),
                             .size = rows.Number(3)};
+  }
 }
 
 bool IndexUpdate::ReadFolder(const ContentFolder& folder) {
@@ -86,8 +88,9 @@ void IndexUpdate::Store(const std::string& address, ConfinedFile& file) {
   PageText page;
   // A page that cannot be shown is known, so that it is not read again.
   if (file.Read(kLargestPage, text) == FileProblem::kNone &&
-      MakeUtf8(text) == PageProblem::kNone)
+      MakeUtf8(text) == PageProblem::kNone) {
     page = ReadPageText(text);
+  }
   insert_page_.Bind(address)
       .Bind(std::int64_t{file.modified()})
       .Bind(file.size())

@@ -10,8 +10,9 @@ void AdoptOwnPaths() {
   const std::string store =
       "/" + sDefaultAppID + "." + sDefaultPublisherID + "/Local Store/";
   if (kKLHPreferenceFile.empty()) kKLHPreferenceFile = store + "klh-pref.xml";
-  if (kDownloadedOfflineContent.empty())
+  if (kDownloadedOfflineContent.empty()) {
     kDownloadedOfflineContent = store + "Help/";
+  }
   if (kDownloadedHelpcfg.empty()) kDownloadedHelpcfg = store;
 }
 

@@ -34,10 +34,11 @@ bool IsSpace(char c) {
 
 void AppendWords(std::string_view text, std::string& out) {
   for (const char c : text) {
-    if (!IsSpace(c))
+    if (!IsSpace(c)) {
       out += c;
-    else if (!out.empty() && out.back() != ' ')
+    } else if (!out.empty() && out.back() != ' ') {
       out += ' ';
+    }
   }
 }
 
@@ -58,8 +59,9 @@ class Reader {
 
   PageText Result() {
     if (title_.empty()) title_ = heading_;
-    for (auto* text : {&title_, &body_})
+    for (auto* text : {&title_, &body_}) {
       if (text->ends_with(' ')) text->pop_back();
+    }
     return {.title = std::move(title_), .body = std::move(body_)};
   }
 
@@ -117,8 +119,9 @@ PageText ReadPageText(std::string_view page) {
   HtmlScanner scanner(page);
   Reader reader;
   for (auto token = scanner.Next(); token.kind != HtmlToken::kEnd;
-       token = scanner.Next())
+       token = scanner.Next()) {
     reader.Read(token);
+  }
   return reader.Result();
 }
 

@@ -9,6 +9,7 @@
 #include <cstdint>
 #include <memory>
 
+#include "util/str_cat.h"
 #include "viewer/content/own_paths.h"
 #include "viewer/gobject_ptr.h"
 
@@ -85,8 +86,7 @@ std::string WithValue(std::string text, std::string_view key,
   const auto open = equals == kNone ? kNone : text.find('"', equals);
   const auto close = open == kNone ? kNone : text.find('"', open + 1);
   if (close != kNone) return text.replace(open + 1, close - open - 1, value);
-  const std::string pair =
-      " " + std::string(key) + "=\"" + std::string(value) + "\"";
+  const std::string pair = velmohelp::StrCat({" ", key, "=\"", value, "\""});
   // Into the first element, after its name.
   for (auto i = text.find('<'); i != std::string::npos;
        i = text.find('<', i + 1)) {
@@ -94,7 +94,7 @@ std::string WithValue(std::string text, std::string_view key,
     if (name_end == std::string::npos) break;
     if (g_ascii_isalpha(text[i + 1])) return text.insert(name_end, pair);
   }
-  return "<preferences" + pair + "/>\n";
+  return velmohelp::StrCat({"<preferences", pair, "/>\n"});
 }
 
 std::string WithPreference(const std::string& text, const std::string& key,

@@ -24,10 +24,11 @@ constexpr char kMatch[] =
 
 std::vector<SearchHit> Hits(Statement& statement) {
   std::vector<SearchHit> hits;
-  while (statement.Step())
+  while (statement.Step()) {
     hits.push_back({.address = statement.Text(0),
                     .title = statement.Text(1),
                     .snippet = statement.Text(2)});
+  }
   return hits;
 }
 

@@ -111,8 +111,9 @@ void SearchWorker::Report(std::function<void(const Listener&)> report) {
       G_PRIORITY_DEFAULT,
       [](gpointer data) -> gboolean {
         const auto* call = static_cast<Call*>(data);
-        if (const auto listener = call->listener.lock())
+        if (const auto listener = call->listener.lock()) {
           call->report(*listener);
+        }
         return G_SOURCE_REMOVE;
       },
       new Call{listener_, std::move(report)},

@@ -38,9 +38,10 @@ GVariant* Word(const char* bytes) {
 GVariant* Request(char** words) {
   GVariantBuilder platform_data;
   g_variant_builder_init(&platform_data, G_VARIANT_TYPE("a{sv}"));
-  if (const char* token = ActivationToken())
+  if (const char* token = ActivationToken()) {
     g_variant_builder_add(&platform_data, "{sv}", "activation-token",
                           Word(token));
+  }
   return g_variant_new("(@s@s@s@sa{sv})", Word(words[0]), Word(words[1]),
                        Word(words[2]), Word(words[3]), &platform_data);
 }

@@ -61,11 +61,14 @@ static int PrintLocation(void) {
 }
 
 int main(int argc, char** argv) {
-  if (argc == 2 && strcmp(argv[1], "-isRuntimeInstalled") == 0)
+  if (argc == 2 && strcmp(argv[1], "-isRuntimeInstalled") == 0) {
     return !CanRun();
-  if (argc == 4 && strcmp(argv[1], "-isAppInstalled") == 0)
+  }
+  if (argc == 4 && strcmp(argv[1], "-isAppInstalled") == 0) {
     return !(IsThisViewer(argv + 2) && HasWindowProgram());
-  if (argc == 4 && strcmp(argv[1], "-appLocation") == 0)
+  }
+  if (argc == 4 && strcmp(argv[1], "-appLocation") == 0) {
     return !(IsThisViewer(argv + 2) && PrintLocation());
+  }
   return 2;
 }

@@ -69,8 +69,9 @@ std::optional<Address> ParseFileUrl(const std::string& url) {
   if (!HasScheme(parsed, "file")) return std::nullopt;
   auto address = FromUri(parsed.get());
   if (!address) return std::nullopt;
-  if (!address->place.empty() && address->place != "localhost")
+  if (!address->place.empty() && address->place != "localhost") {
     return std::nullopt;
+  }
   address->place.clear();
   return address;
 }

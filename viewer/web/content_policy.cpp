@@ -12,14 +12,15 @@ namespace {
 std::string PolicySource(const ContentFolder& folder) {
   std::string source;
   for (const char c : folder.Prefix()) {
-    if (c == ';')
+    if (c == ';') {
       source += "%3B";
-    else if (c == ',')
+    } else if (c == ',') {
       source += "%2C";
-    else if (c == '&')
+    } else if (c == '&') {
       source += "&amp;";
-    else
+    } else {
       source += c;
+    }
   }
   return source;
 }

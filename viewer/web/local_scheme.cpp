@@ -61,8 +61,9 @@ void ServePage(WebKitURISchemeRequest* request, const ContentFolder& folder,
   const auto problem = file.Read(kLargestPage, text);
   if (problem != FileProblem::kNone) return Fail(request, Sentence(problem));
   const auto page_problem = MakeUtf8(text);
-  if (page_problem != PageProblem::kNone)
+  if (page_problem != PageProblem::kNone) {
     return Fail(request, Sentence(page_problem));
+  }
   text = WithPolicy(std::move(text), ContentPolicy(folder));
   GBytes* bytes = g_bytes_new(text.data(), text.size());
   const ObjectPtr<GInputStream> stream(
@@ -74,11 +75,13 @@ void ServePage(WebKitURISchemeRequest* request, const ContentFolder& folder,
 
 void ServeResource(WebKitURISchemeRequest* request, ConfinedFile& file,
                    const std::string& media_type) {
-  if (file.problem() != FileProblem::kNone)
+  if (file.problem() != FileProblem::kNone) {
     return Fail(request, Sentence(file.problem()));
+  }
   const auto size = file.size();
-  if (size > kLargestResource)
+  if (size > kLargestResource) {
     return Fail(request, Sentence(FileProblem::kTooLarge));
+  }
   const ObjectPtr<GInputStream> stream(
       g_unix_input_stream_new(file.Release(), TRUE));
   Answer(request, media_type.c_str(), stream.get(), size);
@@ -108,14 +111,17 @@ void Serve(WebKitURISchemeRequest* request, const Places& places) {
       ParseAddress(Copy(webkit_uri_scheme_request_get_uri(request)));
   const auto local = address ? places.Find(*address) : std::nullopt;
   if (!local || IsHidden(*local) ||
-      IsScriptOfAnotherFolder(request, places, *local))
+      IsScriptOfAnotherFolder(request, places, *local)) {
     return Fail(request, Sentence(FileProblem::kOutside));
+  }
   const std::string media_type = MediaType(local->name);
   ConfinedFile file(local->folder.directory, local->name);
-  if (media_type.empty() && file.problem() == FileProblem::kNone)
+  if (media_type.empty() && file.problem() == FileProblem::kNone) {
     return Fail(request, _("The viewer does not show files of this kind."));
-  if (IsPageName(local->name))
+  }
+  if (IsPageName(local->name)) {
     return ServePage(request, local->folder, file, media_type);
+  }
   ServeResource(request, file, media_type);
 }
 

@@ -61,8 +61,9 @@ std::string MediaType(std::string_view name) {
   const auto dot = name.rfind('.');
   if (dot == std::string_view::npos) return {};
   const std::string extension = Lower(name.substr(dot + 1));
-  for (const auto& type : kTypes)
+  for (const auto& type : kTypes) {
     if (type.extension == extension) return type.media_type;
+  }
   return {};
 }
 
@@ -82,9 +83,10 @@ std::string DeclaredCharset(std::string_view page) {
 }
 
 PageProblem MakeUtf8(std::string& text) {
-  if (const char* charset = ByteOrderMark(text))
+  if (const char* charset = ByteOrderMark(text)) {
     return Convert(charset, text, 2) ? PageProblem::kNone
                                      : PageProblem::kEncoding;
+  }
   if (text.find('\0') != std::string::npos) return PageProblem::kBinary;
   const std::string charset = DeclaredCharset(text);
   const bool claims_utf8 = charset.empty() || charset == "utf-8";

@@ -12,8 +12,9 @@ class PagePolicy {
  public:
   static gboolean Decide(WebKitWebView*, WebKitPolicyDecision* decision,
                          WebKitPolicyDecisionType type, PageView* page) {
-    if (type == WEBKIT_POLICY_DECISION_TYPE_RESPONSE)
+    if (type == WEBKIT_POLICY_DECISION_TYPE_RESPONSE) {
       return DecideResponse(*page, WEBKIT_RESPONSE_POLICY_DECISION(decision));
+    }
     auto* action = webkit_navigation_policy_decision_get_navigation_action(
         WEBKIT_NAVIGATION_POLICY_DECISION(decision));
     const bool is_new_window =
@@ -50,11 +51,13 @@ class PagePolicy {
                        bool is_new_window) {
     const auto navigation = Describe(action);
     const auto verdict = Judge(page.kind_, page.site_, navigation);
-    if (verdict == Verdict::kBrowser)
+    if (verdict == Verdict::kBrowser) {
       page.listener_.on_outside_link(navigation.uri);
+    }
     if (verdict != Verdict::kFollow) return false;
-    if (const auto address = ParseAddress(navigation.uri))
+    if (const auto address = ParseAddress(navigation.uri)) {
       Admit(page, *address);
+    }
     if (!is_new_window) return true;
     // A link that wants a window of its own gets this one.
     if (navigation.is_link_click) page.Load(navigation.uri);
@@ -64,13 +67,15 @@ class PagePolicy {
   // A file that the engine does not show would become a download.
   static gboolean DecideResponse(PageView& page,
                                  WebKitResponsePolicyDecision* decision) {
-    if (webkit_response_policy_decision_is_mime_type_supported(decision))
+    if (webkit_response_policy_decision_is_mime_type_supported(decision)) {
       return FALSE;
+    }
     auto* request = webkit_response_policy_decision_get_request(decision);
     const std::string uri = Copy(webkit_uri_request_get_uri(request));
     webkit_policy_decision_ignore(WEBKIT_POLICY_DECISION(decision));
-    if (webkit_response_policy_decision_is_main_frame_main_resource(decision))
+    if (webkit_response_policy_decision_is_main_frame_main_resource(decision)) {
       page.ShowProblem(uri, _("The viewer does not show files of this kind."));
+    }
     return TRUE;
   }
 };
@@ -112,8 +117,9 @@ gboolean TrimMenu(WebKitWebView*, WebKitContextMenu* menu) {
   GList* items = g_list_copy(webkit_context_menu_get_items(menu));
   for (GList* item = items; item; item = item->next) {
     auto* entry = WEBKIT_CONTEXT_MENU_ITEM(item->data);
-    if (!IsUseful(webkit_context_menu_item_get_stock_action(entry)))
+    if (!IsUseful(webkit_context_menu_item_get_stock_action(entry))) {
       webkit_context_menu_remove(menu, entry);
+    }
   }
   g_list_free(items);
   return webkit_context_menu_get_n_items(menu) == 0;
@@ -132,8 +138,9 @@ void ConnectPolicy(PageView& page) {
                    nullptr);
   g_signal_connect(view, "context-menu", G_CALLBACK(TrimMenu), nullptr);
   for (const char* name : {"script-dialog", "show-notification", "print",
-                           "enter-fullscreen", "run-color-chooser"})
+                           "enter-fullscreen", "run-color-chooser"}) {
     g_signal_connect(view, name, G_CALLBACK(Refuse), nullptr);
+  }
 }
 
 }  // namespace viewer

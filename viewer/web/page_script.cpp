@@ -75,7 +75,9 @@ const char kPageScript[] = R"js(
   else
     painted();
   // Scripts and images have moved the anchor meanwhile.
-  const settled = () => report('settled', scrollToAnchor());
+  const settled = () => report('settled', {
+    ...scrollToAnchor(),
+    text: (document.body?.innerText ?? '').slice(0, 65536)});
   if (document.readyState === 'complete') settled();
   else addEventListener('load', () => setTimeout(settled), {once: true});
   addEventListener('hashchange', () => {

@@ -131,8 +131,9 @@ void PageView::Connect() {
   const auto changed = +[](GObject*, GParamSpec*, gpointer self) {
     static_cast<PageView*>(self)->listener_.on_change();
   };
-  for (const char* name : {"notify::uri", "notify::title"})
+  for (const char* name : {"notify::uri", "notify::title"}) {
     g_signal_connect(view_.get(), name, G_CALLBACK(changed), this);
+  }
   g_signal_connect(
       view_.get(), "load-changed",
       G_CALLBACK(+[](WebKitWebView*, WebKitLoadEvent event, PageView* self) {
@@ -167,11 +168,24 @@ void PageView::OnLoadChanged(WebKitLoadEvent event) {
 
 void PageView::OnReport(JSCValue* value) {
   if (is_replacing_ || !jsc_value_is_object(value)) return;
-  listener_.on_report({.event = TextOf(value, "event"),
+  const std::string event = TextOf(value, "event");
+  if (event == "settled" && gtk_get_minor_version() < 14) {
+    Describe(TextOf(value, "text"));
+  }
+  listener_.on_report({.event = event,
                        .anchor = TextOf(value, "anchor"),
                        .found = TruthOf(value, "found"),
                        .top = NumberOf(value, "top"),
                        .height = NumberOf(value, "height")});
+}
+
+// Before 4.14 the toolkit does not lead a screen reader into the engine's own
+// objects: it reads the page as the description of the view.
+void PageView::Describe(const std::string& text) {
+  const std::string title = Title();
+  gtk_accessible_update_property(
+      GTK_ACCESSIBLE(view_.get()), GTK_ACCESSIBLE_PROPERTY_LABEL, title.c_str(),
+      GTK_ACCESSIBLE_PROPERTY_DESCRIPTION, text.c_str(), -1);
 }
 
 void PageView::Load(const std::string& uri) {
@@ -216,11 +230,12 @@ bool PageView::MayRestart() {
 
 void PageView::OnTerminated() {
   const std::string uri = Uri().empty() ? requested_ : Uri();
-  if (MayRestart())
+  if (MayRestart()) {
     webkit_web_view_load_uri(view_.get(), uri.c_str());
-  else
+  } else {
     ShowProblem(uri, _("The page makes the web engine fail each time it is "
                        "loaded."));
+  }
 }
 
 std::string PageView::Uri() const {

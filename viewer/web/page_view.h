@@ -64,6 +64,7 @@ class PageView {
 
   void Connect();
   void OnReport(JSCValue* value);
+  void Describe(const std::string& text);
   void OnLoadChanged(WebKitLoadEvent event);
   bool OnLoadFailed(const std::string& uri, const GError* error);
   void OnTerminated();

@@ -83,9 +83,11 @@ bool Places::AddFolder(const std::string& place, const std::string& name) {
 }
 
 const ContentFolder* Places::FolderOf(const Address& address) const {
-  for (const auto& folder : folders_)
-    if (folder.place == address.place && Inside(address.path, folder.name))
+  for (const auto& folder : folders_) {
+    if (folder.place == address.place && Inside(address.path, folder.name)) {
       return &folder;
+    }
+  }
   return nullptr;
 }
 
@@ -103,9 +105,11 @@ bool Places::Admit(const Address& address) {
 }
 
 std::optional<Address> Places::Below(const std::string& path) const {
-  for (const auto& [name, directory] : places_)
-    if (const auto rest = Inside(path, directory))
+  for (const auto& [name, directory] : places_) {
+    if (const auto rest = Inside(path, directory)) {
       return Address{.place = name, .path = *rest, .query = {}, .fragment = {}};
+    }
+  }
   return std::nullopt;
 }
 
