@@ -105,33 +105,70 @@ void HtmlScanner::SkipRawText(const std::string& name) {
   at_ = page_.size();
 }
 
+namespace {
+
+/// Reads the attributes of a tag, one after the other.
+class AttributeReader {
+ public:
+  explicit AttributeReader(std::string_view raw) : raw_(raw) {}
+
+  bool AtEnd() const { return at_ >= raw_.size(); }
+
+  /// "" before an "=" that has none, and at the end.
+  std::string_view Key() {
+    SkipSpace();
+    const auto start = at_;
+    while (!AtEnd() && !IsSpace() && raw_[at_] != '=') ++at_;
+    return raw_.substr(start, at_ - start);
+  }
+
+  /// "" when none follows.
+  std::string_view Value() {
+    SkipSpaceBeforeValue();
+    if (AtEnd() || raw_[at_] != '=') return {};
+    ++at_;
+    SkipSpaceBeforeValue();
+    const char quote = AtEnd() ? '\0' : raw_[at_];
+    return quote == '"' || quote == '\'' ? Quoted(quote) : Bare();
+  }
+
+ private:
+  bool IsSpace() const { return !IsNameByte(raw_[at_]) && raw_[at_] != '>'; }
+
+  void SkipSpace() {
+    while (!AtEnd() && IsSpace()) ++at_;
+  }
+
+  // A value may begin with a slash.
+  void SkipSpaceBeforeValue() {
+    while (!AtEnd() && IsSpace() && raw_[at_] != '/') ++at_;
+  }
+
+  std::string_view Quoted(char quote) {
+    const auto start = at_ + 1;
+    const auto end = std::min(raw_.find(quote, start), raw_.size());
+    at_ = std::min(end + 1, raw_.size());
+    return raw_.substr(start, end - start);
+  }
+
+  std::string_view Bare() {
+    const auto start = at_;
+    at_ = std::min(raw_.find_first_of(" \t\r\n\f", at_), raw_.size());
+    return raw_.substr(start, at_ - start);
+  }
+
+  std::string_view raw_;
+  std::size_t at_ = 0;
+};
+
+}  // namespace
+
 std::string HtmlAttribute(std::string_view raw, std::string_view name) {
-  const auto is_space = [](char c) { return !IsNameByte(c) && c != '>'; };
-  std::size_t i = 0;
-  while (i < raw.size()) {
-    while (i < raw.size() && is_space(raw[i])) ++i;
-    const auto start = i;
-    while (i < raw.size() && !is_space(raw[i]) && raw[i] != '=') ++i;
-    const auto key = raw.substr(start, i - start);
-    while (i < raw.size() && is_space(raw[i]) && raw[i] != '/') ++i;
-    std::string_view value;
-    if (i < raw.size() && raw[i] == '=') {
-      ++i;
-      while (i < raw.size() && is_space(raw[i]) && raw[i] != '/') ++i;
-      const char quote = i < raw.size() ? raw[i] : '\0';
-      if (quote == '"' || quote == '\'') {
-        const auto end = std::min(raw.find(quote, i + 1), raw.size());
-        value = raw.substr(i + 1, end - i - 1);
-        i = std::min(end + 1, raw.size());
-      } else {
-        const auto end =
-            std::min(raw.find_first_of(" \t\r\n\f", i), raw.size());
-        value = raw.substr(i, end - i);
-        i = end;
-      }
-    }
+  AttributeReader attributes(raw);
+  while (!attributes.AtEnd()) {
+    const auto key = attributes.Key();
+    const auto value = attributes.Value();
     if (EqualsIgnoringCase(key, name)) return DecodeHtmlText(value);
-    if (i == start) ++i;
   }
   return {};
 }
