@@ -25,7 +25,6 @@ using velmohelp::RequestKind;
 using velmohelp::ThisClient;
 using velmohelp::ThisMachine;
 using velmohelp::Uncancelled;
-using velmohelp::WithState;
 
 namespace {
 

@@ -5,6 +5,7 @@
 #include <pthread.h>
 #include <unistd.h>
 #include <velmohelp/config.h>
+#include <velmohelp/embed.h>
 #include <velmohelp/online.h>
 #include <velmohelp/platform.h>
 #include <velmohelp/resolve.h>
@@ -68,6 +69,22 @@ void CallC() {
   REPORT(VelmoHelpEncodeURIComponent("a b", text, sizeof text));
 }
 
+void CallEmbedding() {
+  char locale[6] = "";
+  REPORT(velmohelp_find_display("intro", nullptr, nullptr));
+  REPORT(velmohelp_find_url("http://localhost/", nullptr, nullptr));
+  REPORT(velmohelp_find_search("Foo", "en_US", "x", nullptr, nullptr));
+  REPORT(velmohelp_start_display("intro"));
+  REPORT(velmohelp_start_url("http://localhost/"));
+  REPORT(velmohelp_start_search("Foo", "en_US", "x"));
+  REPORT(velmohelp_finish(-1));
+  REPORT(velmohelp_set_activation_token("x"));
+  REPORT(velmohelp_set_host("/x"));
+  REPORT(velmohelp_choose_locale("Foo", "en_US", locale));
+  REPORT(velmohelp_initialise("Foo", "en_US"));
+  REPORT(velmohelp_display("intro"));
+}
+
 void CallBinding() {
   private_load_LxHelp(nullptr);
   registered->function(nullptr);
@@ -122,6 +139,7 @@ void CallPlatform() {
 
 void CallEverything() {
   CallC();
+  CallEmbedding();
   CallBinding();
   CallConfig();
   CallResolve();

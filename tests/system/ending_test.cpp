@@ -25,6 +25,18 @@ OpenURL("http://localhost/") 6
 SearchHelp("Foo", "en_US", "x") 4
 Search("a", "b", "en_US", "x") 4
 VelmoHelpEncodeURIComponent("a b", text, sizeof text) 5
+velmohelp_find_display("intro", nullptr, nullptr) 6
+velmohelp_find_url("http://localhost/", nullptr, nullptr) 6
+velmohelp_find_search("Foo", "en_US", "x", nullptr, nullptr) 4
+velmohelp_start_display("intro") -1
+velmohelp_start_url("http://localhost/") -1
+velmohelp_start_search("Foo", "en_US", "x") -1
+velmohelp_finish(-1) 1
+velmohelp_set_activation_token("x") 1
+velmohelp_set_host("/x") 1
+velmohelp_choose_locale("Foo", "en_US", locale) 2
+velmohelp_initialise("Foo", "en_US") 6
+velmohelp_display("intro") 6
 pushed 6
 pushed 6
 ReadHelpcfg("x") 6
