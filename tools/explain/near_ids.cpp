@@ -81,6 +81,7 @@ std::vector<std::string> NearKeys(std::string_view map, std::string_view key) {
     if (best.size() > kMost) best.erase(std::prev(best.end()));
   }
   std::vector<std::string> keys;
+  keys.reserve(best.size());
   for (const auto& [distance, near] : best) keys.emplace_back(near);
   return keys;
 }

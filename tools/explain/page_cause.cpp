@@ -131,7 +131,7 @@ std::string SameNameIn(const fs::path& page) {
   const std::string wanted = page.filename().string();
   for (fs::directory_iterator entry(page.parent_path(), error), end;
        !error && entry != end; entry.increment(error)) {
-    const std::string name = entry->path().filename().string();
+    std::string name = entry->path().filename().string();
     if (SameButForCase(name, wanted)) return name;
   }
   return "";
