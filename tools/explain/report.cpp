@@ -11,7 +11,7 @@ constexpr char kPlainCharacters[] =
     "-._~:/?#@+,=%";
 
 std::string ShellWord(const std::string& word) {
-  const std::string text = PrintableWhole(word);
+  std::string text = PrintableWhole(word);
   if (!text.empty() &&
       text.find_first_not_of(kPlainCharacters) == std::string::npos) {
     return text;
@@ -48,9 +48,10 @@ std::string InsteadOf(const Run& run) {
 
 std::string StartText(const Explanation& explanation) {
   const Run& run = explanation.run;
-  if (!run.start)
+  if (!run.start) {
     return explanation.for_real ? "nothing was started"
                                 : "nothing would be started";
+  }
   const std::string would = explanation.for_real ? "started" : "would start";
   const std::string whom =
       run.start->kind == Start::Kind::kViewer ? "the viewer" : "the browser";
