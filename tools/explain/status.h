@@ -22,7 +22,7 @@ struct Fact {
 
 /// Facts in the order in which they are printed. product: empty for those of
 /// the machine alone.
-std::vector<Fact> StatusOf(RequestMachine& machine, const std::string& product,
+std::vector<Fact> StatusOf(RequestMachine& here, const std::string& product,
                            const std::string& locale);
 
 std::string TextOf(const std::vector<Fact>& facts);
