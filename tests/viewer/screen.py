@@ -81,9 +81,10 @@ class Screen:
         self.environment.update(environment)
         os.makedirs(self.path("home/.config"))
         os.makedirs(self.path("run"), mode=0o700)
+        # On a busy machine a key stays down for so long that it would repeat.
         display, number = _first_line(
             ["Xvfb", "-displayfd", "FD", "-screen", "0", size, "-nolisten",
-             "tcp", "-noreset"], stderr=subprocess.DEVNULL)
+             "tcp", "-noreset", "-r"], stderr=subprocess.DEVNULL)
         self._processes.append(display)
         self.environment["DISPLAY"] = ":" + number
         # Of the services that this machine has, the one for screen readers: any

@@ -238,7 +238,9 @@ class Keyboard(Windows):
 
     def test_find_counts_the_hits_in_the_page(self):
         self.screen.show(self.lines)
-        self.press("key", "ctrl+f", "type", "filler")
+        self.press("key", "ctrl+f")
+        self.screen.wait(lambda s: s["finding"])
+        self.press("type", "filler")
         self.screen.wait(lambda s: s["matches"] == 600)
 
     def test_zoom_follows_its_keys(self):

@@ -38,6 +38,23 @@ constexpr auto kKeys = std::to_array<Keys>({
     {"app.quit", {"<Ctrl>q"}},
 });
 
+// Before the page that has the keyboard: no page can keep the viewer's keys
+// from the person.
+void TakeKeysFirst(GtkApplication*, GtkWindow* window, gpointer) {
+  GtkEventController* controller = gtk_shortcut_controller_new();
+  gtk_event_controller_set_propagation_phase(controller, GTK_PHASE_CAPTURE);
+  for (const auto& keys : kKeys) {
+    for (const char* accelerator : keys.accelerators) {
+      if (!accelerator) continue;
+      gtk_shortcut_controller_add_shortcut(
+          GTK_SHORTCUT_CONTROLLER(controller),
+          gtk_shortcut_new(gtk_shortcut_trigger_parse_string(accelerator),
+                           gtk_named_action_new(keys.action)));
+    }
+  }
+  gtk_widget_add_controller(GTK_WIDGET(window), controller);
+}
+
 void Quit(GSimpleAction*, GVariant*, gpointer application) {
   // Each window remembers its size when it closes.
   GList* windows =
@@ -72,6 +89,8 @@ Application::Application()
 Application::~Application() = default;
 
 void Application::Connect() {
+  g_signal_connect(application_.get(), "window-added",
+                   G_CALLBACK(TakeKeysFirst), nullptr);
   g_signal_connect_swapped(
       application_.get(), "startup",
       G_CALLBACK(+[](Application* self) { self->OnStartup(); }), this);

@@ -46,6 +46,7 @@ GVariant* Describe(const WindowState& state) {
   add("search-complete", g_variant_new_boolean(state.search_complete));
   add("contents", g_variant_new_uint32(state.contents));
   add("highlights", g_variant_new_int32(state.highlights));
+  add("finding", g_variant_new_boolean(state.is_finding));
   add("matches", g_variant_new_uint32(state.matches));
   add("zoom", g_variant_new_double(state.zoom));
   add("toast", TextValue(state.toast));

@@ -21,6 +21,10 @@ FindBar::FindBar(GtkBuilder* builder, std::function<void()> on_change)
       entry_(GTK_SEARCH_ENTRY(ObjectOf(builder, "find_entry"))),
       label_(GTK_LABEL(ObjectOf(builder, "find_label"))) {
   gtk_search_bar_connect_entry(bar_, GTK_EDITABLE(entry_));
+  // Shown one drawing after it is opened: only then it takes what is typed.
+  g_signal_connect_swapped(
+      entry_, "map", G_CALLBACK(+[](FindBar* self) { self->on_change_(); }),
+      this);
   g_signal_connect_swapped(entry_, "search-changed",
                            G_CALLBACK(+[](FindBar* self) { self->Start(); }),
                            this);
@@ -58,6 +62,10 @@ void FindBar::SetView(WebKitWebView* view) {
 void FindBar::Open() {
   gtk_search_bar_set_search_mode(bar_, TRUE);
   gtk_widget_grab_focus(GTK_WIDGET(entry_));
+}
+
+bool FindBar::is_open() const {
+  return gtk_widget_get_mapped(GTK_WIDGET(entry_)) != 0;
 }
 
 void FindBar::Start() {

@@ -23,6 +23,7 @@ class FindBar {
   void Open();
   void Next();
   void Previous();
+  bool is_open() const;
   unsigned matches() const { return matches_; }
 
  private:

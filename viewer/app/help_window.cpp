@@ -312,6 +312,7 @@ WindowState HelpWindow::State() const {
   state.hits = sidebar_->hits();
   state.search_complete = sidebar_->is_complete();
   state.contents = sidebar_->contents();
+  state.is_finding = find_->is_open();
   state.matches = find_->matches();
   state.zoom = pane_->zoom();
   return state;

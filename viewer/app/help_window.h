@@ -40,6 +40,7 @@ struct WindowState {
   bool search_complete = false;
   unsigned contents = 0;
   int highlights = 0;
+  bool is_finding = false;
   unsigned matches = 0;
   double zoom = 1;
   /// The last sentence that was shown for a moment.

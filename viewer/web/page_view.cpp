@@ -6,6 +6,7 @@
 #include <memory>
 #include <utility>
 
+#include "util/str_cat.h"
 #include "viewer/web/local_scheme.h"
 #include "viewer/web/page_policy.h"
 #include "viewer/web/page_script.h"
@@ -104,10 +105,9 @@ void Evaluate(WebKitWebView* view, const std::string& script, ScriptDone done) {
 // A word as a literal of the script; JSON's escapes are enough for letters and
 // digits, which is all that words have.
 std::string Literal(const std::string& word) {
-  return "'" +
-         Adopt(
-             g_utf8_make_valid(word.data(), static_cast<gssize>(word.size()))) +
-         "'";
+  const std::string valid =
+      Adopt(g_utf8_make_valid(word.data(), static_cast<gssize>(word.size())));
+  return velmohelp::StrCat({"'", valid, "'"});
 }
 
 }  // namespace
