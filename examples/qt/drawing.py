@@ -1,4 +1,3 @@
-#!/usr/bin/python3
 """A small drawing application. Every widget has a page id; F1 shows the page of
 the focused widget, or of its nearest parent that has one, and the Help button
 is grey where there is none.
