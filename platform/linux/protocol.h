@@ -1,6 +1,6 @@
 /* What the library and its helper programs say to each other. A helper takes
  * the question as its arguments and always writes an answer, in the form of
- * helpers/answer.h: one of those below, or an empty one when it cannot tell.
+ * answer.h: one of those below, or an empty one when it cannot tell.
  *
  * The library starts a helper with a real-time interval timer: SIGALRM ends a
  * late helper. One that has answered and must live longer, as a client of the

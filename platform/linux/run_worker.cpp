@@ -7,7 +7,7 @@
 #include <optional>
 #include <string>
 
-#include "platform/linux/helpers/answer.h"
+#include "platform/linux/answer.h"
 #include "platform/linux/linux_machine.h"
 #include "platform/linux/pipe.h"
 #include "platform/linux/retry_on_eintr.h"

@@ -8,7 +8,7 @@
 #include <string>
 #include <string_view>
 
-#include "platform/linux/helpers/answer.h"
+#include "platform/linux/answer.h"
 #include "platform/linux/helpers/browser_portal.h"
 #include "platform/linux/helpers/default_browser.h"
 #include "platform/linux/protocol.h"

@@ -2,7 +2,7 @@
 #include <string>
 #include <string_view>
 
-#include "platform/linux/helpers/answer.h"
+#include "platform/linux/answer.h"
 #include "platform/linux/helpers/transfer.h"
 #include "platform/linux/protocol.h"
 

@@ -4,7 +4,7 @@
 #include <string.h>
 #include <sys/socket.h>
 
-#include "platform/linux/helpers/answer.h"
+#include "platform/linux/answer.h"
 #include "platform/linux/helpers/route.h"
 #include "platform/linux/helpers/time_limit.h"
 #include "platform/linux/protocol.h"

@@ -1,7 +1,7 @@
 /* How a helper hands its answer to the library. Plain C, for helpers in both
  * languages. */
-#ifndef PLATFORM_LINUX_HELPERS_ANSWER_H_
-#define PLATFORM_LINUX_HELPERS_ANSWER_H_
+#ifndef PLATFORM_LINUX_ANSWER_H_
+#define PLATFORM_LINUX_ANSWER_H_
 
 #include <stddef.h>
 #include <stdio.h>
@@ -32,4 +32,4 @@ static inline int velmo_give_answer(const char* bytes, size_t size) {
          close(STDOUT_FILENO) == 0;
 }
 
-#endif /* PLATFORM_LINUX_HELPERS_ANSWER_H_ */
+#endif /* PLATFORM_LINUX_ANSWER_H_ */
