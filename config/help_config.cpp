@@ -21,8 +21,9 @@ void AssignViewerIds(std::string_view text, const HelpConfigState& state) {
 HelpConfigStatus ReadHelpConfig(const HelpConfigState& state,
                                 const std::string& path) {
   std::string text;
-  if (!ReadKeyFile(path, text, state.observer))
+  if (!ReadKeyFile(path, text, state.observer)) {
     return HelpConfigStatus::kUnreadable;
+  }
   state.config_id = ScanKey(text, "id", state.observer);
   if (state.config_id.size() < kLocaleLength) return HelpConfigStatus::kInvalid;
   if (state.config_id != StrCat({state.locale, "_", state.product_id})) {
@@ -45,8 +46,9 @@ HelpConfigStatus UpdateHelpConfig(Machine& machine,
   const std::string installed =
       InstalledConfigPath(machine, state.product_id, asked_locale);
   std::string text;
-  if (!ReadKeyFile(installed, text, state.observer))
+  if (!ReadKeyFile(installed, text, state.observer)) {
     return HelpConfigStatus::kUnreadable;
+  }
   const std::string_view folder = ScanKey(text, "path", state.observer);
   if (folder.empty()) return HelpConfigStatus::kInvalid;
   AssignViewerIds(text, state);

@@ -23,10 +23,6 @@ constexpr char kExplainExamples[] =
     "\n"
     "Opens and writes nothing, but asks the help server as the client does.\n"
     "Exit status: the request's own result; 65 when the host would hang.";
-constexpr char kDoExamples[] =
-    "  velmo-help %1 Sketch en_US %2 --host /opt/sketch/bin/sketch\n"
-    "\n"
-    "Exit status: the request's own result.";
 
 struct Options {
   CommonOptions common;

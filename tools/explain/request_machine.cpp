@@ -11,6 +11,7 @@
 #include "tools/explain/file_facts.h"
 #include "tools/explain/process.h"
 #include "util/input_file.h"
+#include "util/str_cat.h"
 
 namespace velmohelp::tool {
 namespace {
@@ -145,7 +146,7 @@ Arguments WordsOf(const WhatIf& what_if) {
   if (what_if.no_viewer) words.emplace_back("--no-viewer");
   for (const auto& [key, value] : what_if.preferences) {
     words.emplace_back("--pref");
-    words.push_back(key + "=" + value);
+    words.push_back(StrCat({key, "=", value}));
   }
   return words;
 }
