@@ -202,7 +202,7 @@ std::vector<Scene> OfThePage() {
        "url-not-loaded",
        {"{server}/page: Couldn't connect"}},
       {"a picture in place of a page",
-       {Online(), Served("intro.html", Response("200 OK", "", "\xFF\x00\xD8"))},
+       {Online(), Served("intro.html", Response("200 OK", "", "\xFF\xD8\xFF"))},
        DisplayIntro(),
        0,
        "page-not-loaded",
