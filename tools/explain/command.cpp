@@ -71,7 +71,8 @@ int Explain(const Options& options, const Console& console) {
   std::optional<NewFile> report;
   if (!options.report.empty()) report.emplace(options.report);
   RequestMachine machine(options.machine, !options.for_real);
-  Run run = {.request = options.request};
+  Run run;
+  run.request = options.request;
   Make(machine.machine(), machine.helper_folder(), run);
   const Arguments words = run.start ? run.start->words : Arguments{};
   const Surroundings around = machine.Look(words);

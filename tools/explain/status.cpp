@@ -189,7 +189,9 @@ std::vector<Fact> StatusOf(RequestMachine& here, const std::string& product,
                            const std::string& locale) {
   const auto words = here.machine().FindBrowser("https://localhost/");
   const Surroundings around = here.Look(words.value_or(Arguments{}));
-  Run run = {.request = {.product = product, .locale = locale}};
+  Run run;
+  run.request.product = product;
+  run.request.locale = locale;
   if (!product.empty()) MakeClient(here.machine(), here.helper_folder(), run);
   Facts facts;
   AddLocations(here, around, facts);
