@@ -2,6 +2,7 @@
 
 #include "tools/explain/cause_parts.h"
 #include "tools/printable.h"
+#include "util/str_cat.h"
 
 namespace velmohelp::tool {
 namespace {
@@ -166,7 +167,9 @@ std::string BrowserText(const Explanation& explanation) {
 
 std::string QuestionLine(const Step& step) {
   std::string line = step.name;
-  for (const std::string& word : step.subject) line += " " + ShellWord(word);
+  for (const std::string& word : step.subject) {
+    line += StrCat({" ", ShellWord(word)});
+  }
   return line + ": " + PrintableWhole(step.answer) + InBrackets(step.reason);
 }
 
@@ -192,7 +195,7 @@ std::string MapLine(const Step& step) {
 std::string ShellCommand(const Arguments& words) {
   std::string line;
   for (const std::string& word : words) {
-    line += (line.empty() ? "" : " ") + ShellWord(word);
+    line += StrCat({line.empty() ? "" : " ", ShellWord(word)});
   }
   return line;
 }
