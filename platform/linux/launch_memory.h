@@ -10,15 +10,26 @@ namespace velmohelp {
 
 /// Stacks for the two processes of a start, above a guard page, and their
 /// report. A mapping of its own, because the host's thread may have a stack of
-/// 16 KiB; shared, for the reason that LaunchReport gives.
+/// 16 KiB.
 ///
 ///     | guard | program's stack | intermediate's stack | report |
+///
+/// A mapping costs a tenth of a start, so one of them is kept for the next
+/// start until the library is unloaded. What is kept is private: a child that
+/// the host forks, and perhaps confines, must not be able to write where the
+/// host's next start runs. Private memory carries the report only where the
+/// children work in the host's memory; until that is known the mapping is
+/// shared, for the reason that LaunchReport gives, and not kept.
 class LaunchMemory {
  public:
   LaunchMemory();
   LaunchMemory(const LaunchMemory&) = delete;
   LaunchMemory& operator=(const LaunchMemory&) = delete;
   ~LaunchMemory();
+
+  /// Children have worked in this process's memory, not in a copy of it: they
+  /// always will.
+  static void UsePrivateMemory();
 
   /// False when out of memory.
   explicit operator bool() const { return start_ != nullptr; }
@@ -30,10 +41,8 @@ class LaunchMemory {
   LaunchReport* report() const;
 
  private:
-  std::size_t page_;
-  std::size_t stack_;
-  std::size_t size_;
-  char* start_ = nullptr;
+  bool is_private_;
+  char* start_;
 };
 
 }  // namespace velmohelp

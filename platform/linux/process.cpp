@@ -113,6 +113,7 @@ std::optional<ProgramReport> StartProcess(const ProgramStart& start) {
                    .program_stack = memory.program_stack(),
                    .report = memory.report()};
   Run(launch, memory.intermediate_stack());
+  if (launch.shares_memory) LaunchMemory::UsePrivateMemory();
   if (!report.complete || report.error != 0) return std::nullopt;
   return ReportOf(start.wait_for, report);
 }

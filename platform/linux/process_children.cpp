@@ -213,7 +213,8 @@ VELMO_CHILD void StartAndWait(const Launch& launch) {
 }  // namespace
 
 VELMO_CHILD int RunIntermediate(void* argument) {
-  const Launch& launch = *static_cast<const Launch*>(argument);
+  Launch& launch = *static_cast<Launch*>(argument);
+  launch.shares_memory = true;
   ResetSignals();
   // When the host is killed, this process must not keep its memory alive.
   prctl(PR_SET_PDEATHSIG, SIGKILL);

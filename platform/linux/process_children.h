@@ -8,9 +8,9 @@
 
 namespace velmohelp {
 
-/// What the intermediate process reports. It is in shared memory, so that
-/// the report also arrives where vfork is emulated as fork (valgrind,
-/// qemu-user): the children then have a copy of all other memory.
+/// What the intermediate process reports. It is in shared memory until a start
+/// has shown that the children work in the host's memory: where vfork is
+/// emulated as fork (valgrind, qemu-user) they have a copy of all other memory.
 struct LaunchReport {
   /// The rest is valid.
   bool complete;
@@ -24,7 +24,8 @@ struct LaunchReport {
   char output[4096];
 };
 
-/// Everything that the children need. They only read it, but for the report.
+/// Everything that the children need. They only read it, but for the report and
+/// for what says whose memory they work in.
 struct Launch {
   const char* program;
   char* const* words;
@@ -37,6 +38,9 @@ struct Launch {
   /// Where the program's process has its stack until exec: the highest address.
   void* program_stack;
   LaunchReport* report;
+  /// Set by the intermediate process, which the host sees unless that process
+  /// has a copy of the host's memory.
+  bool shares_memory = false;
 };
 
 /// The intermediate process: starts the program, waits for it and reports.
