@@ -6,6 +6,7 @@
 #include "resolve/help_map/entry_parser.h"
 #include "tests/fuzz/input.h"
 #include "tests/support/temporary_directory.h"
+#include "tools/files.h"
 #include "tools/import/formats.h"
 #include "tools/import/help_map_text.h"
 
@@ -40,6 +41,7 @@ void Check(Input input) {
     try {
       CheckTable(format.read(folder.Write("table", input.Rest())));
     } catch (const tool::ImportError&) {
+    } catch (const tool::FileError&) {  // what it includes
     }
   }
 }
