@@ -317,6 +317,10 @@ INSTANTIATE_TEST_SUITE_P(
         Hostile{"a project that includes itself a hundred times",
                 Text("table", Repeated("[MAP]\n#include \"table\"\n", 100)),
                 Import("htmlhelp"), 65},
+        Hostile{
+            "a project that includes a name that no file can have",
+            Text("table", std::string("[MAP]\n#include ").append(5000, 'x')),
+            Import("htmlhelp"), 65},
         Hostile{"a project that includes what is elsewhere",
                 Text("table", "[MAP]\n#include \"../../etc/passwd\"\n"),
                 Import("htmlhelp"), 65},

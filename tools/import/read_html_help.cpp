@@ -136,8 +136,9 @@ class Project {
     if (name.size() > 2 && (name.front() == '"' || name.front() == '<')) {
       name = name.substr(1, name.size() - 2);
     }
-    const auto file =
-        std::filesystem::weakly_canonical(folder_ / ForwardSlashes(name));
+    std::error_code error;
+    const auto file = std::filesystem::weakly_canonical(
+        folder_ / ForwardSlashes(name), error);
     if (depth == kDeepestInclude || !IsInside(file)) {
       table_.remarks.push_back(
           {line,
@@ -145,7 +146,7 @@ class Project {
            "deep; skipped"});
       return;
     }
-    if (!std::filesystem::exists(file)) {
+    if (!std::filesystem::exists(file, error)) {
       table_.remarks.push_back(
           {line, "there is no file " + Printable(file.string())});
       return;
