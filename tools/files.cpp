@@ -20,12 +20,17 @@ std::string LastError() { return std::generic_category().message(errno); }
 
 }  // namespace
 
-std::string ReadWholeFile(const std::filesystem::path& file,
-                          std::size_t limit) {
+void ExpectRegular(const std::filesystem::path& file) {
   std::error_code error;
   const auto status = std::filesystem::status(file, error);
   if (!std::filesystem::exists(status)) Fail(file, "no such file");
   if (!std::filesystem::is_regular_file(status)) Fail(file, "not a file");
+}
+
+std::string ReadWholeFile(const std::filesystem::path& file,
+                          std::size_t limit) {
+  ExpectRegular(file);
+  std::error_code error;
   const auto input = OpenInputFile(file.string(), limit);
   if (!input && std::filesystem::file_size(file, error) > limit) {
     Fail(file, "longer than " + std::to_string(limit >> 20U) + " MiB");
@@ -38,6 +43,16 @@ std::string ReadWholeFile(const std::filesystem::path& file,
     Fail(file, LastError());
   }
   return std::string(text.bytes());
+}
+
+void ExpectBelow(const std::filesystem::path& folder,
+                 const std::filesystem::path& file) {
+  const auto root = std::filesystem::weakly_canonical(folder);
+  const auto parent = std::filesystem::weakly_canonical(file.parent_path());
+  const auto below = parent.lexically_relative(root);
+  if (below.empty() || *below.begin() == "..") {
+    Fail(file, "a link leads out of " + folder.string());
+  }
 }
 
 void ExpectWritable(const std::filesystem::path& file, bool overwrite) {
@@ -59,23 +74,6 @@ void WriteWholeFile(const std::filesystem::path& file, std::string_view text,
   const bool written =
       std::fwrite(text.data(), 1, text.size(), stream) == text.size();
   if (std::fclose(stream) != 0 || !written) Fail(file, LastError());
-}
-
-NewFile::NewFile(const std::filesystem::path& path)
-    : path_(path), stream_(std::fopen(path.c_str(), "wbx")) {
-  if (stream_ == nullptr) Fail(path_, LastError());
-}
-
-NewFile::~NewFile() {
-  if (stream_ != nullptr) std::fclose(stream_);
-}
-
-void NewFile::Write(std::string_view text) {
-  const bool written =
-      std::fwrite(text.data(), 1, text.size(), stream_) == text.size();
-  const bool closed = std::fclose(stream_) == 0;
-  stream_ = nullptr;
-  if (!written || !closed) Fail(path_, LastError());
 }
 
 }  // namespace velmohelp::tool

@@ -2,7 +2,6 @@
 #ifndef TOOLS_FILES_H_
 #define TOOLS_FILES_H_
 
-#include <cstdio>
 #include <filesystem>
 #include <stdexcept>
 #include <string>
@@ -24,6 +23,14 @@ class FileError : public std::runtime_error {
 std::string ReadWholeFile(const std::filesystem::path& file,
                           std::size_t limit = kHelpMapLimit);
 
+/// Throws FileError unless file is a regular file: a pipe would never end.
+void ExpectRegular(const std::filesystem::path& file);
+
+/// Throws FileError when a symbolic link leads from folder to a place outside
+/// of it on the way to file.
+void ExpectBelow(const std::filesystem::path& folder,
+                 const std::filesystem::path& file);
+
 /// Throws FileError when something is at file already, unless overwrite is set.
 void ExpectWritable(const std::filesystem::path& file, bool overwrite);
 
@@ -33,25 +40,6 @@ void ExpectWritable(const std::filesystem::path& file, bool overwrite);
 /// the person named.
 void WriteWholeFile(const std::filesystem::path& file, std::string_view text,
                     bool overwrite);
-
-/// A file that this process makes now and writes later, when it may have moved
-/// to where the path leads elsewhere.
-class NewFile {
- public:
-  /// Throws FileError when something is at path already, or the file cannot be
-  /// made.
-  explicit NewFile(const std::filesystem::path& path);
-  NewFile(const NewFile&) = delete;
-  NewFile& operator=(const NewFile&) = delete;
-  ~NewFile();
-
-  /// Writes the whole text, once. Throws FileError when that fails.
-  void Write(std::string_view text);
-
- private:
-  std::filesystem::path path_;
-  std::FILE* stream_;
-};
 
 }  // namespace velmohelp::tool
 

@@ -50,15 +50,17 @@ Words Question(const Words& request) {
 
 }  // namespace
 
-ToolProcess RunToolIn(HelpWorld& world, const Words& arguments) {
+ToolProcess RunToolIn(HelpWorld& world, const Words& arguments,
+                      const char* tool) {
+  if (tool == nullptr) tool = VELMO_TEST_TOOL;
   const std::string out = world.Expanded("{bin}/../tool.out");
   const std::string err = world.Expanded("{bin}/../tool.err");
   Words words = world.Expanded(arguments);
-  words.insert(words.begin(), VELMO_TEST_TOOL);
+  words.insert(words.begin(), tool);
   const Streams streams(out, err);
   pid_t process = -1;
   int status = -1;
-  if (posix_spawn(&process, VELMO_TEST_TOOL, streams.get(), nullptr,
+  if (posix_spawn(&process, tool, streams.get(), nullptr,
                   Pointers(words).data(),
                   Pointers(world.start().environment).data()) != 0) {
     return {};
@@ -82,7 +84,7 @@ void ExpectExplained(HelpWorld& world, const Words& request,
       << run.out;
 }
 #else
-ToolProcess RunToolIn(HelpWorld&, const Words&) { return {}; }
+ToolProcess RunToolIn(HelpWorld&, const Words&, const char*) { return {}; }
 void ExpectExplained(HelpWorld&, const Words&, const std::string&,
                      const Words&) {}
 #endif

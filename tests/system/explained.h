@@ -15,9 +15,10 @@ struct ToolProcess {
   std::string err;
 };
 
-/// Runs velmo-help in a world, in the environment of its host. Not where the
-/// tool is left out of the build.
-ToolProcess RunToolIn(HelpWorld& world, const Words& arguments);
+/// Runs velmo-help, or another build of it, in a world, in the environment of
+/// its host. Not where the tool is left out of the build.
+ToolProcess RunToolIn(HelpWorld& world, const Words& arguments,
+                      const char* tool = nullptr);
 
 /// The test fails unless `velmo-help explain` says that the host's request,
 /// for Foo in en_US, returns this code and starts this; both may name places.

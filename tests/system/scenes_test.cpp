@@ -3,11 +3,10 @@
 
 #include <filesystem>
 #include <map>
-#include <sstream>
 
 #include "tests/system/certificates.h"
-#include "tests/system/explained.h"
-#include "tests/system/own_machine_world.h"
+#include "tests/system/routes.h"
+#include "tests/system/scene.h"
 #include "tests/system/tunnels.h"
 
 #ifdef VELMO_TEST_TOOL
@@ -16,21 +15,6 @@
 namespace velmohelp::testing {
 namespace {
 
-struct Scene {
-  const char* sentence;
-  Changes changes;
-  /// The arguments of `velmo-help explain`, without the host.
-  Words arguments;
-  int status;
-  /// The cause's name in the JSON form.
-  const char* cause;
-  /// Texts of the second line; may name places.
-  Words why;
-};
-
-void PrintTo(const Scene& scene, std::ostream* out) { *out << scene.sentence; }
-
-Words DisplayIntro() { return {"display", "Foo", "en_US", "intro"}; }
 Words DisplayPageNamed(const std::string& id) {
   return {"display", "Foo", "en_US", id};
 }
@@ -367,16 +351,6 @@ std::vector<Scene> OfThePrograms() {
   };
 }
 
-/// The first three lines, and no more.
-Words FirstThree(const std::string& text) {
-  Words lines;
-  std::istringstream stream(text);
-  for (std::string line; lines.size() < 3 && std::getline(stream, line);) {
-    lines.push_back(line);
-  }
-  return lines;
-}
-
 Words WithHost(Words arguments) {
   arguments.insert(arguments.begin(), "explain");
   arguments.insert(arguments.end(), {"--host", "{bin}/host"});
@@ -388,21 +362,11 @@ class AScene : public ::testing::TestWithParam<Scene> {};
 TEST_P(AScene, HasItsCauseInTheFirstLines) {
   HelpWorld world;
   Apply(GetParam().changes, world);
-  const auto run = RunToolIn(world, WithHost(GetParam().arguments));
-  EXPECT_EQ(run.status, GetParam().status) << run.err;
-  const Words lines = FirstThree(run.out);
-  ASSERT_EQ(lines.size(), 3U) << run.out << run.err;
-  for (const std::string& text : GetParam().why) {
-    EXPECT_THAT(lines[1], ::testing::HasSubstr(world.Expanded(text)));
-  }
-  EXPECT_TRUE(lines[1].starts_with("why: "));
-  EXPECT_TRUE(lines[2].starts_with("do: ")) << lines[2];
-  Words arguments = WithHost(GetParam().arguments);
-  arguments.emplace_back("--json");
-  const auto json =
-      nlohmann::json::parse(RunToolIn(world, arguments).out, nullptr, false);
-  ASSERT_TRUE(json.is_object());
-  EXPECT_EQ(json["cause"]["name"], GetParam().cause);
+  ExpectCause(GetParam(), world, [&](const Words& options) {
+    Words arguments = WithHost(GetParam().arguments);
+    arguments.insert(arguments.end(), options.begin(), options.end());
+    return RunToolIn(world, arguments);
+  });
 }
 
 INSTANTIATE_TEST_SUITE_P(OfTheConfiguration, AScene,
@@ -450,26 +414,6 @@ TEST(AnExplanation, ChangesNoFileAndStartsNothing) {
             0);
   EXPECT_EQ(TreeBelow(folder), before);
   EXPECT_EQ(world.Started(), Words());
-}
-
-TEST(AReport, HasNoHomeAndNoUser) {
-  HelpWorld world;
-  kPage(world);
-  const std::string file = world.Expanded("{bin}/../report.txt");
-  auto arguments = WithHost(DisplayIntro());
-  arguments.insert(arguments.end(), {"--report", file});
-  world.start().environment.push_back("HOME=" + world.Expanded("{settings}"));
-  std::erase_if(world.start().environment, [&](const std::string& entry) {
-    return entry.starts_with("HOME=") && !entry.ends_with("/settings");
-  });
-  EXPECT_EQ(RunToolIn(world, arguments).status, 0);
-  const std::string text = FileText(file);
-  EXPECT_THAT(text, ::testing::HasSubstr("Every step"));
-  EXPECT_THAT(text, ::testing::HasSubstr("HOME/"));
-  EXPECT_THAT(
-      text, ::testing::Not(::testing::HasSubstr(world.Expanded("{settings}"))));
-  EXPECT_EQ(RunToolIn(world, arguments).status, 74)
-      << "an existing file is left alone";
 }
 
 struct WhatIf {
@@ -528,54 +472,6 @@ TEST(TheCommand, MakesTheRequestItself) {
   EXPECT_EQ(run.status, 0) << run.err;
   EXPECT_EQ(world.Started(),
             world.Expanded(Viewer("HELP", "\"{url:installed}/intro.html\"")));
-}
-
-/// A running host on a machine of its own, seen by its process id.
-class ARunningHost : public OwnMachine {
- protected:
-  ToolProcess Explain(Words arguments) {
-    arguments.insert(arguments.begin(), "explain");
-    arguments.insert(arguments.end(),
-                     {"--pid", std::to_string(world_.Host().pid())});
-    return RunToolIn(world_, arguments);
-  }
-};
-
-TEST_F(ARunningHost, IsItsExecutableEnvironmentAndNetwork) {
-  world_.SetUserPreference("1");
-  world_.Remove("{viewer}");
-  world_.start().environment.emplace_back("UNRELATED=1");
-  Start([] { return true; });
-  world_.start().environment = {"PATH=/usr/bin:/bin"};
-  const auto run = Explain(DisplayIntro());
-  EXPECT_EQ(run.err, "");
-  const Words lines = FirstThree(run.out);
-  ASSERT_EQ(lines.size(), 3U) << run.out;
-  EXPECT_THAT(lines[1], ::testing::HasSubstr("(no route to it)"));
-  EXPECT_EQ(run.status, 7);
-}
-
-TEST_F(ARunningHost, IsInItsSandbox) {
-  InstallIntroPage();
-  world_.Remove("{viewer}");
-  world_.SetUserPreference("0");
-  Start([] {
-    WriteFile("/.flatpak-info", "[Application]\nname=org.example.Host\n");
-    return RaiseLoopback();
-  });
-  const auto run = Explain({"open", "Foo", "en_US",
-                            "file:///Library/Application%20Support/Velmo/Help/"
-                            "{folder}/intro.html"});
-  EXPECT_EQ(run.err, "");
-  EXPECT_THAT(run.out, ::testing::HasSubstr("helpcfg"));
-}
-
-TEST(AHostThatHasEnded, IsAFailure) {
-  HelpWorld world;
-  const auto run = RunToolIn(world, {"explain", "display", "Foo", "en_US",
-                                     "intro", "--pid", "999999999"});
-  EXPECT_EQ(run.status, 74);
-  EXPECT_THAT(run.err, ::testing::HasSubstr("process 999999999"));
 }
 
 }  // namespace

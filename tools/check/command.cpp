@@ -25,7 +25,7 @@ constexpr char kExamples[] =
     "  velmo-help check help/\n"
     "  velmo-help check Sketch.helpcfg content/en_US/Basics/helpmap.txt\n"
     "  velmo-help check help/ --ids ids.txt --locales\n"
-    "  velmo-help check help/ > known.txt; velmo-help check help/ \\\n"
+    "  velmo-help check help/ --all > known.txt; velmo-help check help/ \\\n"
     "      --baseline known.txt\n"
     "\n"
     "Reads only. Exit status: 0 without findings, 1 with some.";
@@ -40,6 +40,7 @@ struct Options {
   fs::path against;
   fs::path baseline;
   bool locales = false;
+  bool all = false;
   std::vector<std::string> without;
 };
 
@@ -96,19 +97,21 @@ int Run(const Options& options, const Console& console) {
   if (!options.baseline.empty()) {
     RemoveKnown(ReadWholeFile(options.baseline), findings);
   }
+  const bool is_clean = findings.empty();
+  const Report report = ReportOf(std::move(findings), options.all);
   switch (options.common.json ? Format::kJson : options.format) {
     case Format::kText:
-      console.out << TextReport(findings, options.common.UsesColor(console));
-      if (!findings.empty()) console.err << Summary(findings) << "\n";
+      console.out << TextReport(report, options.common.UsesColor(console));
+      if (!is_clean) console.err << Summary(report) << "\n";
       break;
     case Format::kJson:
-      console.out << JsonReport(findings);
+      console.out << JsonReport(report);
       break;
     case Format::kSarif:
-      console.out << SarifReport(findings);
+      console.out << SarifReport(report);
       break;
   }
-  return findings.empty() ? 0 : 1;
+  return is_clean ? 0 : 1;
 }
 
 void AddOptions(CLI::App& command, Options& options) {
@@ -142,6 +145,9 @@ void AddOptions(CLI::App& command, Options& options) {
       .add_option("--baseline", options.baseline,
                   "An earlier report as text: what it has is accepted")
       ->option_text("FILE");
+  command.add_flag("--all", options.all,
+                   "Print each finding, also of a file with more than " +
+                       std::to_string(kMostOfAFile));
   std::vector<std::string> names;
   for (const Rule* rule : rules::kAll) names.emplace_back(rule->name);
   command

@@ -21,13 +21,6 @@ std::string LevelOf(const Rule& rule) {
   return rule.severity == Severity::kError ? "error" : "warning";
 }
 
-std::size_t Count(const Findings& findings, Severity severity) {
-  return static_cast<std::size_t>(
-      std::ranges::count_if(findings, [&](const Finding& finding) {
-        return finding.rule->severity == severity;
-      }));
-}
-
 std::string Counted(std::size_t count, const std::string& noun) {
   return std::to_string(count) + " " + noun + (count == 1 ? "" : "s");
 }
@@ -68,7 +61,42 @@ Json SarifResult(const Finding& finding) {
           {"locations", Json::array({location})}};
 }
 
+std::string TextOf(const Report::LeftOut& left_out) {
+  return Printable(left_out.file) + ": " +
+         Counted(left_out.count, "more finding") + "; --all prints all";
+}
+
+/// What SARIF has for what a tool says of its own run.
+Json SarifInvocation(const Report& report) {
+  Json notes = Json::array();
+  for (const Report::LeftOut& left_out : report.left_out) {
+    notes.push_back(
+        {{"level", "note"}, {"message", {{"text", TextOf(left_out)}}}});
+  }
+  return {{"executionSuccessful", true}, {"toolExecutionNotifications", notes}};
+}
+
 }  // namespace
+
+Report ReportOf(Findings findings, bool all) {
+  Report report;
+  std::string file;
+  std::size_t of_file = 0;
+  for (Finding& finding : findings) {
+    const bool is_error = finding.rule->severity == Severity::kError;
+    ++(is_error ? report.errors : report.warnings);
+    if (finding.file != file) of_file = 0;
+    if (of_file == 0) file = finding.file;
+    if (++of_file <= kMostOfAFile || all) {
+      report.findings.push_back(std::move(finding));
+    } else if (of_file == kMostOfAFile + 1) {
+      report.left_out.push_back({file, 1});
+    } else {
+      ++report.left_out.back().count;
+    }
+  }
+  return report;
+}
 
 std::string TextOf(const Finding& finding, bool color) {
   const bool is_error = finding.rule->severity == Severity::kError;
@@ -80,17 +108,17 @@ std::string TextOf(const Finding& finding, bool color) {
          " [" + std::string(finding.rule->name) + "]";
 }
 
-std::string TextReport(const Findings& findings, bool color) {
-  std::string report;
-  for (const Finding& finding : findings) {
-    report += TextOf(finding, color) + "\n";
+std::string TextReport(const Report& report, bool color) {
+  std::string text;
+  for (const Finding& finding : report.findings) {
+    text += TextOf(finding, color) + "\n";
   }
-  return report;
+  return text;
 }
 
-std::string JsonReport(const Findings& findings) {
+std::string JsonReport(const Report& report) {
   Json list = Json::array();
-  for (const Finding& finding : findings) {
+  for (const Finding& finding : report.findings) {
     list.push_back({{"file", finding.file},
                     {"line", finding.at.line},
                     {"column", finding.at.column},
@@ -98,15 +126,20 @@ std::string JsonReport(const Findings& findings) {
                     {"name", finding.rule->name},
                     {"text", finding.text}});
   }
+  Json left_out = Json::array();
+  for (const Report::LeftOut& file : report.left_out) {
+    left_out.push_back({{"file", file.file}, {"count", file.count}});
+  }
   return JsonText({{"schema", 1},
-                   {"errors", Count(findings, Severity::kError)},
-                   {"warnings", Count(findings, Severity::kWarning)},
-                   {"findings", list}});
+                   {"errors", report.errors},
+                   {"warnings", report.warnings},
+                   {"findings", list},
+                   {"left_out", left_out}});
 }
 
-std::string SarifReport(const Findings& findings) {
+std::string SarifReport(const Report& report) {
   Json results = Json::array();
-  for (const Finding& finding : findings) {
+  for (const Finding& finding : report.findings) {
     results.push_back(SarifResult(finding));
   }
   const Json driver = {{"name", "velmo-help"},
@@ -114,15 +147,20 @@ std::string SarifReport(const Findings& findings) {
                        {"rules", SarifRules()}};
   const Json run = {{"tool", {{"driver", driver}}},
                     {"columnKind", "unicodeCodePoints"},
+                    {"invocations", Json::array({SarifInvocation(report)})},
                     {"results", results}};
   return JsonText({{"$schema", kSarifSchema},
                    {"version", "2.1.0"},
                    {"runs", Json::array({run})}});
 }
 
-std::string Summary(const Findings& findings) {
-  return Counted(Count(findings, Severity::kError), "error") + ", " +
-         Counted(Count(findings, Severity::kWarning), "warning");
+std::string Summary(const Report& report) {
+  std::string text;
+  for (const Report::LeftOut& left_out : report.left_out) {
+    text += TextOf(left_out) + "\n";
+  }
+  return text + Counted(report.errors, "error") + ", " +
+         Counted(report.warnings, "warning");
 }
 
 }  // namespace velmohelp::tool

@@ -37,7 +37,7 @@ _velmo_help() {
     display | open | search) options="$common $host --verbose" ;;
     status) options="$common $host" ;;
     check) options="$common --format --ids --locales --against --baseline \
---without" ;;
+--all --without" ;;
     new) options="$common $config" ;;
     import) options="$common $config --product --content --home --prefix \
 --on-collision --verbose" ;;

@@ -87,6 +87,7 @@ int Run(Options options, const Console& console) {
   if (options.folder.empty()) options.folder = options.config.product;
   const auto files = FilesOf(options);
   for (const NewFile& file : files) {
+    ExpectBelow(options.folder, file.path);
     ExpectWritable(file.path, options.overwrite);
   }
   nlohmann::ordered_json written = nlohmann::json::array();

@@ -4,11 +4,11 @@
 #include "platform/locations.h"
 #include "tools/command_line.h"
 #include "tools/commands.h"
+#include "tools/explain/new_file.h"
 #include "tools/explain/privacy.h"
 #include "tools/explain/report.h"
 #include "tools/explain/request_machine.h"
 #include "tools/explain/status.h"
-#include "tools/files.h"
 #include "tools/json.h"
 
 namespace velmohelp::tool {

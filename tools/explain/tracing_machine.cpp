@@ -46,13 +46,13 @@ std::optional<std::string> TracingMachine::Add(
 }
 
 /// A helper that is asked why writes a line, perhaps an empty one. One that is
-/// late has been ended.
-std::string TracingMachine::AskWhy(const char* helper,
-                                   const std::string& about) {
+/// late has been ended, which gives the reason late.
+std::string TracingMachine::AskWhy(const char* helper, const std::string& about,
+                                   const char* late) {
   const auto line =
       machine().FirstOutput(helper_folder_ + "/" + helper, {"--why", about});
   if (!line) return "";
-  return line->empty() ? "no answer in time" : FirstLine(*line);
+  return line->empty() ? late : FirstLine(*line);
 }
 
 std::optional<FileEntry> TracingMachine::FindFile(const std::string& path) {
@@ -121,7 +121,11 @@ std::optional<Reachability> TracingMachine::HostReachability(
   const auto answer = machine().HostReachability(host);
   const bool ok = answer && answer->reachable && !answer->connection_required;
   Step& step = Add("HostReachability", {host.value_or("")}, ok, TextOf(answer));
-  if (!ok && host) step.reason = AskWhy("velmohelp-reach", *host);
+  if (!ok && host) {
+    // Only the look-up of the name takes time.
+    step.reason =
+        AskWhy("velmohelp-reach", *host, "the name server does not answer");
+  }
   return answer;
 }
 
@@ -137,7 +141,9 @@ bool TracingMachine::FetchText(const std::string& url,
                                std::chrono::milliseconds timeout) {
   const bool is_text = machine().FetchText(url, timeout);
   Step& step = Add("FetchText", {url}, is_text, YesOrNo(is_text));
-  if (!is_text) step.reason = AskWhy("velmohelp-fetch", url);
+  if (!is_text) {
+    step.reason = AskWhy("velmohelp-fetch", url, "no answer in time");
+  }
   return is_text;
 }
 

@@ -46,7 +46,8 @@ class TracingMachine : public ForwardingMachine {
   Step& Add(const char* verb, Arguments arguments, bool ok, std::string answer);
   std::optional<std::string> Add(const char* verb, Arguments arguments,
                                  std::optional<std::string> answer);
-  std::string AskWhy(const char* helper, const std::string& about);
+  std::string AskWhy(const char* helper, const std::string& about,
+                     const char* late);
 
   std::string helper_folder_;
   Trail& trail_;

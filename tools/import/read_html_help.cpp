@@ -1,10 +1,12 @@
 #include <algorithm>
 #include <map>
 #include <optional>
+#include <set>
 
 #include "tools/files.h"
 #include "tools/import/readers.h"
 #include "tools/lines.h"
+#include "tools/printable.h"
 
 namespace velmohelp::tool {
 namespace {
@@ -73,6 +75,7 @@ class Project {
  public:
   explicit Project(const std::filesystem::path& file)
       : folder_(std::filesystem::weakly_canonical(file).parent_path()) {
+    read_.emplace(std::filesystem::weakly_canonical(file), Section::kMap);
     Read(file, Section::kMap, 0);
   }
 
@@ -88,7 +91,7 @@ class Project {
   }
 
  private:
-  /// A file that includes itself ends here.
+  /// Each file that is being read takes a part of the stack.
   static constexpr int kDeepestInclude = 16;
 
   void Read(const std::filesystem::path& file, Section section, int depth) {
@@ -133,8 +136,9 @@ class Project {
     if (name.size() > 2 && (name.front() == '"' || name.front() == '<')) {
       name = name.substr(1, name.size() - 2);
     }
-    const auto file =
-        std::filesystem::weakly_canonical(folder_ / ForwardSlashes(name));
+    std::error_code error;
+    const auto file = std::filesystem::weakly_canonical(
+        folder_ / ForwardSlashes(name), error);
     if (depth == kDeepestInclude || !IsInside(file)) {
       table_.remarks.push_back(
           {line,
@@ -142,11 +146,14 @@ class Project {
            "deep; skipped"});
       return;
     }
-    if (!std::filesystem::exists(file)) {
-      table_.remarks.push_back({line, "there is no file " + file.string()});
+    if (!std::filesystem::exists(file, error)) {
+      table_.remarks.push_back(
+          {line, "there is no file " + Printable(file.string())});
       return;
     }
-    Read(file, section, depth + 1);
+    // A second time has nothing new; a few files that include each other often
+    // would be read forever.
+    if (read_.emplace(file, section).second) Read(file, section, depth + 1);
   }
 
   bool IsInside(const std::filesystem::path& file) const {
@@ -168,6 +175,7 @@ class Project {
   }
 
   std::filesystem::path folder_;
+  std::set<std::pair<std::filesystem::path, Section>> read_;
   std::map<std::string, std::string, std::less<>> numbers_;
   std::vector<Alias> aliases_;
   IdTable table_;

@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include "tools/files.h"
 #include "tools/import/readers.h"
 
 namespace velmohelp::tool {
@@ -55,6 +56,19 @@ Statement Prepare(sqlite3* database, const char* query) {
   return Statement(prepared);
 }
 
+/// Both must be tables: a view could give rows without an end.
+void ExpectTables(sqlite3* database) {
+  const Statement tables =
+      Prepare(database,
+              "SELECT 1 FROM sqlite_master WHERE type = 'table' AND "
+              "rootpage > 0 AND name IN ('IndexTable', 'FileNameTable')");
+  int count = 0;
+  while (sqlite3_step(tables.get()) == SQLITE_ROW) ++count;
+  if (count != 2) {
+    throw ImportError("not a compressed help file: no table of keywords");
+  }
+}
+
 std::string TextOf(sqlite3_stmt* row, int column) {
   const void* text = sqlite3_column_blob(row, column);
   const auto size = static_cast<std::size_t>(sqlite3_column_bytes(row, column));
@@ -71,7 +85,9 @@ IdRow RowOf(sqlite3_stmt* row) {
 }  // namespace
 
 IdTable ReadQtCompressedHelp(const std::filesystem::path& file) {
+  ExpectRegular(file);
   const Database database = Open(file);
+  ExpectTables(database.get());
   const Statement rows =
       Prepare(database.get(),
               "SELECT Identifier, FileNameTable.Name, Anchor FROM IndexTable "

@@ -2,11 +2,13 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <nlohmann/json.hpp>
 
 #include "tests/support/temporary_directory.h"
 #include "tests/tools/run_tool.h"
 #include "tools/check/progress.h"
+#include "tools/check/report.h"
 #include "tools/check/rules.h"
 #include "util/input_file.h"
 
@@ -120,6 +122,57 @@ TEST_F(CheckCommand, PrintsSarif) {
   EXPECT_TRUE(uri.ends_with("/a%20b/helpmap.txt"));
   EXPECT_EQ(place["region"]["startLine"], 2);
   EXPECT_EQ(place["region"]["startColumn"], 1);
+}
+
+/// A map of so many lines without a tab.
+std::string SkippedLines(std::size_t count) {
+  std::string text = "VX_HOME\tb.html\n";
+  for (std::size_t i = 0; i < count; ++i) text += "x\n";
+  return text;
+}
+
+std::size_t LinesOf(const std::string& text) {
+  return static_cast<std::size_t>(std::ranges::count(text, '\n'));
+}
+
+TEST_F(CheckCommand, PrintsAsManyFindingsOfAFileAsItMay) {
+  AddFolder("a", SkippedLines(tool::kMostOfAFile));
+  const ToolRun run = Check();
+  EXPECT_EQ(LinesOf(run.out), tool::kMostOfAFile);
+  EXPECT_EQ(run.err, "0 errors, 1000 warnings\n");
+  EXPECT_EQ(Json::parse(Check({"--json"}).out)["left_out"], Json::array());
+}
+
+TEST_F(CheckCommand, CountsTheFindingsOfAFileThatItDoesNotPrint) {
+  AddFolder("a/x", SkippedLines(tool::kMostOfAFile + 2));
+  AddFolder("a/y", SkippedLines(1));
+  const std::string file = folder_ / "a/x/helpmap.txt";
+  const ToolRun run = Check();
+  EXPECT_EQ(run.status, 1);
+  EXPECT_EQ(LinesOf(run.out), tool::kMostOfAFile + 1) << "the other file's too";
+  EXPECT_EQ(run.err, file +
+                         ": 2 more findings; --all prints all\n"
+                         "0 errors, 1003 warnings\n");
+  const Json report = Json::parse(Check({"--json"}).out);
+  EXPECT_EQ(report["findings"].size(), tool::kMostOfAFile + 1);
+  EXPECT_EQ(report["warnings"], tool::kMostOfAFile + 3);
+  EXPECT_EQ(report["left_out"], Json({{{"file", file}, {"count", 2}}}));
+  const Json log = Json::parse(Check({"--format", "sarif"}).out);
+  const Json& run_of_log = log["runs"][0];
+  EXPECT_EQ(run_of_log["results"].size(), tool::kMostOfAFile + 1);
+  EXPECT_THAT(run_of_log["invocations"][0]["toolExecutionNotifications"][0]
+                        ["message"]["text"]
+                            .get<std::string>(),
+              HasSubstr("2 more findings"));
+}
+
+TEST_F(CheckCommand, PrintsAllFindingsWhenAsked) {
+  AddFolder("a", SkippedLines(tool::kMostOfAFile + 2));
+  const ToolRun run = Check({"--all"});
+  EXPECT_EQ(LinesOf(run.out), tool::kMostOfAFile + 2);
+  EXPECT_EQ(run.err, "0 errors, 1002 warnings\n");
+  const std::string known = folder_.Write("known.txt", run.out);
+  EXPECT_EQ(Check({"--baseline", known}).status, 0);
 }
 
 TEST_F(CheckCommand, LeavesOutFindingsByName) {

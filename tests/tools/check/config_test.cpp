@@ -7,6 +7,7 @@
 #include "tests/support/temporary_directory.h"
 #include "tests/tools/check/findings.h"
 #include "tools/check/check_config.h"
+#include "util/input_file.h"
 
 namespace velmohelp::tool {
 namespace {
@@ -245,6 +246,24 @@ INSTANTIATE_TEST_SUITE_P(
                              "e_Fo",
                              {"1:8 id-mismatch"}}),
     testing::SentenceOf());
+
+Findings FindInConfigOfSize(std::size_t size) {
+  const TemporaryDirectory folder;
+  std::string text =
+      "<h id=\"en_US_Foo\" path=\"p\" baseUrl=\"https://h/\" "
+      "appId=\"klh\">\n<c path=\"d\" contextSensitivity=\"yes\"/></h>";
+  text.resize(size, '\n');
+  Findings findings;
+  CheckConfig(folder.Write("help/en_US/Foo.helpcfg", text), findings);
+  return findings;
+}
+
+TEST(ConfigFile, AboveTheLimitIsUnreadableAndOneOfItIsNot) {
+  EXPECT_THAT(PlacesOf(FindInConfigOfSize(kSettingsFileLimit)),
+              ::testing::IsEmpty());
+  EXPECT_THAT(PlacesOf(FindInConfigOfSize(kSettingsFileLimit + 1)),
+              ::testing::ElementsAre("1:1 unreadable"));
+}
 
 TEST(ConfigFile, ThatIsAFolderIsUnreadable) {
   const TemporaryDirectory folder;

@@ -25,6 +25,25 @@ struct Content {
 
 void PrintTo(const Content& row, std::ostream* out) { *out << row.sentence; }
 
+std::string Repeated(const std::string& text, int times) {
+  std::string all;
+  for (int i = 0; i < times; ++i) all += text;
+  return all;
+}
+
+/// A page with a title, of so many bytes.
+std::string PageOfSize(std::size_t size) {
+  std::string text = kPage;
+  text.resize(size, 'x');
+  return text;
+}
+
+/// A page with a title, nested so deeply.
+std::string PageOfDepth(int depth) {
+  std::string text = kPage;
+  return text.append(Repeated("<div>", depth));
+}
+
 class Pages : public ::testing::TestWithParam<Content> {};
 
 Findings FindIn(const TemporaryDirectory& folder) {
@@ -120,6 +139,22 @@ INSTANTIATE_TEST_SUITE_P(
                 {{"b.html", "<svg><title>t</title></svg>"}},
                 "a\tb.html\n",
                 {"1:1 no-title"}},
+        Content{"a page as large as is checked",
+                {{"b.html", PageOfSize(kHtmlPageLimit)}},
+                "a\tb.html\n",
+                {}},
+        Content{"a page that is larger",
+                {{"b.html", PageOfSize(kHtmlPageLimit + 1)}},
+                "a\tb.html\n",
+                {"1:1 unchecked-page"}},
+        Content{"a page nested as deeply as is checked",
+                {{"b.html", PageOfDepth(512)}},
+                "a\tb.html\n",
+                {}},
+        Content{"a page that is nested deeper",
+                {{"b.html", PageOfDepth(513)}},
+                "a\tb.html\n",
+                {"1:1 unchecked-page"}},
         Content{"a page that no entry reaches",
                 {{"b.html", kPage}, {"c.htm", kPage}},
                 "a\tb.html\n",
@@ -144,10 +179,16 @@ TEST(ListedPages, OfALinkThatLeadsUpAreListedOnce) {
               ::testing::ElementsAre("1:3 missing-page", "1:1 unreached-page"));
 }
 
-std::string Repeated(const std::string& text, int times) {
-  std::string all;
-  for (int i = 0; i < times; ++i) all += text;
-  return all;
+/// The link is there and leads to a file: each read of it fails.
+TEST(APageThatCannotBeRead, IsFoundAndOneThatCanIsNot) {
+  const TemporaryDirectory folder;
+  folder.Write("helpmap.txt", "a\tb.html\n");
+  std::filesystem::create_symlink("/proc/self/mem", folder / "b.html");
+  EXPECT_THAT(PlacesOf(FindIn(folder)),
+              ::testing::ElementsAre("1:1 unreadable"));
+  std::filesystem::remove(folder / "b.html");
+  std::filesystem::create_symlink(folder.Write("c", kPage), folder / "b.html");
+  EXPECT_THAT(PlacesOf(FindIn(folder)), ::testing::IsEmpty());
 }
 
 TEST(HtmlPage, NestedDeeplyIsNotParsed) {
