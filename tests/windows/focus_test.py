@@ -12,7 +12,7 @@ sys.path.insert(0, os.path.join(SOURCE, "tests/python"))
 
 from screen import missing  # noqa: E402
 from velmohelp import Client, DisplayPageReturnCode  # noqa: E402
-from wayland import Compositor, Window  # noqa: E402
+from wayland import CannotStart, Compositor, Window  # noqa: E402
 from world import World  # noqa: E402
 
 SUCCESS = DisplayPageReturnCode.SUCCESS
@@ -24,6 +24,14 @@ def display(client, token):
 
 def start(client, token):
     return client.start_display("intro", activation_token=token).finish()
+
+
+def why_no_compositor():
+    try:
+        Compositor().close()
+    except CannotStart as reason:
+        return str(reason)
+    return ""
 
 
 class Focus(unittest.TestCase):
@@ -82,8 +90,10 @@ class Focus(unittest.TestCase):
 
 if __name__ == "__main__":
     absent = missing("sway", "swaymsg", "unshare")
-    if absent:
+    reason = ", ".join(absent) + " is not installed" if absent else \
+        why_no_compositor()
+    if reason:
         print("focus_test: Skipped")
-        print(", ".join(absent), "is not installed")
+        print(reason)
         sys.exit(77)
     unittest.main()
