@@ -73,10 +73,13 @@ class World:
         return f"{self.host}.resources/help/{locale}/{self.product}.helpcfg"
 
     def configure(self, text=None, locale="en_US"):
-        self.write(self.config(locale), text or (
+        self.write(self.config(locale), text or self.configuration(locale))
+
+    def configuration(self, locale="en_US"):
+        return (
             f'<help id="{locale}_{self.product}" path="{self.product}/Cfg"'
             ' appId="reader" pubId="VELMO.1" baseUrl="http://localhost:9/">\n'
-            '  <content path="manual" contextSensitivity="yes"/>\n</help>\n'))
+            '  <content path="manual" contextSensitivity="yes"/>\n</help>\n')
 
     def add_page(self, name):
         return self.write(f"{self.content}/{name}.html", "<p>A page</p>")

@@ -144,7 +144,9 @@ INSTANTIATE_TEST_SUITE_P(
         Row{"a benchmark with a word for the rounds",
             "bench/run --rounds many"},
         Row{"a benchmark without the file for its figures", "bench/run --json"},
-        Row{"a word for the Unicode benchmark", "bench/run unicode nothing"}),
+        Row{"a word for the Unicode benchmark", "bench/run unicode nothing"},
+        Row{"a loop with a word for the requests",
+            "bench/loop/run --starts many"}),
     testing::SentenceOf());
 
 }  // namespace

@@ -2,6 +2,7 @@
 #include "tests/support/namespaces.h"
 #include "tests/system/name_server.h"
 #include "tests/system/own_machine_world.h"
+#include "tests/system/worker_gate.h"
 
 namespace velmohelp::testing {
 namespace {
@@ -98,19 +99,55 @@ INSTANTIATE_TEST_SUITE_P(
                 "", Cable("mode dormant up"), kOffline}),
     SentenceOf());
 
-/// The person at the keyboard waits for seconds, not for the minutes that the
-/// name service takes here: its helper has been ended.
-TEST_F(OwnMachine, IsOfflineWithADeadNameServer) {
-  Put("hosts", "127.0.0.1 localhost\n");
-  Put("resolv.conf", "nameserver 127.0.0.1\noptions timeout:30 attempts:5\n");
-  world_.SetUserPreference("0");
-  Start(NameServer(NameAnswer::kNothing));
-  world_.SetUserPreference("1");
-  EXPECT_EQ(world_.Ask({"status"}), kOffline);
-  for (const pid_t program : world_.Programs()) {
-    // Returns only when the helper that asked has been ended.
-    if (ProgramOf(program).ends_with("velmohelp-reach")) AwaitEnd(program);
+/// A machine whose name servers are silent. The name service asks them for
+/// longer than a test may take.
+class ADeadNameServer : public OwnMachine {
+ protected:
+  void Begin() {
+    std::string resolver = "options timeout:30 attempts:5\n";
+    for (int i = 0; i < 3; ++i) resolver += kHere;
+    Put("resolv.conf", resolver);
+    world_.SetUserPreference("0");
+    Start(NameServer(NameAnswer::kNothing));
+    world_.SetUserPreference("1");
   }
+
+  /// The person at the keyboard waits for seconds, not for the minutes that the
+  /// name service takes here: its helper has been ended.
+  void ExpectNoLookup() {
+    for (const pid_t program : world_.Programs()) {
+      // Returns only when the helper that asked has been ended.
+      if (ProgramOf(program).ends_with("velmohelp-reach")) AwaitEnd(program);
+    }
+  }
+};
+
+TEST_F(ADeadNameServer, MeansThatTheMachineIsOffline) {
+  Put("hosts", "127.0.0.1 localhost\n");
+  Begin();
+  EXPECT_EQ(world_.Ask({"status"}), kOffline);
+  ExpectNoLookup();
+}
+
+/// A window's loop runs while the lookup has not even begun. The time limit is
+/// the library's own.
+TEST_F(ADeadNameServer, LeavesAHostThatDoesNotWaitFree) {
+  // The helper program has this build's places, where localhost is the server.
+  std::filesystem::copy_file(VELMO_TEST_LIBRARY, world_.start().plug_in,
+                             std::filesystem::copy_options::overwrite_existing);
+  Put("hosts", "");
+  world_.Write("{installed}/intro.html", "<p>");
+  const WorkerGate gate(world_);
+  Begin();
+  const std::string descriptor = world_.Ask({"start display", "intro"});
+  EXPECT_EQ(world_.Ask({"version"}), "66816");
+  EXPECT_EQ(world_.Ask({"is readable", descriptor}), "no");
+  gate.Open();
+  EXPECT_EQ(world_.Ask({"await", descriptor}), "readable");
+  EXPECT_EQ(world_.Ask({"finish", descriptor}), "0");
+  ExpectNoLookup();
+  EXPECT_EQ(world_.Started(),
+            world_.Expanded(Viewer("HELP", "\"{url:installed}/intro.html\"")));
 }
 
 /// Help that is on the machine is shown all the same.

@@ -7,6 +7,7 @@
 
 #include "tests/support/start_facts.h"
 #include "tests/system/routes.h"
+#include "tests/system/worker_gate.h"
 
 namespace velmohelp::testing {
 namespace {
@@ -204,6 +205,71 @@ TEST_F(WithAToolThatNeverEnds, DoNotOutliveTheHost) {
   world_.EndHost();
   AwaitEnd(tool_);
 }
+
+/// Each kind of request, in the viewer, whose tool it asks first.
+struct Kind {
+  const char* sentence;
+  Words request;
+  Words started;
+};
+
+void PrintTo(const Kind& row, std::ostream* out) { *out << row.sentence; }
+
+class EachStartedKind : public StartedRequests,
+                        public ::testing::WithParamInterface<Kind> {
+ protected:
+  void SetUp() override { kPage(world_); }
+  void Cancel(const std::string& descriptor) {
+    EXPECT_EQ(world_.Ask({"cancel", descriptor}), "closed");
+  }
+};
+
+/// The tool hangs: without an end the helper would.
+TEST_P(EachStartedKind, CanBeCancelledBeforeItsHelperRuns) {
+  world_.CopyLibrary();
+  const WorkerGate gate(world_);
+  ASSERT_TRUE(world_.Initialise());
+  HangTool();
+  Cancel(Start(GetParam().request));
+  gate.Open();
+  AwaitEndOfPrograms();
+  EXPECT_EQ(world_.Started(), Nothing());
+}
+
+TEST_P(EachStartedKind, CanBeCancelledWhileItsHelperRuns) {
+  ASSERT_TRUE(world_.Initialise());
+  HangTool();
+  const std::string descriptor = Start(GetParam().request);
+  const pid_t tool = AwaitTool();
+  Cancel(descriptor);
+  AwaitEnd(tool);
+  AwaitEndOfPrograms();
+}
+
+TEST_P(EachStartedKind, KeepsWhatItHasStartedWhenCancelledWithItsResult) {
+  ASSERT_TRUE(world_.Initialise());
+  const std::string descriptor = Start(GetParam().request);
+  EXPECT_EQ(world_.Ask({"await", descriptor}), "readable");
+  Cancel(descriptor);
+  EXPECT_EQ(world_.Started(), world_.Expanded(GetParam().started));
+}
+
+/// The number may by then be that of a file of the host's.
+TEST_P(EachStartedKind, LeavesNothingToCancelAfterItsFinish) {
+  ASSERT_TRUE(world_.Initialise());
+  const std::string descriptor = Start(GetParam().request);
+  EXPECT_EQ(Finish(descriptor), "0");
+  EXPECT_EQ(world_.Ask({"cancel", descriptor}), "not open");
+  EXPECT_EQ(world_.Started(), world_.Expanded(GetParam().started));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, EachStartedKind,
+    ::testing::Values(Kind{"a display", Display("intro"), kInViewer},
+                      Kind{"a URL", Open("http://localhost/"),
+                           Viewer("URL", "\"http://localhost/\"")},
+                      Kind{"a search", Search("a"), Viewer("SEARCH", "a")}),
+    SentenceOf());
 
 /// Whatever the helper program has come to by then.
 TEST_F(StartedRequests, CanBeCancelledAtEveryMoment) {

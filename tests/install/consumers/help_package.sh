@@ -1,7 +1,8 @@
 #!/bin/sh
 # help_package.sh SKETCH FOLDER: builds the Debian package of help that is in the
 # folder SKETCH, from a copy below FOLDER, which is deleted first, and looks for
-# the pages where the client does. velmo-help is in the PATH.
+# the pages where the client does. velmo-help is in the PATH, velmohelp.pc in the
+# PKG_CONFIG_PATH.
 set -eu
 rm -rf "$2"
 mkdir -p "$2"
@@ -12,7 +13,7 @@ cd "$2/sketch"
 dpkg-buildpackage -b -us -uc -d >../log 2>&1 || { cat ../log >&2; exit 1; }
 cd ..
 dpkg-deb -x sketch-help_*_all.deb root
-installed="root/Library/Application Support/Velmo/Help/Sketch/en_US"
+installed="root$(pkg-config --variable=helpdir velmohelp)/Sketch/en_US"
 cut -f 2 "$installed/helpmap.txt" | cut -d '#' -f 1 | while read -r page; do
   [ -f "$installed/$page" ] || { echo "No $page" >&2; exit 1; }
 done
