@@ -1,3 +1,5 @@
+#include <velmohelp/velmohelp.h>
+
 #include <algorithm>
 #include <filesystem>
 #include <vector>

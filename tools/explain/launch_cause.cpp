@@ -1,4 +1,6 @@
 // Programs that do not start, and pages that they cannot show.
+#include <velmohelp/velmohelp.h>
+
 #include "resolve/page_id.h"
 #include "tools/explain/cause_parts.h"
 #include "tools/explain/file_facts.h"

@@ -1,4 +1,6 @@
 // A page that was not found.
+#include <velmohelp/velmohelp.h>
+
 #include <algorithm>
 #include <filesystem>
 

@@ -6,7 +6,7 @@
 #include <optional>
 #include <string>
 
-#include "tools/explain/own_state.h"
+#include "client/client_variables.h"
 #include "tools/explain/trail.h"
 
 namespace velmohelp::tool {
@@ -57,7 +57,7 @@ struct Run {
   /// Where the request begins in the trail, after the initialisation.
   std::size_t first = 0;
   std::optional<Start> start = {};
-  OwnState variables = {};
+  ClientVariables variables = {};
 };
 
 /// Initialises a client, as hosts do at their start, and makes the request.
