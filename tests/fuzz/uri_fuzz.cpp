@@ -12,6 +12,7 @@ namespace velmohelp::testing {
 
 void Check(Input input) {
   const std::string text = input.Rest();
+  Same(IsHierarchical(text), OracleIsHierarchical(text));
   Same(PathOfUri(text), OracleUriPath(text));
   Same(HostOfUri(text), OracleUriHost(text));
   Same(Unescaped(text), OracleUnescaped(text));
