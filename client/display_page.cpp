@@ -93,19 +93,17 @@ DisplayPageReturnCode ShowLocalTarget(const Client& client, const char* page_id,
   return ShowTarget(client, page_id, JoinPath("file://", encoded));
 }
 
-bool FindPage(const Client& client, FetchBudget& budget, const std::string& id,
-              std::string& target) {
-  return FindPageTarget(client.machine, budget,
-                        ContentView(client.state, client.observer), id,
-                        client.state.is_online, client.state.help_map, target);
-}
-
 /// The page, or the home page in its place.
 bool FindPageOrHome(const Client& client, const std::string& id,
                     std::string& target) {
   FetchBudget budget;
-  if (FindPage(client, budget, id, target)) return true;
-  return id != kHomePage && FindPage(client, budget, kHomePage, target);
+  const PageSearch search{.machine = client.machine,
+                          .budget = budget,
+                          .content = ContentView(client.state, client.observer),
+                          .wants_urls = client.state.is_online,
+                          .help_map = client.state.help_map};
+  if (FindPageTarget(search, id, target)) return true;
+  return id != kHomePage && FindPageTarget(search, kHomePage, target);
 }
 
 /// Refreshes what the choice between viewer and browser depends on.

@@ -11,10 +11,21 @@
 namespace velmohelp {
 
 /// Runs a call that uses neither the machine nor the state: good at any time.
+/// A cancellation that came meanwhile takes effect when the call's exception is
+/// no longer in flight: a thread that unwinds from a destructor during another
+/// unwinding ends the host.
 template <typename Request>
 std::invoke_result_t<Request> Uncancelled(Request request) {
-  const CancellationDisabled cancellation_disabled;
-  return request();
+  std::exception_ptr thrown;
+  {
+    const CancellationDisabled cancellation_disabled;
+    try {
+      return request();
+    } catch (const std::exception&) {
+      thrown = std::current_exception();
+    }
+  }
+  std::rethrow_exception(thrown);
 }
 
 /// Runs a call that uses the machine or the state. Returns refused when the
@@ -23,16 +34,18 @@ template <typename Request>
 std::invoke_result_t<Request> WithState(
     const std::type_identity_t<std::invoke_result_t<Request>>& refused,
     Request request) {
-  const CancellationDisabled cancellation_disabled;
-  const StateUse use;
-  return use.is_allowed() ? request() : refused;
+  return Uncancelled([&] {
+    const StateUse use;
+    return use.is_allowed() ? request() : refused;
+  });
 }
 
 template <typename Request>
 void WithState(Request request) {
-  const CancellationDisabled cancellation_disabled;
-  const StateUse use;
-  if (use.is_allowed()) request();
+  Uncancelled([&] {
+    const StateUse use;
+    if (use.is_allowed()) request();
+  });
 }
 
 /// What request returns, or failure when it throws: an exception must not

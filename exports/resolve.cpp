@@ -2,6 +2,7 @@
 
 #include "exports/guarded.h"
 #include "exports/this_client.h"
+#include "platform/files.h"
 #include "resolve/help_map/help_map.h"
 #include "resolve/page_id.h"
 #include "resolve/page_target.h"
@@ -39,11 +40,13 @@ void NormalizePageID(std::string& id) {
 unsigned char ValidateID(std::string pageId, bool online, std::string& out) {
   return WithState(kTargetNotFound, [&] {
     FetchBudget budget;
-    return velmohelp::FindPageTarget(ThisMachine(), budget,
-                                     ContentView(ThisState()), pageId, online,
-                                     ThisState().help_map, out)
-               ? kTargetFound
-               : kTargetNotFound;
+    const velmohelp::PageSearch search{.machine = ThisMachine(),
+                                       .budget = budget,
+                                       .content = ContentView(ThisState()),
+                                       .wants_urls = online,
+                                       .help_map = ThisState().help_map};
+    return velmohelp::FindPageTarget(search, pageId, out) ? kTargetFound
+                                                          : kTargetNotFound;
   });
 }
 
@@ -66,8 +69,9 @@ bool isUrl(std::string text) {
 
 bool ValidateURL(std::string target, bool fetch) {
   return WithState(false, [&] {
+    if (!fetch) return velmohelp::FileExists(ThisMachine(), target);
     FetchBudget budget;
-    return velmohelp::ValidateUrl(ThisMachine(), budget, target, fetch);
+    return velmohelp::CanLoadText(ThisMachine(), budget, target);
   });
 }
 

@@ -3,7 +3,6 @@
 #define RESOLVE_PAGE_TARGET_H_
 
 #include <string>
-#include <string_view>
 
 #include "platform/machine.h"
 #include "resolve/content_folders.h"
@@ -12,14 +11,23 @@
 
 namespace velmohelp {
 
-/// Finds the target of a normalised page id. online chooses between URLs below
-/// the base URL and local paths. On success out is the target, otherwise the
-/// page id. help_map: becomes the help map that the search read last; stays as
-/// it is when the search read none. Throws std::ios_base::failure when a help
-/// map breaks while it is read.
-bool FindPageTarget(Machine& machine, FetchBudget& budget,
-                    const HelpContent& content, const std::string& page_id,
-                    bool online, HelpMap& help_map, std::string& out);
+/// Where a request looks for pages.
+struct PageSearch {
+  Machine& machine;
+  FetchBudget& budget;
+  HelpContent content;
+  /// Targets are URLs below the base URL, otherwise local paths.
+  bool wants_urls;
+  /// Becomes the help map that a search read last; stays as it is when the
+  /// search read none.
+  HelpMap& help_map;
+};
+
+/// Finds the target of a normalised page id. On success target is what was
+/// found, otherwise the page id. Throws std::ios_base::failure when a help map
+/// breaks while it is read.
+bool FindPageTarget(const PageSearch& search, const std::string& page_id,
+                    std::string& target);
 
 }  // namespace velmohelp
 

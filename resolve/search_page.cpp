@@ -1,5 +1,6 @@
 #include "resolve/search_page.h"
 
+#include "platform/files.h"
 #include "resolve/url_check.h"
 #include "util/str_cat.h"
 
@@ -10,7 +11,8 @@ std::optional<std::string> FindSearchPage(Machine& machine, FetchBudget& budget,
   std::string page;
   const auto accept = [&](const std::string& root, const std::string& name) {
     page = StrCat({root, name, "/search.html"});
-    const bool accepted = ValidateUrl(machine, budget, page, content.is_online);
+    const bool accepted = content.is_online ? CanLoadText(machine, budget, page)
+                                            : FileExists(machine, page);
     if (content.observer != nullptr) {
       content.observer->OnContentFolder(root + name, accepted, page);
     }

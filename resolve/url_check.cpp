@@ -1,13 +1,11 @@
 #include "resolve/url_check.h"
 
-#include "platform/files.h"
 #include "util/uri.h"
 
 namespace velmohelp {
 
-bool ValidateUrl(Machine& machine, FetchBudget& budget,
-                 const std::string& target, bool fetch) {
-  if (!fetch) return FileExists(machine, target);
+bool CanLoadText(Machine& machine, FetchBudget& budget,
+                 const std::string& target) {
   const auto uri = UriOf(target);
   return uri && budget.FetchText(machine, *uri);
 }

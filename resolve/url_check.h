@@ -1,4 +1,4 @@
-// Whether a target can be shown.
+// Whether a URL leads to a page.
 #ifndef RESOLVE_URL_CHECK_H_
 #define RESOLVE_URL_CHECK_H_
 
@@ -9,11 +9,10 @@
 
 namespace velmohelp {
 
-/// fetch: target is a URI, and a text could be loaded from it, whole, within
-/// the request's budget; blocks meanwhile. Otherwise: something exists at the
-/// path target.
-bool ValidateUrl(Machine& machine, FetchBudget& budget,
-                 const std::string& target, bool fetch);
+/// target is a URI, and a text could be loaded from it, whole, within the
+/// request's budget. Blocks meanwhile. FileExists is the check of a local path.
+bool CanLoadText(Machine& machine, FetchBudget& budget,
+                 const std::string& target);
 
 }  // namespace velmohelp
 

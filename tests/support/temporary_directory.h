@@ -68,6 +68,24 @@ class TemporaryDirectory {
   std::string path_ = "/tmp/velmo test XXXXXX";
 };
 
+/// The process works in another directory until the object ends. Tests that
+/// follow in the same process start programs, which may need one that exists.
+class WorkingDirectory {
+ public:
+  explicit WorkingDirectory(const std::string& path) {
+    std::filesystem::current_path(path);
+  }
+  ~WorkingDirectory() {
+    std::error_code ignored;
+    std::filesystem::current_path(previous_, ignored);
+  }
+  WorkingDirectory(const WorkingDirectory&) = delete;
+  WorkingDirectory& operator=(const WorkingDirectory&) = delete;
+
+ private:
+  std::filesystem::path previous_ = std::filesystem::current_path();
+};
+
 }  // namespace velmohelp::testing
 
 #endif  // TESTS_SUPPORT_TEMPORARY_DIRECTORY_H_

@@ -32,6 +32,15 @@ std::string HierarchyOf(const std::string& uri) {
   return has_scheme ? rest.substr(scheme.size() + 1) : rest;
 }
 
+constexpr char kLetters[] =
+    "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz";
+
+bool IsScheme(const std::string& text) {
+  const std::string letters = kLetters;
+  return letters.find(text[0]) != std::string::npos &&
+         text.find_first_not_of(letters + "0123456789+-.") == std::string::npos;
+}
+
 std::string AuthorityOf(const std::string& uri) {
   const std::string rest = HierarchyOf(uri);
   return rest.find("//") == 0 ? Before('/', rest.substr(2)) : "";
@@ -58,6 +67,14 @@ bool OracleIsUri(const std::string& text) {
     if (!IsUriByte(seen[at]) && !IsEscape(seen.substr(at, 3))) return false;
   }
   return !seen.empty();
+}
+
+bool OracleIsHierarchical(const std::string& uri) {
+  const std::string segment = Before('/', Before('?', Before('#', uri)));
+  const std::string scheme = Before(':', segment);
+  const bool has_colon = scheme != segment;
+  if (!has_colon) return true;
+  return !scheme.empty() && IsScheme(scheme) && uri[scheme.size() + 1] == '/';
 }
 
 std::string OracleUriPath(const std::string& uri) {

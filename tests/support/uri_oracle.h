@@ -12,6 +12,7 @@ namespace velmohelp::testing {
 bool OracleIsUri(const std::string& text);
 
 /// See util/uri.h.
+bool OracleIsHierarchical(const std::string& uri);
 std::string OracleUriPath(const std::string& uri);
 std::optional<std::string> OracleUriHost(const std::string& uri);
 std::string OracleUnescaped(const std::string& text);

@@ -200,12 +200,36 @@ void AtTheEnd(int /*status*/, void* /*argument*/) {
 std::atomic<bool> has_returned = false;
 std::atomic<bool> has_gone_on = false;
 
+/// Cancels the thread that reads from it, and breaks.
+class CancellingBuffer : public std::streambuf {
+ protected:
+  int_type underflow() override {
+    pthread_cancel(pthread_self());
+    throw std::ios_base::failure("broken");
+  }
+};
+
+void ReadBrokenLine() {
+  CancellingBuffer buffer;
+  std::ifstream stream;
+  static_cast<std::ios&>(stream).rdbuf(&buffer);
+  std::string line;
+  try {
+    ITEMInternal::GetLine(stream, line);
+  } catch (const std::ios_base::failure&) {
+    return;
+  }
+  Report("thrown", 0);
+}
+
 void* BeCancelled(void* type) {
   int old = 0;
   pthread_setcanceltype(
       type != nullptr ? PTHREAD_CANCEL_ASYNCHRONOUS : PTHREAD_CANCEL_DEFERRED,
       &old);
-  if (mode.find("typed") != std::string_view::npos) {
+  if (mode.find("thrown") != std::string_view::npos) {
+    ReadBrokenLine();
+  } else if (mode.find("typed") != std::string_view::npos) {
     ITEMInternal::IsZAMRuntimePresent();
   } else {
     DisplayVelmoHelpClientPage("intro");
@@ -220,9 +244,11 @@ void Cancel(bool asynchronous) {
   pthread_t thread = {};
   pthread_create(&thread, nullptr, BeCancelled,
                  asynchronous ? &thread : nullptr);
-  AwaitTool();
-  pthread_cancel(thread);
-  ReleaseTool();
+  if (mode.find("thrown") == std::string_view::npos) {
+    AwaitTool();
+    pthread_cancel(thread);
+    ReleaseTool();
+  }
   pthread_join(thread, nullptr);
   Report("returned", has_returned ? 1 : 0);
   Report("went on", has_gone_on ? 1 : 0);

@@ -90,7 +90,14 @@ const std::vector<Row> kEndsDuringACall = {
     {"a thread cancelled asynchronously ends at the end of its call",
      "cancel asynchronous", kCancelledAtItsEnd},
     {"a cancelled thread ends after its typed call", "cancel typed",
-     kCancelledAfterTheCall}};
+     kCancelledAfterTheCall},
+    {"a thread cancelled asynchronously ends at the end of its typed call",
+     "cancel typed asynchronous", kCancelledAtItsEnd},
+    {"a cancelled thread ends after a typed call that throws", "cancel thrown",
+     kCancelledAfterTheCall},
+    {"a thread cancelled asynchronously ends at the end of a typed call that "
+     "throws",
+     "cancel thrown asynchronous", kCancelledAtItsEnd}};
 
 bool HasValgrind() {
   return std::system("valgrind --version >/dev/null 2>&1") == 0;

@@ -8,12 +8,15 @@ import os
 import shutil
 import signal
 import subprocess
+import sys
 import tempfile
 
 import gi
 
+sys.path.insert(0, os.path.join(os.path.dirname(__file__), "../support"))
 gi.require_version("Gio", "2.0")
 from gi.repository import Gio, GLib  # noqa: E402
+from servers import start_session_bus, start_x_server  # noqa: E402
 
 ID = "com.velmo.HelpViewer"
 PATH = "/com/velmo/HelpViewer"
@@ -21,35 +24,6 @@ INTERFACE = "com.velmo.HelpViewer1"
 VIEWER_IDS = "klh.9C3A51F07B26D48E15A0C7F3B9D2E6418A75C0D2.1"
 # Far more than anything takes; only a failure waits so long.
 TIMEOUT_S = int(os.environ.get("VELMO_TEST_TIMEOUT_S", "60"))
-
-BUS_CONFIGURATION = """<!DOCTYPE busconfig PUBLIC
- "-//freedesktop//DTD D-Bus Bus Configuration 1.0//EN"
- "http://www.freedesktop.org/standards/dbus/1.0/busconfig.dtd">
-<busconfig>
-  <type>session</type>
-  <listen>unix:tmpdir=/tmp</listen>
-  <auth>EXTERNAL</auth>
-  <servicedir>SERVICES</servicedir>
-  <policy context="default">
-    <allow send_destination="*" eavesdrop="true"/>
-    <allow eavesdrop="true"/>
-    <allow own="*"/>
-  </policy>
-</busconfig>
-"""
-
-
-def _first_line(process_arguments, **options):
-    """Starts a program that writes its address as its first line to fd 'out'."""
-    read_end, write_end = os.pipe()
-    arguments = [word.replace("FD", str(write_end)) for word in process_arguments]
-    process = subprocess.Popen(arguments, pass_fds=[write_end], **options)
-    os.close(write_end)
-    with os.fdopen(read_end) as stream:
-        line = stream.readline().strip()
-    if not line:
-        raise RuntimeError(f"{arguments[0]} did not start")
-    return process, line
 
 
 class Screen:
@@ -81,12 +55,8 @@ class Screen:
         self.environment.update(environment)
         os.makedirs(self.path("home/.config"))
         os.makedirs(self.path("run"), mode=0o700)
-        # On a busy machine a key stays down for so long that it would repeat.
-        display, number = _first_line(
-            ["Xvfb", "-displayfd", "FD", "-screen", "0", size, "-nolisten",
-             "tcp", "-noreset", "-r"], stderr=subprocess.DEVNULL)
+        display, self.environment["DISPLAY"] = start_x_server(size)
         self._processes.append(display)
-        self.environment["DISPLAY"] = ":" + number
         # Of the services that this machine has, the one for screen readers: any
         # other would be started without the test's knowledge, and some hang.
         name = "org.a11y.Bus.service"
@@ -94,12 +64,8 @@ class Screen:
         if os.path.exists(f"/usr/share/dbus-1/services/{name}"):
             shutil.copy(f"/usr/share/dbus-1/services/{name}",
                         self.path("services"))
-        self.write("bus.conf", BUS_CONFIGURATION.replace(
-            "SERVICES", self.path("services")))
-        bus, address = _first_line(
-            ["dbus-daemon", "--nofork", "--print-address=FD",
-             "--config-file=" + self.path("bus.conf")],
-            env=self.environment, stderr=subprocess.DEVNULL)
+        bus, address = start_session_bus(
+            self.folder, self.path("services"), self.environment)
         self._processes.append(bus)
         self.environment["DBUS_SESSION_BUS_ADDRESS"] = address
         flags = (Gio.DBusConnectionFlags.AUTHENTICATION_CLIENT |

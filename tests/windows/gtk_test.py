@@ -2,7 +2,6 @@
 not built, and the repository's folder."""
 
 import os
-import re
 import signal
 import subprocess
 import sys
@@ -12,31 +11,21 @@ PROGRAM = sys.argv.pop(1)
 SOURCE = sys.argv.pop(1)
 sys.path.insert(0, os.path.join(SOURCE, "tests/python"))
 
-from screen import Screen, missing  # noqa: E402
-from world import World  # noqa: E402
+from screen import Screen  # noqa: E402
+from servers import missing  # noqa: E402
+from widgets import PagesOfWidgets, make_world  # noqa: E402
 
 PATH = "/com/velmo/Drawing/window/1"
-# The widgets in the order of the key that leads to them. A widget's page is that
-# of the nearest parent that has one; "" for none.
-PAGES = [
-    ("the canvas", "drawing-lines"),
-    ("the entry for the width", "drawing-width"),
-    ("the switch, which has none, in the pen", "drawing-pen"),
-    ("the name, which has none anywhere", ""),
-    ("the canvas again", "drawing-lines"),
-]
 
 
-class Window(unittest.TestCase):
+class Window(PagesOfWidgets, unittest.TestCase):
     def setUp(self):
         self.screen = Screen()
         self.addCleanup(self.screen.close)
-        self.world = World("Drawing")
+        self.world = make_world()
         self.addCleanup(self.world.close)
-        self.world.install_viewer(is_installed=False)
-        for page in ("VX_HOME", "drawing-lines", "drawing-width",
-                     "drawing-pen"):
-            self.world.add_page(page)
+        self.press = self.screen.press
+        self.started = self.world.started
         # The resources are found beside the program.
         self.program = self.world.path("bin/sketch")
         os.remove(self.program)
@@ -65,18 +54,7 @@ class Window(unittest.TestCase):
 
     def test_each_widget_has_the_page_of_its_nearest_parent(self):
         self.start()
-        for number, (sentence, page) in enumerate(PAGES):
-            if number > 0:
-                self.screen.press("Tab")
-            with self.subTest(sentence):
-                self.wait_until_help_is(page != "")
-                # Where there is no page, this starts nothing: the next report
-                # is that of the next widget.
-                self.screen.press("F1")
-                if page:
-                    name, token, url = self.world.started()
-                    self.assertEqual(url, self.world.url(page))
-                    self.assertTrue(re.search("_TIME[0-9]+$", token), token)
+        super().test_each_widget_has_the_page_of_its_nearest_parent()
 
     def test_a_window_stays_alive_while_the_tool_hangs(self):
         alive = self.world.path("alive")

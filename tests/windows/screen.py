@@ -7,27 +7,12 @@ happened, and a test that waits in vain is ended by CTest.
 import os
 import shutil
 import subprocess
+import sys
 import tempfile
 
-BUS = """<!DOCTYPE busconfig PUBLIC
- "-//freedesktop//DTD D-Bus Bus Configuration 1.0//EN"
- "http://www.freedesktop.org/standards/dbus/1.0/busconfig.dtd">
-<busconfig>
-  <type>session</type>
-  <listen>unix:tmpdir=/tmp</listen>
-  <auth>EXTERNAL</auth>
-  <policy context="default">
-    <allow send_destination="*" eavesdrop="true"/>
-    <allow eavesdrop="true"/>
-    <allow own="*"/>
-  </policy>
-</busconfig>
-"""
+sys.path.insert(0, os.path.join(os.path.dirname(__file__), "../support"))
 
-
-def missing(*programs):
-    """Those of the programs that are not installed."""
-    return [name for name in programs if shutil.which(name) is None]
+from servers import start_session_bus, start_x_server  # noqa: E402
 
 
 class Screen:
@@ -35,16 +20,11 @@ class Screen:
 
     def __init__(self):
         self.folder = tempfile.mkdtemp(prefix="velmohelp-screen-")
-        self.processes = []
-        number = self._start(["Xvfb", "-displayfd", "FD", "-screen", "0",
-                              "800x700x24", "-nolisten", "tcp", "-noreset"])
-        configuration = os.path.join(self.folder, "bus.conf")
-        with open(configuration, "w", encoding="utf-8") as file:
-            file.write(BUS)
-        address = self._start(["dbus-daemon", "--nofork", "--print-address=FD",
-                               "--config-file=" + configuration])
+        x_server, display = start_x_server("800x700x24")
+        bus, address = start_session_bus(self.folder)
+        self.processes = [bus, x_server]
         self.environment = {
-            "DISPLAY": ":" + number,
+            "DISPLAY": display,
             "DBUS_SESSION_BUS_ADDRESS": address,
             "LANG": "C.UTF-8",
             "XDG_RUNTIME_DIR": self.folder,
@@ -56,21 +36,8 @@ class Screen:
             "QT_ACCESSIBILITY": "0",
         }
 
-    def _start(self, arguments):
-        """Starts a program that writes its address to the descriptor FD."""
-        read_end, write_end = os.pipe()
-        words = [word.replace("FD", str(write_end)) for word in arguments]
-        self.processes.append(subprocess.Popen(
-            words, pass_fds=[write_end], stderr=subprocess.DEVNULL))
-        os.close(write_end)
-        with os.fdopen(read_end, encoding="utf-8") as stream:
-            line = stream.readline().strip()
-        if not line:
-            raise RuntimeError(f"{words[0]} did not start")
-        return line
-
     def close(self):
-        for process in reversed(self.processes):
+        for process in self.processes:
             process.terminate()
             process.wait()
         shutil.rmtree(self.folder)

@@ -216,7 +216,7 @@ class FromAFile : public ::testing::TestWithParam<FileRow> {};
 
 TEST_P(FromAFile, IsText) {
   const testing::TemporaryDirectory directory;
-  std::filesystem::current_path(directory.path());
+  const testing::WorkingDirectory working_directory(directory.path());
   directory.Write("page.html", "a text");
   directory.Write("a b", "a text");
   directory.Write("empty", "");
@@ -244,7 +244,7 @@ INSTANTIATE_TEST_SUITE_P(
 TEST_F(Fetching, RefusesWhatIsNoUrlOfAResource) {
   testing::TemporaryDirectory directory;
   directory.Write("page", "a text");
-  std::filesystem::current_path(directory.path());
+  const testing::WorkingDirectory working_directory(directory.path());
   const HttpServer server(&CountDown);
   const std::string url = server.Url("/0");
   EXPECT_TRUE(machine().FetchText(url, kTimeout));

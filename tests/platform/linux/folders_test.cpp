@@ -431,7 +431,7 @@ TEST(HostProgram, IsThisOne) {
 
 TEST(OwnLocation, IsFoundWhereverTheHostWorks) {
   const std::string folder = fs::read_symlink("/proc/self/exe").parent_path();
-  fs::current_path("/");
+  const testing::WorkingDirectory working_directory("/");
   EXPECT_EQ(OwnFolder(), folder);
 }
 
