@@ -55,9 +55,6 @@ install(FILES "${PROJECT_BINARY_DIR}/package/velmohelp.pc"
 install(FILES docs/man/velmohelp.3 DESTINATION "${CMAKE_INSTALL_MANDIR}/man3"
   COMPONENT development)
 
-# The interpreter is not asked where: a package is built for another machine's.
-set(VELMO_PYTHON_DIR "lib/python3/dist-packages" CACHE STRING
-  "The folder of Python packages, below the prefix")
 install(DIRECTORY python/velmohelp DESTINATION "${VELMO_PYTHON_DIR}"
   COMPONENT python FILES_MATCHING PATTERN "*.py" PATTERN "py.typed")
 

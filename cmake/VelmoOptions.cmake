@@ -34,3 +34,7 @@ option(VELMO_INSTALL "Install the library and what belongs to it"
 if(PROJECT_IS_TOP_LEVEL AND NOT CMAKE_BUILD_TYPE)
   set(CMAKE_BUILD_TYPE Release CACHE STRING "Build type" FORCE)
 endif()
+
+# The interpreter is not asked where: a package is built for another machine's.
+set(VELMO_PYTHON_DIR "lib/python3/dist-packages" CACHE STRING
+  "The folder of Python packages, below the prefix")

@@ -9,8 +9,9 @@ SOURCE = sys.argv.pop(1)
 HERE = os.path.dirname(os.path.abspath(__file__))
 sys.path.insert(0, os.path.join(SOURCE, "python"))
 sys.path.insert(0, os.path.join(SOURCE, "tests/python"))
+sys.path.insert(0, os.path.join(SOURCE, "tests/support"))
 
-from screen import missing  # noqa: E402
+from servers import missing  # noqa: E402
 from velmohelp import Client, DisplayPageReturnCode  # noqa: E402
 from wayland import CannotStart, Compositor, Window  # noqa: E402
 from world import World  # noqa: E402
