@@ -25,7 +25,6 @@ class ALongLivedHost : public ::testing::Test {
     }
     world_.start().environment.push_back(
         world_.Expanded("QUICK_VIEWER={bin}/../Viewer.app"));
-    ASSERT_TRUE(world_.Initialise());
   }
 
   /// Requests of every kind; all but the last start a viewer.
@@ -41,6 +40,12 @@ class ALongLivedHost : public ::testing::Test {
       ASSERT_TRUE(ChildrenOf(world_.Host().pid()).empty());
       EndPrograms();
     }
+  }
+
+  /// EndPrograms may come upon a helper that searches itself for leaks at its
+  /// end, which then complains on the host's standard error.
+  void StopHelpersSearchForLeaks() {
+    world_.start().environment.push_back("ASAN_OPTIONS=detect_leaks=0");
   }
 
   /// The same without waiting.
@@ -77,6 +82,7 @@ class ALongLivedHost : public ::testing::Test {
   /// sanitizer's own memory does.
   template <typename Make>
   void ExpectNothingMoreAfter(int count, Make make) {
+    ASSERT_TRUE(world_.Initialise());
     make(kFirstRequests);
     const Words before = Facts();
     const long resident = ResidentKilobytes();
@@ -95,12 +101,14 @@ TEST_F(ALongLivedHost, IsAsItWasAfterThousandsOfRequests) {
 }
 
 TEST_F(ALongLivedHost, IsAsItWasAfterAThousandStartedRequests) {
+  StopHelpersSearchForLeaks();
   ExpectNothingMoreAfter(kStartedRequests,
                          [&](int count) { StartRequests(count); });
 }
 
 /// Takes minutes: scripts/check-all runs it.
 TEST_F(ALongLivedHost, DISABLED_IsAsItWasAfterTenThousandStartedRequests) {
+  StopHelpersSearchForLeaks();
   ExpectNothingMoreAfter(10000, [&](int count) { StartRequests(count); });
 }
 
