@@ -14,7 +14,7 @@ namespace velmohelp {
 ///
 ///     | guard | program's stack | intermediate's stack | report |
 ///
-/// A mapping costs a tenth of a start, so one of them is kept for the next
+/// A mapping costs a seventh of a start, so one of them is kept for the next
 /// start until the library is unloaded. What is kept is private: a child that
 /// the host forks, and perhaps confines, must not be able to write where the
 /// host's next start runs. Private memory carries the report only where the
